@@ -1,0 +1,143 @@
+// The material engine's four functions: finding and loading files, handing out and releasing records.
+#include "standalone/MaterialEngine.h"
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <mutex>
+#include <string_view>
+#include <utility>
+
+#include "standalone/MaterialRecord.h"
+
+namespace zeb {
+namespace {
+
+constexpr std::size_t kLargestFile = 64 * 1024 * 1024;
+constexpr std::string_view kSuffix = ".json";
+
+struct EngineState {
+  std::mutex mutex;
+  std::vector<std::string> folders{"."};
+  std::string lastError;
+};
+
+EngineState& engineState() {
+  static EngineState state;
+  return state;
+}
+
+void setLastError(std::string error) {
+  EngineState& state = engineState();
+  const std::lock_guard lock(state.mutex);
+  state.lastError = std::move(error);
+}
+
+bool namesFile(const std::string& name) {
+  const auto separator = static_cast<char>(std::filesystem::path::preferred_separator);
+  if (name.find('/') != std::string::npos || name.find(separator) != std::string::npos) return true;
+  return name.size() >= kSuffix.size() && name.compare(name.size() - kSuffix.size(), kSuffix.size(), kSuffix) == 0;
+}
+
+bool exists(const std::string& file) {
+  std::error_code ignored;
+  return std::filesystem::exists(file, ignored);
+}
+
+std::string findMaterialFile(const std::string& name) {
+  if (name.empty()) throw MaterialFileError("no material named");
+  if (name.find('\0') != std::string::npos) throw MaterialFileError("the material's name holds a NUL");
+  if (namesFile(name)) {
+    if (!exists(name)) throw MaterialFileError("material file '" + name + "' not found");
+    return name;
+  }
+  std::string places;
+  for (const std::string& folder : materialFolders()) {
+    const std::string file = (std::filesystem::path(folder) / (name + std::string(kSuffix))).string();
+    if (exists(file)) return file;
+    places += (places.empty() ? " in " : ", ") + folder;
+  }
+  throw MaterialFileError("material '" + name + "' not found" + (places.empty() ? ": no material folders" : places));
+}
+
+std::string readFile(const std::string& file) {
+  if (!std::filesystem::is_regular_file(file)) throw MaterialFileError("is not a file");
+  if (std::filesystem::file_size(file) > kLargestFile) throw MaterialFileError("is larger than 64 MB");
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) throw MaterialFileError("cannot be opened");
+  std::string text(static_cast<std::size_t>(std::filesystem::file_size(file)), '\0');
+  stream.read(text.data(), static_cast<std::streamsize>(text.size()));
+  if (stream.bad()) throw MaterialFileError("cannot be read");
+  text.resize(static_cast<std::size_t>(stream.gcount()));
+  return text;
+}
+
+std::unique_ptr<MaterialRecord> loadMaterial(const std::string& name) {
+  const std::string file = findMaterialFile(name);
+  try {
+    auto record = std::make_unique<MaterialRecord>();
+    parseMaterial(readFile(file), *record);
+    record->material.pEngine = record.get();
+    return record;
+  } catch (const std::filesystem::filesystem_error& error) {
+    throw MaterialFileError("material file '" + file + "': " + error.code().message());
+  } catch (const MaterialFileError& error) {
+    throw MaterialFileError("material file '" + file + "': " + error.what());
+  }
+}
+
+MaterialRecord* recordOf(ZebMaterial* material) {
+  return material == nullptr ? nullptr : static_cast<MaterialRecord*>(material->pEngine);
+}
+
+}  // namespace
+
+void setMaterialFolders(std::vector<std::string> folders) {
+  EngineState& state = engineState();
+  const std::lock_guard lock(state.mutex);
+  state.folders = std::move(folders);
+}
+
+std::vector<std::string> materialFolders() {
+  EngineState& state = engineState();
+  const std::lock_guard lock(state.mutex);
+  return state.folders;
+}
+
+std::string lastMaterialError() {
+  EngineState& state = engineState();
+  const std::lock_guard lock(state.mutex);
+  return state.lastError;
+}
+
+}  // namespace zeb
+
+ZebMaterial* ZebGetMaterial(const std::string& name) {
+  try {
+    auto record = zeb::loadMaterial(name);
+    zeb::setLastError("");
+    return &record.release()->material;
+  } catch (const std::bad_alloc&) {
+    zeb::setLastError("material '" + name + "': not enough memory");
+  } catch (const std::exception& error) {
+    zeb::setLastError(error.what());
+  }
+  return nullptr;
+}
+
+int ZebGetMTCInfo(ZebMaterial* material, int& unused, int& count) {
+  const zeb::MaterialRecord* const record = zeb::recordOf(material);
+  unused = 0;
+  count = record == nullptr ? 0 : static_cast<int>(record->testCurves.size());
+  return record == nullptr ? -1 : 1;
+}
+
+const ZEB_MTC* ZebGetMTCData(ZebMaterial* material, int index) {
+  const zeb::MaterialRecord* const record = zeb::recordOf(material);
+  if (record == nullptr || index < 0 || static_cast<std::size_t>(index) >= record->testCurves.size()) return nullptr;
+  return &record->testCurves[static_cast<std::size_t>(index)].record;
+}
+
+void ZebReleaseMaterial(ZebMaterial* material) {
+  delete zeb::recordOf(material);
+}
