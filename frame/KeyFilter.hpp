@@ -1,0 +1,140 @@
+// All keys of a section that stand anywhere in a line, found in one pass over the line.
+//
+// Every occurrence of a key covers a window of three characters that starts at a position divisible by the stride. So
+// the scan looks only at those windows; the table, built by the compiler, knows which keys hold which window, and a hit
+// is confirmed by comparing the whole key.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace zeb {
+
+/// A set of key numbers, visited in ascending order: the order in which the reader tests them.
+class KeySet {
+ public:
+  static constexpr std::size_t kCapacity = 128;
+
+  constexpr void insert(std::size_t key) { m_bits[key / 64] |= std::uint64_t{1} << (key % 64); }
+  constexpr bool empty() const { return (m_bits[0] | m_bits[1]) == 0; }
+  /// Takes out the smallest key. The set must not be empty.
+  constexpr std::size_t popFirst() {
+    const std::size_t word = m_bits[0] == 0 ? 1 : 0;
+    const auto bit = static_cast<std::size_t>(std::countr_zero(m_bits[word]));
+    m_bits[word] &= m_bits[word] - 1;
+    return word * 64 + bit;
+  }
+  /// Takes out every key up to and including `key`.
+  constexpr void dropUpTo(std::size_t key) {
+    while (!empty() && first() <= key) popFirst();
+  }
+  constexpr bool operator==(const KeySet&) const = default;
+
+ private:
+  constexpr std::size_t first() const { return KeySet(*this).popFirst(); }
+
+  std::uint64_t m_bits[2] = {};
+};
+
+/// The view of a filter that the scan works on; the tables behind it have static storage.
+struct KeyFilter {
+  struct Entry {
+    std::uint32_t window;  // the characters, as loaded from memory
+    std::uint8_t key;
+    std::uint8_t offset;  // of the window in the key
+    std::uint8_t next;    // chain: number of the next entry + 1, 0 at the end
+  };
+
+  std::span<const std::string_view> keys;
+  const Entry* entries = nullptr;
+  const std::uint8_t* heads = nullptr;  // by hash: number of the first entry + 1, 0 for none
+  unsigned shift = 0;
+  std::uint8_t window = 0;
+  std::uint8_t stride = 1;
+
+  static constexpr std::uint32_t kMultiplier = 0x9E3779B1u;
+
+  /// Requires that one more character may be read behind the line's last one (as in every std::string).
+  KeySet find(std::string_view line) const;
+};
+
+namespace detail {
+
+constexpr std::uint32_t windowAt(std::string_view text, std::size_t at, std::size_t width) {
+  std::uint32_t window = 0;
+  for (std::size_t i = 0; i < width; ++i) {
+    const std::uint32_t byte = static_cast<unsigned char>(text[at + i]);
+    const std::size_t position = std::endian::native == std::endian::little ? i : 3 - i;
+    window |= byte << (8 * position);
+  }
+  return window;
+}
+
+/// The tables of a filter for `Count` keys whose shortest has `Shortest` characters.
+template <std::size_t Count, std::size_t Shortest>
+struct KeyFilterTables {
+  static_assert(Count <= KeySet::kCapacity);
+  static_assert(Shortest >= 1);
+  static constexpr std::size_t kWindow = Shortest < 3 ? Shortest : 3;
+  static constexpr std::size_t kStride = std::min<std::size_t>(Shortest - kWindow + 1, 4);
+  static constexpr std::size_t kEntries = Count * kStride;
+  static_assert(kEntries < 255, "the chain's numbers are bytes");
+  // Sixteen heads for each entry: a window that belongs to no key meets an empty head 15 times of 16.
+  static constexpr unsigned kBits = static_cast<unsigned>(std::bit_width(kEntries * 16 - 1));
+  static constexpr unsigned kShift = 32 - kBits;
+
+  std::array<std::string_view, Count> keys{};
+  std::array<KeyFilter::Entry, kEntries> entries{};
+  std::array<std::uint8_t, std::size_t{1} << kBits> heads{};
+
+  static constexpr std::size_t hash(std::string_view key, std::size_t at) {
+    return (windowAt(key, at, kWindow) * KeyFilter::kMultiplier) >> kShift;
+  }
+
+  constexpr explicit KeyFilterTables(const std::array<std::string_view, Count>& allKeys) : keys(allKeys) {
+    // A key's windows may be taken anywhere in it: those that the section's keys share least give the fewest false
+    // hits.
+    std::array<std::uint8_t, std::size_t{1} << kBits> uses{};
+    for (const auto key : keys) {
+      for (std::size_t at = 0; at + kWindow <= key.size(); ++at) {
+        auto& count = uses[hash(key, at)];
+        if (count < 255) ++count;
+      }
+    }
+    std::size_t entry = 0;
+    for (std::size_t k = 0; k < Count; ++k) {
+      const std::size_t first = rarest(keys[k], uses);
+      for (std::size_t offset = first; offset < first + kStride; ++offset) {
+        auto& head = heads[hash(keys[k], offset)];
+        entries[entry] = {windowAt(keys[k], offset, kWindow), static_cast<std::uint8_t>(k),
+                          static_cast<std::uint8_t>(offset), head};
+        head = static_cast<std::uint8_t>(++entry);
+      }
+    }
+  }
+
+  template <class Uses>
+  static constexpr std::size_t rarest(std::string_view key, const Uses& uses) {
+    std::size_t best = 0;
+    unsigned bestUses = ~0u;
+    for (std::size_t first = 0; first + kStride - 1 + kWindow <= key.size(); ++first) {
+      unsigned sum = 0;
+      for (std::size_t offset = first; offset < first + kStride; ++offset) sum += uses[hash(key, offset)];
+      if (sum < bestUses) {
+        bestUses = sum;
+        best = first;
+      }
+    }
+    return best;
+  }
+
+  constexpr KeyFilter view() const { return {keys, entries.data(), heads.data(), kShift, kWindow, kStride}; }
+};
+
+}  // namespace detail
+
+}  // namespace zeb

@@ -1,0 +1,59 @@
+// Openings are rare, so the test for their first character decides most lines.
+#include "frame/SectionDispatch.hpp"
+
+#include "frame/Rank0Section.hpp"
+#include "frame/ReadObserver.hpp"
+#include "frame/SectionEngine.hpp"
+#include "frame/ValueText.hpp"
+
+namespace zeb {
+
+namespace {
+
+void run(const DispatchEntry& entry, LineReader& lines) {
+  if (entry.section->isPositional()) {
+    readPositional(*entry.section, entry.block, lines);
+  } else if (entry.section->readByRank0) {
+    readSectionOnRank0(*entry.section, entry.block, lines);
+  } else {
+    readSection(*entry.section, entry.block, lines);
+  }
+}
+
+// Whether the opening stands at the text's first bracket or, where there are more of them, at another one.
+bool opens(std::string_view fromFirstBracket, bool hasMoreBrackets, std::string_view open) {
+  if (fromFirstBracket.size() < open.size()) return false;
+  if (fromFirstBracket[1] == open[1] && fromFirstBracket.starts_with(open)) return true;
+  return hasMoreBrackets && fromFirstBracket.find(open, 1) != fromFirstBracket.npos;
+}
+
+}  // namespace
+
+bool dispatchLine(std::span<const DispatchEntry> entries, const std::string& line, LineReader& lines) {
+  // All openings of a format begin with the same character.
+  const char bracket = entries.front().section->open.front();
+  const std::size_t first = line.find(bracket);
+  bool opened = false;
+  if (first != line.npos) {
+    const std::string_view candidates = std::string_view(line).substr(first);
+    const bool hasMore = candidates.find(bracket, 1) != candidates.npos;
+    for (const DispatchEntry& entry : entries) {
+      if (!opens(candidates, hasMore, entry.section->open)) continue;
+      run(entry, lines);
+      opened = true;
+    }
+  }
+  if (!opened && lines.observer() != nullptr) [[unlikely]] {
+    lines.observer()->lineOutside(lines.lineNumber(), line);
+  }
+  return opened;
+}
+
+bool scanVersion(std::string_view line, int& version) {
+  version = 0;
+  FieldScanner scanner(line);
+  std::string_view tag;
+  return scanner.next(tag) && scanner.next(version);
+}
+
+}  // namespace zeb

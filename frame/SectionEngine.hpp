@@ -1,0 +1,42 @@
+// The one loop that reads keyed sections, and the one that reads positional lines, for every table.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "frame/LineSource.hpp"
+#include "frame/ParameterTable.hpp"
+#include "frame/ValueText.hpp"
+
+namespace zeb {
+
+/// What a list function works with.
+struct ListContext {
+  const Section& section;
+  const Row& row;  ///< of the key that announced the list
+  void* block;
+  LineReader& lines;
+  std::string& line;  ///< the current line; with ListResult::kNextLine the list leaves another one here
+};
+
+/// Reads the lines of a keyed section into the block, up to and including its closing line or to the end of the input.
+void readSection(const Section& section, void* block, LineReader& lines);
+
+/// Tests every key of the section on one line and stores what is found. False when a list met the section's end.
+bool readKeys(const Section& section, void* block, LineReader& lines, std::string& line);
+
+/// Reads a positional section's lines straight into the block. False when its version line does not match: then
+/// only that line has been taken.
+bool readPositional(const Section& section, void* block, LineReader& lines);
+
+bool isClosedBy(const Section& section, std::string_view line);
+
+/// Takes the next line of a list, an empty one when the input is exhausted (then false).
+bool nextLineOfList(ListContext& context, std::string& line);
+/// Tells the observer what became of a line of a list.
+void reportLineOfList(const ListContext& context, std::string_view line, bool used);
+/// For a count that stands in a line of a list: prints, where the file is read, that it is outside of 0 to
+/// kLargestCount. The list then stores 0 and takes no line for it.
+void refuseCount(const ListContext& context, std::string_view key, int count);
+
+}  // namespace zeb

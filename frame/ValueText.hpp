@@ -1,0 +1,39 @@
+// From text to value: the two number grammars of the parameter files, and where a line keeps its value.
+#pragma once
+
+#include <string_view>
+
+namespace zeb {
+
+/// The text after the line's first '=', leading spaces (not tabs) removed; empty when there is no '='.
+std::string_view valueText(std::string_view line);
+
+/// What a stream's `>>` in the classic locale takes from the text. Each returns the number of characters used, 0 when
+/// the extraction fails; `value` is then untouched. Out of range and an exponent without digits ("1e") fail; nan, inf
+/// and hexadecimal are no numbers here ("0x10" is 0).
+std::size_t extractDouble(std::string_view text, double& value);
+std::size_t extractInt(std::string_view text, int& value);
+/// The first word delimited by white space; its end is the end of what was used.
+std::size_t extractWord(std::string_view text, std::string_view& value);
+
+/// The fields of one positional line, taken one after the other as the C library's formatted scan takes them in the "C"
+/// locale: nan, inf and hexadecimal are numbers. An integer that does not fit an int does not match. After the
+/// first field that does not match nothing more is converted.
+class FieldScanner {
+ public:
+  explicit FieldScanner(std::string_view line) : m_rest(line) {}
+
+  bool next(double& value);
+  bool next(int& value);
+  bool next(std::string_view& word);
+  /// What no field has taken yet.
+  std::string_view rest() const { return m_rest; }
+
+ private:
+  bool take(std::size_t used);
+
+  std::string_view m_rest;
+  bool m_failed = false;
+};
+
+}  // namespace zeb
