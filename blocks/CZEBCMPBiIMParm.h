@@ -1,0 +1,22 @@
+// Bi-injection.
+#pragma once
+
+#include "frame/BlockAccess.h"
+
+/// Bi-injection, from the section [BiIM]. Plain values; assignment copies them.
+class CZEBCMPBiIMParm {
+ public:
+  CZEBCMPBiIMParm();
+  CZEBCMPBiIMParm(const CZEBCMPBiIMParm&) = default;
+  ~CZEBCMPBiIMParm();
+  CZEBCMPBiIMParm& operator=(const CZEBCMPBiIMParm& other);
+
+  int iBiIMABA() const;
+  int iCalculateVOFtoPack() const;
+
+ private:
+  friend const zeb::BlockTable& zeb::tableOf<CZEBCMPBiIMParm>();
+
+  int m_iBiIMABA = 0;
+  int m_iCalculateVOFtoPack = 0;
+};

@@ -1,0 +1,104 @@
+#include "blocks/CZEBCMPCompressibleFlowParm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMPCompressibleFlowParm::CZEBCMPCompressibleFlowParm() = default;
+CZEBCMPCompressibleFlowParm::~CZEBCMPCompressibleFlowParm() = default;
+CZEBCMPCompressibleFlowParm& CZEBCMPCompressibleFlowParm::operator=(const CZEBCMPCompressibleFlowParm& other) = default;
+
+int CZEBCMPCompressibleFlowParm::iCompressible() const { return m_iCompressible; }
+int CZEBCMPCompressibleFlowParm::iUseNormalStressTerm() const { return m_iUseNormalStressTerm; }
+int CZEBCMPCompressibleFlowParm::iCompressible_SIMPLER_Niter() const { return m_iCompressible_SIMPLER_Niter; }
+int CZEBCMPCompressibleFlowParm::iCompressible_CM_Niter() const { return m_iCompressible_CM_Niter; }
+double CZEBCMPCompressibleFlowParm::dCompressible_SIMPLER_Tol() const { return m_dCompressible_SIMPLER_Tol; }
+double CZEBCMPCompressibleFlowParm::dCompressible_PISO_Tol() const { return m_dCompressible_PISO_Tol; }
+double CZEBCMPCompressibleFlowParm::dCompressible_TolPres() const { return m_dCompressible_TolPres; }
+double CZEBCMPCompressibleFlowParm::dCompressible_U_Tol() const { return m_dCompressible_U_Tol; }
+double CZEBCMPCompressibleFlowParm::dCompressible_V_Tol() const { return m_dCompressible_V_Tol; }
+double CZEBCMPCompressibleFlowParm::dCompressible_W_Tol() const { return m_dCompressible_W_Tol; }
+double CZEBCMPCompressibleFlowParm::dCompressible_U_Relax() const { return m_dCompressible_U_Relax; }
+double CZEBCMPCompressibleFlowParm::dCompressible_V_Relax() const { return m_dCompressible_V_Relax; }
+double CZEBCMPCompressibleFlowParm::dCompressible_W_Relax() const { return m_dCompressible_W_Relax; }
+double CZEBCMPCompressibleFlowParm::dCompressible_CM_P_Tol() const { return m_dCompressible_CM_P_Tol; }
+double CZEBCMPCompressibleFlowParm::dCompressible_CM_P_Relax() const { return m_dCompressible_CM_P_Relax; }
+double CZEBCMPCompressibleFlowParm::dAirdDdp() const { return m_dAirdDdp; }
+double CZEBCMPCompressibleFlowParm::dVentAirDdp() const { return m_dVentAirDdp; }
+
+void CZEBCMPCompressibleFlowParm::SetVentAirDdp(double value) { m_dVentAirDdp = value; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPCompressibleFlowParm>() {
+  using T = CZEBCMPCompressibleFlowParm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iCompressible, &T::iCompressible>(), .key = "CompressibleFlow",
+       .label = "m_iCompressible\t\t\t\t= ",
+       .doc = "Switch: compressible flow."},
+      {.field = field<&T::m_iUseNormalStressTerm, &T::iUseNormalStressTerm>(), .key = "UseNormalStressTerm",
+       .echo = {"UseNormalStressTerm     = "}, .label = "m_iUseNormalStressTerm\t\t\t= ",
+       .doc = "Switch: use of the normal-stress term."},
+      {.field = field<&T::m_iCompressible_SIMPLER_Niter, &T::iCompressible_SIMPLER_Niter>(),
+       .key = "Compressible_SIMPLE_Niter", .echo = {"Compressible_SIMPLE_Niter = "},
+       .label = "m_iCompressible_SIMPLER_Niter\t= ",
+       .doc = "Number of SIMPLE iterations."},
+      {.field = field<&T::m_iCompressible_CM_Niter, &T::iCompressible_CM_Niter>(), .key = "Compressible_CM_Niter",
+       .echo = {"Compressible_CM_Niter = "}, .label = "m_iCompressible_CM_Niter\t\t= ",
+       .doc = "Number of CM iterations."},
+      {.field = field<&T::m_dCompressible_SIMPLER_Tol, &T::dCompressible_SIMPLER_Tol>(),
+       .key = "Compressible_SIMPLE_Tol", .echo = {"Compressible_SIMPLE_Tol = "},
+       .label = "m_dCompressible_SIMPLER_Tol\t= ",
+       .doc = "Tolerance of the SIMPLE iterations."},
+      {.field = field<&T::m_dCompressible_PISO_Tol, &T::dCompressible_PISO_Tol>(),
+       .label = "m_dCompressible_PISO_Tol\t\t= ",
+       .doc = "Tolerance of the PISO iterations."},
+      {.field = field<&T::m_dCompressible_TolPres, &T::dCompressible_TolPres>(), .key = "Compressible_TolPres",
+       .echo = {"Compressible_TolPres = "}, .label = "m_dCompressible_TolPres\t\t= ",
+       .doc = "Tolerance of the pressure."},
+      {.field = field<&T::m_dCompressible_U_Tol, &T::dCompressible_U_Tol>(), .key = "Compressible_UVW_Tol",
+       .echo = {"Compressible_UVW_Tol    = "}, .label = "m_dCompressible_U_Tol\t\t\t= ",
+       .doc = "Tolerance of the velocity component U."},
+      {.field = field<&T::m_dCompressible_V_Tol, &T::dCompressible_V_Tol>(), .key = "Compressible_UVW_Tol",
+       .label = "m_dCompressible_V_Tol\t\t\t= ",
+       .doc = "Tolerance of the velocity component V."},
+      {.field = field<&T::m_dCompressible_W_Tol, &T::dCompressible_W_Tol>(), .key = "Compressible_UVW_Tol",
+       .label = "m_dCompressible_W_Tol\t\t\t= ",
+       .doc = "Tolerance of the velocity component W."},
+      {.field = field<&T::m_dCompressible_U_Relax, &T::dCompressible_U_Relax>(), .key = "Compressible_UVW_Relax",
+       .echo = {"Compressible_UVW_Relax    = "}, .label = "m_dCompressible_U_Relax\t\t= ",
+       .doc = "Relaxation of the velocity component U."},
+      {.field = field<&T::m_dCompressible_V_Relax, &T::dCompressible_V_Relax>(), .key = "Compressible_UVW_Relax",
+       .label = "m_dCompressible_V_Relax\t\t= ",
+       .doc = "Relaxation of the velocity component V."},
+      {.field = field<&T::m_dCompressible_W_Relax, &T::dCompressible_W_Relax>(), .key = "Compressible_UVW_Relax",
+       .label = "m_dCompressible_W_Relax\t\t= ",
+       .doc = "Relaxation of the velocity component W."},
+      {.field = field<&T::m_dCompressible_CM_P_Tol, &T::dCompressible_CM_P_Tol>(), .key = "Compressible_CM_P_Tol",
+       .echo = {"Compressible_P_Tol    = "}, .label = "m_dCompressible_CM_P_Tol\t\t= ",
+       .doc = "Tolerance of the pressure in the CM iterations."},
+      {.field = field<&T::m_dCompressible_CM_P_Relax, &T::dCompressible_CM_P_Relax>(),
+       .key = "Compressible_CM_P_Relax", .echo = {"Compressible_P_Relax    = "},
+       .label = "m_dCompressible_CM_P_Relax\t\t= ",
+       .doc = "Relaxation of the pressure in the CM iterations."},
+      {.field = field<&T::m_dAirdDdp, &T::dAirdDdp>(), .key = "AirdDdp", .echo = {"AirdDdp     = "},
+       .label = "m_dAirdDdp\t\t\t\t\t\t= ",
+       .doc = "dD/dp of the air. Meaning defined by the solver."},
+      {.field = field<&T::m_dVentAirDdp, &T::dVentAirDdp>(), .key = "VentdDdp", .echo = {"m_dVentAirDdp     = "},
+       .label = "m_dVentAirDdp\t\t\t\t\t= ",
+       .doc = "dD/dp of the vented air. Meaning defined by the solver."},
+  };
+  static constexpr Order<12> kReadingOrder{
+      "CompressibleFlow", "Compressible_SIMPLE_Niter", "Compressible_CM_Niter", "Compressible_SIMPLE_Tol",
+      "Compressible_TolPres", "Compressible_UVW_Tol", "Compressible_CM_P_Tol", "Compressible_UVW_Relax",
+      "Compressible_CM_P_Relax", "UseNormalStressTerm", "AirdDdp", "VentdDdp"};
+  static constexpr Order<17> kDumpOrder{
+      "m_iCompressible", "m_iCompressible_SIMPLER_Niter", "m_iCompressible_CM_Niter", "m_dCompressible_SIMPLER_Tol",
+      "m_dCompressible_PISO_Tol", "m_dCompressible_TolPres", "m_dCompressible_U_Tol", "m_dCompressible_V_Tol",
+      "m_dCompressible_W_Tol", "m_dCompressible_U_Relax", "m_dCompressible_V_Relax", "m_dCompressible_W_Relax",
+      "m_dCompressible_CM_P_Tol", "m_dCompressible_CM_P_Relax", "m_iUseNormalStressTerm", "m_dAirdDdp",
+      "m_dVentAirDdp"};
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"CompressibleFlow", kRows, kReadingOrder>()};
+  static constexpr BlockTable kTable =
+      blockTable<T, kSections, kDumpOrder>("\n---------CompressibleFlow Parameters---------");
+  return kTable;
+}

@@ -1,0 +1,79 @@
+#include "blocks/CZEBCMPCrystallineParm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMPCrystallineParm::CZEBCMPCrystallineParm() = default;
+CZEBCMPCrystallineParm::~CZEBCMPCrystallineParm() = default;
+CZEBCMPCrystallineParm& CZEBCMPCrystallineParm::operator=(const CZEBCMPCrystallineParm& other) = default;
+
+int CZEBCMPCrystallineParm::iFlagDebug() const { return m_iFlagDebug; }
+int CZEBCMPCrystallineParm::iFlagIsPlotDynamic() const { return m_iFlagIsPlotDynamic; }
+double CZEBCMPCrystallineParm::PlotStartTemper() const { return m_PlotStartTemper; }
+double CZEBCMPCrystallineParm::PlotEndTemper() const { return m_PlotEndTemper; }
+double CZEBCMPCrystallineParm::PlotQ() const { return m_PlotQ; }
+double CZEBCMPCrystallineParm::PlotStress() const { return m_PlotStress; }
+double CZEBCMPCrystallineParm::PlotPressure() const { return m_PlotPressure; }
+int CZEBCMPCrystallineParm::iCrystalModel() const { return m_iCrystalModel; }
+double CZEBCMPCrystallineParm::dParm_n() const { return m_dParm_n; }
+double CZEBCMPCrystallineParm::dParm_n_2nd() const { return m_dParm_n_2nd; }
+double CZEBCMPCrystallineParm::dU_activeEenergy() const { return m_dU_activeEenergy; }
+double CZEBCMPCrystallineParm::dU_activeEenergy_2nd() const { return m_dU_activeEenergy_2nd; }
+double CZEBCMPCrystallineParm::dHalfCrystallTime_0() const { return m_dHalfCrystallTime_0; }
+double CZEBCMPCrystallineParm::dHalfCrystallTime_0_2nd() const { return m_dHalfCrystallTime_0_2nd; }
+double CZEBCMPCrystallineParm::dSpheruliteGrowthRate() const { return m_dSpheruliteGrowthRate; }
+double CZEBCMPCrystallineParm::dSpheruliteGrowthRate_2nd() const { return m_dSpheruliteGrowthRate_2nd; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPCrystallineParm>() {
+  using T = CZEBCMPCrystallineParm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iFlagDebug, &T::iFlagDebug>(), .key = "FlagDebug", .label = "m_iFlagDebug\t\t\t= ",
+       .doc = "Debug flag. Meaning defined by the solver."},
+      {.field = field<&T::m_iFlagIsPlotDynamic, &T::iFlagIsPlotDynamic>(), .key = "FlagIsPlotDynamic",
+       .label = "m_iFlagIsPlotDynamic\t= ",
+       .doc = "Switch: dynamic plot."},
+      {.field = field<&T::m_PlotStartTemper, &T::PlotStartTemper>(), .key = "Start Temperature",
+       .label = "m_PlotStartTemper\t\t= ",
+       .doc = "Start temperature of the plot."},
+      {.field = field<&T::m_PlotEndTemper, &T::PlotEndTemper>(), .key = "End Temperature",
+       .label = "m_PlotEndTemper\t\t= ",
+       .doc = "End temperature of the plot."},
+      {.field = field<&T::m_PlotQ, &T::PlotQ>(), .key = "Heat Flux Q", .label = "m_PlotQ\t\t\t\t= ",
+       .doc = "Heat flux Q of the plot."},
+      {.field = field<&T::m_PlotStress, &T::PlotStress>(), .key = "Stress", .label = "m_PlotStress\t\t\t= ",
+       .doc = "Stress of the plot."},
+      {.field = field<&T::m_PlotPressure, &T::PlotPressure>(), .key = "Pressure", .label = "m_PlotPressure\t\t\t= ",
+       .doc = "Pressure of the plot."},
+      {.field = field<&T::m_iCrystalModel, &T::iCrystalModel>(), .key = "CrystalModel",
+       .label = "m_iCrystalModel        = ",
+       .doc = "Crystallization model. Meaning defined by the solver."},
+      {.field = field<&T::m_dParm_n, &T::dParm_n>(), .key = "Parm_n_Primary", .label = "m_dParm_n              = ",
+       .doc = "Parameter n of the primary crystallization."},
+      {.field = field<&T::m_dParm_n_2nd, &T::dParm_n_2nd>(), .key = "Parm_n_Secondary",
+       .label = "m_dParm_n_2nd          = ",
+       .doc = "Parameter n of the secondary crystallization."},
+      {.field = field<&T::m_dU_activeEenergy, &T::dU_activeEenergy>(), .key = "Parm_Ustar_Primary",
+       .label = "m_dU_activeEenergy     = ",
+       .doc = "Activation energy U* of the primary crystallization."},
+      {.field = field<&T::m_dU_activeEenergy_2nd, &T::dU_activeEenergy_2nd>(), .key = "Parm_Ustar_Secondary",
+       .label = "m_dU_activeEenergy_2nd = ",
+       .doc = "Activation energy U* of the secondary crystallization."},
+      {.field = field<&T::m_dHalfCrystallTime_0, &T::dHalfCrystallTime_0>(), .key = "Parm_K0_Primary",
+       .label = "m_dHalfCrystallTime_0  = ",
+       .doc = "Parameter K0 (half-crystallization time) of the primary crystallization."},
+      {.field = field<&T::m_dHalfCrystallTime_0_2nd, &T::dHalfCrystallTime_0_2nd>(), .key = "Parm_K0_Secondary",
+       .label = "m_dHalfCrystallTime_0_2nd   = ",
+       .doc = "Parameter K0 (half-crystallization time) of the secondary crystallization."},
+      {.field = field<&T::m_dSpheruliteGrowthRate, &T::dSpheruliteGrowthRate>(), .key = "Parm_Kg_Primary",
+       .label = "m_dSpheruliteGrowthRate     = ",
+       .doc = "Parameter Kg (spherulite growth rate) of the primary crystallization."},
+      {.field = field<&T::m_dSpheruliteGrowthRate_2nd, &T::dSpheruliteGrowthRate_2nd>(), .key = "Parm_Kg_Secondary",
+       .label = "m_dSpheruliteGrowthRate_2nd = ",
+       .doc = "Parameter Kg (spherulite growth rate) of the secondary crystallization."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"Crystalline", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------Crystalline Parameters---------");
+  return kTable;
+}

@@ -1,0 +1,36 @@
+#include "blocks/CZEBCMPCtrlHRSystemParm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMPCtrlHRSystemParm::CZEBCMPCtrlHRSystemParm() = default;
+CZEBCMPCtrlHRSystemParm::~CZEBCMPCtrlHRSystemParm() = default;
+CZEBCMPCtrlHRSystemParm& CZEBCMPCtrlHRSystemParm::operator=(const CZEBCMPCtrlHRSystemParm& other) = default;
+
+int CZEBCMPCtrlHRSystemParm::iHRShearRateCtrl() const { return m_iHRShearRateCtrl; }
+int CZEBCMPCtrlHRSystemParm::iHRDtCtrlMethod() const { return m_iHRDtCtrlMethod; }
+double CZEBCMPCtrlHRSystemParm::dHRDtCtrlFactor() const { return m_dHRDtCtrlFactor; }
+double CZEBCMPCtrlHRSystemParm::dHRDtCtrlFactor_2() const { return m_dHRDtCtrlFactor_2; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPCtrlHRSystemParm>() {
+  using T = CZEBCMPCtrlHRSystemParm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iHRShearRateCtrl, &T::iHRShearRateCtrl>(), .key = "HRShearRateCtrl",
+       .label = "m_iHRShearRateCtrl\t\t= ",
+       .doc = "Shear-rate control of the HR schemes. Meaning defined by the solver."},
+      {.field = field<&T::m_iHRDtCtrlMethod, &T::iHRDtCtrlMethod>(), .key = "HRDtCtrlMethod",
+       .label = "m_iHRDtCtrlMethod\t\t= ",
+       .doc = "Method of the HR time-step control. Meaning defined by the solver."},
+      {.field = field<&T::m_dHRDtCtrlFactor, &T::dHRDtCtrlFactor>(), .key = "HRDtCtrlFactor1",
+       .label = "m_dHRDtCtrlFactor\t\t= ",
+       .doc = "First factor of the HR time-step control."},
+      {.field = field<&T::m_dHRDtCtrlFactor_2, &T::dHRDtCtrlFactor_2>(), .key = "HRDtCtrlFactor2",
+       .label = "m_dHRDtCtrlFactor_2\t= ",
+       .doc = "Second factor of the HR time-step control."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"CtrlHRSystem", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------CtrlHRSystemParm Parameters---------");
+  return kTable;
+}

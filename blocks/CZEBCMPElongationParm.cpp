@@ -1,0 +1,44 @@
+#include "blocks/CZEBCMPElongationParm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMPElongationParm::CZEBCMPElongationParm() = default;
+CZEBCMPElongationParm::~CZEBCMPElongationParm() = default;
+CZEBCMPElongationParm& CZEBCMPElongationParm::operator=(const CZEBCMPElongationParm& other) = default;
+
+int CZEBCMPElongationParm::iIsViscoFacByElongation() const { return m_iIsViscoFacByElongation; }
+int CZEBCMPElongationParm::iDisplayElongResult() const { return m_iDisplayElongResult; }
+int CZEBCMPElongationParm::iElongModel() const { return m_iElongModel; }
+double CZEBCMPElongationParm::ElongModel_A() const { return m_dElongModel_A; }
+double CZEBCMPElongationParm::ElongModel_B() const { return m_dElongModel_B; }
+double CZEBCMPElongationParm::ElongModel_E_cri() const { return m_dElongModel_E_cri; }
+int CZEBCMPElongationParm::iCalcShearRateMethod() const { return m_iCalcShearRateMethod; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPElongationParm>() {
+  using T = CZEBCMPElongationParm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iIsViscoFacByElongation, &T::iIsViscoFacByElongation>(), .key = "IsViscoFacByElongation",
+       .label = "m_iIsViscoFacByElongation = ",
+       .doc = "Switch: viscosity factor by elongation."},
+      {.field = field<&T::m_iDisplayElongResult, &T::iDisplayElongResult>(), .key = "DisplayElongationResult",
+       .label = "m_iDisplayElongResult = ",
+       .doc = "Switch: display of the elongation result."},
+      {.field = field<&T::m_iElongModel, &T::iElongModel>(), .key = "ElongationModel", .label = "m_iElongModel = ",
+       .doc = "Elongation model. Meaning defined by the solver."},
+      {.field = field<&T::m_dElongModel_A, &T::ElongModel_A>(), .key = "Parm_A", .label = "A = ",
+       .doc = "Coefficient A of the elongation model."},
+      {.field = field<&T::m_dElongModel_B, &T::ElongModel_B>(), .key = "Parm_B", .label = "B = ",
+       .doc = "Coefficient B of the elongation model."},
+      {.field = field<&T::m_dElongModel_E_cri, &T::ElongModel_E_cri>(), .key = "Parm_E_cri", .label = "E_cri = ",
+       .doc = "Coefficient E_cri of the elongation model."},
+      {.field = field<&T::m_iCalcShearRateMethod, &T::iCalcShearRateMethod>(), .key = "CalcShearRateMethod",
+       .label = "m_iCalcShearRateMethod = ",
+       .doc = "Method of calculating the shear rate. Meaning defined by the solver."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"Elongation", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------Elongation Parameters---------");
+  return kTable;
+}

@@ -1,0 +1,53 @@
+#include "blocks/CZEBCMPHRSchemesParm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMPHRSchemesParm::CZEBCMPHRSchemesParm() = default;
+CZEBCMPHRSchemesParm::~CZEBCMPHRSchemesParm() = default;
+CZEBCMPHRSchemesParm& CZEBCMPHRSchemesParm::operator=(const CZEBCMPHRSchemesParm& other) = default;
+
+int CZEBCMPHRSchemesParm::iHRMethod() const { return m_iHRMethod; }
+double CZEBCMPHRSchemesParm::dHRKr() const { return m_dHRKr; }
+int CZEBCMPHRSchemesParm::iHRDtMethod() const { return m_iHRDtMethod; }
+int CZEBCMPHRSchemesParm::iHRPhaseField() const { return m_iHRPhaseField; }
+double CZEBCMPHRSchemesParm::dHRCompressiveC() const { return m_dHRCompressiveC; }
+double CZEBCMPHRSchemesParm::dHRRatio() const { return m_dHRRatio; }
+int CZEBCMPHRSchemesParm::iHRSkewness() const { return m_iHRSkewness; }
+double CZEBCMPHRSchemesParm::dFCRI() const { return m_dFCRI; }
+int CZEBCMPHRSchemesParm::iNSmoothVolF() const { return m_iNSmoothVolF; }
+
+void CZEBCMPHRSchemesParm::SetHRMethod(int value) { m_iHRMethod = value; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPHRSchemesParm>() {
+  using T = CZEBCMPHRSchemesParm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iHRMethod, &T::iHRMethod>(), .key = "HRMethod", .label = "m_iHRMethod\t\t= ",
+       .doc = "HR scheme. Meaning defined by the solver."},
+      {.field = field<&T::m_dHRKr, &T::dHRKr>(), .key = "HRKr", .label = "m_dHRKr\t\t\t= ",
+       .doc = "Kr of the HR scheme. Meaning defined by the solver."},
+      {.field = field<&T::m_iHRDtMethod, &T::iHRDtMethod>(), .key = "HRDtMethod", .label = "m_iHRDtMethod \t\t= ",
+       .doc = "Time-step method of the HR scheme. Meaning defined by the solver."},
+      {.field = field<&T::m_iHRPhaseField, &T::iHRPhaseField>(), .key = "HRPhaseField",
+       .label = "m_iHRPhaseField \t= ",
+       .doc = "Phase-field option of the HR scheme. Meaning defined by the solver."},
+      {.field = field<&T::m_dHRCompressiveC, &T::dHRCompressiveC>(), .key = "HRCompC",
+       .label = "m_dHRCompressiveC \t= ",
+       .doc = "Compressive coefficient C of the HR scheme."},
+      {.field = field<&T::m_dHRRatio, &T::dHRRatio>(), .key = "HRRatio", .label = "m_dHRRatio\t\t\t= ",
+       .doc = "Ratio of the HR scheme. Meaning defined by the solver."},
+      {.field = field<&T::m_iHRSkewness, &T::iHRSkewness>(), .key = "HRSkewness", .label = "m_iHRSkewness\t\t= ",
+       .doc = "Skewness option of the HR scheme. Meaning defined by the solver."},
+      {.field = field<&T::m_dFCRI, &T::dFCRI>(), .key = "FCRI", .label = "m_dFCRI \t\t\t= ",
+       .doc = "Meaning defined by the solver."},
+      {.field = field<&T::m_iNSmoothVolF, &T::iNSmoothVolF>(), .key = "NSmoothVolF", .label = "m_iNSmoothVolF \t= ",
+       .doc = "Number of smoothings of the volume fraction."},
+  };
+  static constexpr Order<9> kReadingOrder{
+      "HRMethod", "HRKr", "FCRI", "HRDtMethod", "HRPhaseField", "HRCompC", "HRRatio", "HRSkewness", "NSmoothVolF"};
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"HRSchemes", kRows, kReadingOrder>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------HRSchemes Parameters---------");
+  return kTable;
+}

@@ -1,0 +1,23 @@
+#include "blocks/CZEBCMPIBMParm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMPIBMParm::CZEBCMPIBMParm() = default;
+CZEBCMPIBMParm::~CZEBCMPIBMParm() = default;
+CZEBCMPIBMParm& CZEBCMPIBMParm::operator=(const CZEBCMPIBMParm& other) = default;
+
+int CZEBCMPIBMParm::iIsIBM() const { return m_iIsIBM; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPIBMParm>() {
+  using T = CZEBCMPIBMParm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iIsIBM, &T::iIsIBM>(), .key = "IsIBM", .label = "m_iIsIBM\t\t= ",
+       .doc = "Switch: immersed-boundary variant."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"IBM", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------IBM Parameters---------");
+  return kTable;
+}

@@ -1,0 +1,30 @@
+#include "blocks/CZEBCMPMAFVMParm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMPMAFVMParm::CZEBCMPMAFVMParm() = default;
+CZEBCMPMAFVMParm::~CZEBCMPMAFVMParm() = default;
+CZEBCMPMAFVMParm& CZEBCMPMAFVMParm::operator=(const CZEBCMPMAFVMParm& other) = default;
+
+int CZEBCMPMAFVMParm::iIsMAFVM() const { return m_iIsMAFVM; }
+int CZEBCMPMAFVMParm::iIsMAFVM_Flow() const { return m_iIsMAFVM_Flow; }
+int CZEBCMPMAFVMParm::iIsMAFVM_Thermal() const { return m_iIsMAFVM_Thermal; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPMAFVMParm>() {
+  using T = CZEBCMPMAFVMParm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iIsMAFVM, &T::iIsMAFVM>(), .key = "IsMAFVM", .label = "m_iIsMAFVM\t\t\t\t= ",
+       .doc = "Switch: multi-algorithm finite-volume variant."},
+      {.field = field<&T::m_iIsMAFVM_Flow, &T::iIsMAFVM_Flow>(), .key = "IsFlow", .label = "m_iIsMAFVM_Flow\t\t= ",
+       .doc = "Switch: multi-algorithm finite-volume variant of the flow."},
+      {.field = field<&T::m_iIsMAFVM_Thermal, &T::iIsMAFVM_Thermal>(), .key = "IsThermal",
+       .label = "m_iIsMAFVM_Thermal\t\t= ",
+       .doc = "Switch: multi-algorithm finite-volume variant of the thermal part."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"MAFVM", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------MAFVM Parameters---------");
+  return kTable;
+}

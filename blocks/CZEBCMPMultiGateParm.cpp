@@ -1,0 +1,142 @@
+#include "blocks/CZEBCMPMultiGateParm.h"
+
+#include <algorithm>
+
+#include "frame/SectionEngine.hpp"
+#include "frame/TableBuilder.hpp"
+#include "frame/TextOutput.hpp"
+
+namespace {
+
+constexpr std::string_view kWeightKey = "Weightings";
+constexpr std::string_view kTooFewWeights =
+    "The Number of Inlet Groups and the number of Weightings Groups is different\n";
+
+// One message for each group; for many of them in few pieces, as a count may exceed the file's lines by far.
+void reportMissingWeights(int groups) {
+  constexpr int kGroupsAtOnce = 1000;
+  std::string text;
+  for (int group = 1; group <= groups; ++group) {
+    text += kTooFewWeights;
+    if (group % kGroupsAtOnce != 0 && group != groups) continue;
+    zeb::writeOut(text);
+    text.clear();
+  }
+}
+
+}  // namespace
+
+CZEBCMPMultiGateParm::CZEBCMPMultiGateParm() = default;
+CZEBCMPMultiGateParm::~CZEBCMPMultiGateParm() = default;
+CZEBCMPMultiGateParm& CZEBCMPMultiGateParm::operator=(const CZEBCMPMultiGateParm& other) = default;
+
+int CZEBCMPMultiGateParm::iMultipleGateDebug() const { return m_iMultipleGateDebug; }
+int CZEBCMPMultiGateParm::iMultipleGateMethod() const { return m_iMultipleGateMethod; }
+int CZEBCMPMultiGateParm::iMultipleGateType() const { return m_iMultipleGateType; }
+int CZEBCMPMultiGateParm::iMultipleGateByTimeStep() const { return m_iMultipleGateByTimeStep; }
+double CZEBCMPMultiGateParm::dMultipleGateByVolume() const { return m_dMultipleGateByVolume; }
+double CZEBCMPMultiGateParm::dMultipleGateByCtrlCRRatio() const { return m_dMultipleGateByCtrlCRRatio; }
+int CZEBCMPMultiGateParm::iMultiGateOuteriteration() const { return m_iMultiGateOuteriteration; }
+double CZEBCMPMultiGateParm::dMultipleGateTolTargetQ() const { return m_dMultipleGateTolTargetQ; }
+double CZEBCMPMultiGateParm::dMultipleGateSPAdjustCoeff() const { return m_dMultipleGateSPAdjustCoeff; }
+double CZEBCMPMultiGateParm::dMultipleGateTolInletQ() const { return m_dMultipleGateTolInletQ; }
+double CZEBCMPMultiGateParm::dMultipleGateSPVariationLimit() const { return m_dMultipleGateSPVariationLimit; }
+int CZEBCMPMultiGateParm::iNumberofInletGroups() const { return m_iNumberofInletGroups; }
+const double* CZEBCMPMultiGateParm::pdInletWeightings() const { return m_pdInletWeightings.get(); }
+
+int CZEBCMPMultiGateParm::InletWeightings(double* out) const {
+  if (m_iNumberofInletGroups < 1) return 1;
+  if (out == nullptr) return -1;
+  m_pdInletWeightings.copyEntries(out);
+  return 1;
+}
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPMultiGateParm>() {
+  using T = CZEBCMPMultiGateParm;
+  // The lines after the count belong to the groups whatever they hold, a closing line among them included.
+  static constexpr ListReader kReadWeightings = [](ListContext& context) {
+    T& block = *static_cast<T*>(context.block);
+    const int groups = block.m_iNumberofInletGroups;
+    double* const weights = block.m_pdInletWeightings.allocate(static_cast<std::size_t>(groups) + 1);
+    weights[groups] = 1.0;
+    std::string line;
+    for (int group = 1; group <= groups; ++group) {
+      if (!nextLineOfList(context, line)) {
+        reportMissingWeights(groups - group + 1);
+        break;
+      }
+      const bool found = line.find(kWeightKey) != line.npos;
+      double weight = 0.0;
+      const bool parsed = found && extractDouble(valueText(line), weight) > 0;
+      if (!found) reportMissingWeights(1);
+      if (parsed && group < groups) {
+        weights[group] = weight;
+        weights[groups] -= weight;
+      }
+      reportLineOfList(context, line, parsed);
+    }
+    return ListResult::kSameLine;
+  };
+
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iMultipleGateDebug, &T::iMultipleGateDebug>(), .key = "Debug",
+       .label = "m_iMultipleGateDebug\t\t\t\t= ",
+       .doc = "Debug output of the balancing. Meaning defined by the solver."},
+      {.field = field<&T::m_iMultipleGateMethod, &T::iMultipleGateMethod>(),
+       .key = "MultipleGateMethod", .gateBelow = 1,
+       .label = "m_iMultipleGateMethod\t\t\t\t= ",
+       .doc = "Method of the balancing; below 1 the section's other keys are ignored."},
+      {.field = field<&T::m_iMultipleGateType, &T::iMultipleGateType>(), .key = "InitialType",
+       .label = "m_iMultipleGateType\t\t\t\t= ",
+       .doc = "Initial type of the balancing. Meaning defined by the solver."},
+      {.field = field<&T::m_iMultipleGateByTimeStep, &T::iMultipleGateByTimeStep>(), .key = "ByTimeStep",
+       .label = "m_iMultipleGateByTimeStep\t\t\t= ", .doc = "Balancing by time step. Meaning defined by the solver."},
+      {.field = field<&T::m_dMultipleGateByVolume, &T::dMultipleGateByVolume>(), .key = "ByVolume",
+       .label = "m_dMultipleGateByVolume\t\t\t= ", .doc = "Balancing by volume. Meaning defined by the solver."},
+      {.field = field<&T::m_dMultipleGateByCtrlCRRatio, &T::dMultipleGateByCtrlCRRatio>(), .key = "ByCtrlCRRatio",
+       .label = "m_dMultipleGateByCtrlCRRatio\t\t= ",
+       .doc = "Balancing by the control CR ratio. Meaning defined by the solver."},
+      {.field = field<&T::m_iMultiGateOuteriteration, &T::iMultiGateOuteriteration>(), .key = "OuterIteration",
+       .label = "m_iMultiGateOuteriteration\t\t\t= ", .doc = "Number of outer iterations."},
+      {.field = field<&T::m_dMultipleGateTolTargetQ, &T::dMultipleGateTolTargetQ>(), .key = "TolTargetQ",
+       .label = "m_dMultipleGateTolTargetQ\t\t\t= ", .doc = "Tolerance of the target flow rate."},
+      {.field = field<&T::m_dMultipleGateSPAdjustCoeff, &T::dMultipleGateSPAdjustCoeff>(), .key = "SPAdjustRatio",
+       .label = "m_dMultipleGateSPAdjustCoeff\t\t= ",
+       .doc = "Ratio by which SP is adjusted. Meaning defined by the solver."},
+      {.field = field<&T::m_dMultipleGateTolInletQ, &T::dMultipleGateTolInletQ>(), .key = "TolInletQ",
+       .label = "m_dMultipleGateTolInletQ\t\t\t= ", .doc = "Tolerance of the inlet flow rate."},
+      {.field = field<&T::m_dMultipleGateSPVariationLimit, &T::dMultipleGateSPVariationLimit>(),
+       .key = "SPVariationLimit",
+       .label = "m_dMultipleGateSPVariationLimit\t= ",
+       .doc = "Limit of the variation of SP. Meaning defined by the solver."},
+      {.field = field<&T::m_iNumberofInletGroups, &T::iNumberofInletGroups>(),
+       .key = "NumberofInletGroups", .count = true, .list = kReadWeightings,
+       .label = "m_iNumberofInletGroups\t\t\t\t= ",
+       .doc = "Number of inlet groups (0 to 1000000); as many lines with their weights follow."},
+      {.field = field<&T::m_pdInletWeightings, &T::pdInletWeightings>(),
+       .label = "m_pdInletWeightings\t\t\t\t= ",
+       .doc = "Weights of the inlet groups, from 1; that of the last group is one minus the others."},
+  };
+  // clang-format on
+  static constexpr Order<12> kReadingOrder{
+      "MultipleGateMethod", "Debug",      "InitialType",   "ByTimeStep", "ByVolume",         "ByCtrlCRRatio",
+      "OuterIteration",     "TolTargetQ", "SPAdjustRatio", "TolInletQ",  "SPVariationLimit", "NumberofInletGroups"};
+  static constexpr Order<13> kDumpOrder{"m_iMultipleGateMethod",
+                                        "m_iMultipleGateDebug",
+                                        "m_iMultipleGateType",
+                                        "m_iMultipleGateByTimeStep",
+                                        "m_dMultipleGateByVolume",
+                                        "m_dMultipleGateByCtrlCRRatio",
+                                        "m_iMultiGateOuteriteration",
+                                        "m_dMultipleGateTolTargetQ",
+                                        "m_dMultipleGateSPAdjustCoeff",
+                                        "m_dMultipleGateTolInletQ",
+                                        "m_dMultipleGateSPVariationLimit",
+                                        "m_iNumberofInletGroups",
+                                        "m_pdInletWeightings"};
+  static constexpr Section kSections[] = {keyedSection<"MultiGate", kRows, kReadingOrder>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections, kDumpOrder>("\n---------MultiGate Parameters---------");
+  return kTable;
+}

@@ -1,0 +1,59 @@
+#include "blocks/CZEBCMPPVTcParm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMPPVTcParm::CZEBCMPPVTcParm() = default;
+CZEBCMPPVTcParm::~CZEBCMPPVTcParm() = default;
+CZEBCMPPVTcParm& CZEBCMPPVTcParm::operator=(const CZEBCMPPVTcParm& other) = default;
+
+int CZEBCMPPVTcParm::iIsPVTc() const { return m_iIsPVTc; }
+double CZEBCMPPVTcParm::dPVTc_a0() const { return m_dPVTc_a0; }
+double CZEBCMPPVTcParm::dPVTc_a1() const { return m_dPVTc_a1; }
+double CZEBCMPPVTcParm::dPVTc_a2() const { return m_dPVTc_a2; }
+double CZEBCMPPVTcParm::dPVTc_b0() const { return m_dPVTc_b0; }
+double CZEBCMPPVTcParm::dPVTc_b1() const { return m_dPVTc_b1; }
+double CZEBCMPPVTcParm::dPVTc_b2() const { return m_dPVTc_b2; }
+double CZEBCMPPVTcParm::dPVTc_c0() const { return m_dPVTc_c0; }
+double CZEBCMPPVTcParm::dPVTc_c1() const { return m_dPVTc_c1; }
+double CZEBCMPPVTcParm::dPVTc_c2() const { return m_dPVTc_c2; }
+double CZEBCMPPVTcParm::dPVTc_d0() const { return m_dPVTc_d0; }
+double CZEBCMPPVTcParm::dPVTc_d1() const { return m_dPVTc_d1; }
+double CZEBCMPPVTcParm::dPVTc_d2() const { return m_dPVTc_d2; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPPVTcParm>() {
+  using T = CZEBCMPPVTcParm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iIsPVTc, &T::iIsPVTc>(), .key = "iSPVTc", .label = "m_iIsPVTc\t\t= ",
+       .doc = "Switch: cure-dependent PVT model."},
+      {.field = field<&T::m_dPVTc_a0, &T::dPVTc_a0>(), .key = "a0", .label = "m_dPVTc_a0\t\t= ",
+       .doc = "Coefficient a0 of the cure-dependent PVT model."},
+      {.field = field<&T::m_dPVTc_a1, &T::dPVTc_a1>(), .key = "a1", .label = "m_dPVTc_a1\t\t= ",
+       .doc = "Coefficient a1 of the cure-dependent PVT model."},
+      {.field = field<&T::m_dPVTc_a2, &T::dPVTc_a2>(), .key = "a2", .label = "m_dPVTc_a2\t\t= ",
+       .doc = "Coefficient a2 of the cure-dependent PVT model."},
+      {.field = field<&T::m_dPVTc_b0, &T::dPVTc_b0>(), .key = "b0", .label = "m_dPVTc_b0\t\t= ",
+       .doc = "Coefficient b0 of the cure-dependent PVT model."},
+      {.field = field<&T::m_dPVTc_b1, &T::dPVTc_b1>(), .key = "b1", .label = "m_dPVTc_b1\t\t= ",
+       .doc = "Coefficient b1 of the cure-dependent PVT model."},
+      {.field = field<&T::m_dPVTc_b2, &T::dPVTc_b2>(), .key = "b2", .label = "m_dPVTc_b2\t\t= ",
+       .doc = "Coefficient b2 of the cure-dependent PVT model."},
+      {.field = field<&T::m_dPVTc_c0, &T::dPVTc_c0>(), .key = "c0", .label = "m_dPVTc_c0\t\t= ",
+       .doc = "Coefficient c0 of the cure-dependent PVT model."},
+      {.field = field<&T::m_dPVTc_c1, &T::dPVTc_c1>(), .key = "c1", .label = "m_dPVTc_c1\t\t= ",
+       .doc = "Coefficient c1 of the cure-dependent PVT model."},
+      {.field = field<&T::m_dPVTc_c2, &T::dPVTc_c2>(), .key = "c2", .label = "m_dPVTc_c2\t\t= ",
+       .doc = "Coefficient c2 of the cure-dependent PVT model."},
+      {.field = field<&T::m_dPVTc_d0, &T::dPVTc_d0>(), .key = "d0", .label = "m_dPVTc_d0\t\t= ",
+       .doc = "Coefficient d0 of the cure-dependent PVT model."},
+      {.field = field<&T::m_dPVTc_d1, &T::dPVTc_d1>(), .key = "d1", .label = "m_dPVTc_d1\t\t= ",
+       .doc = "Coefficient d1 of the cure-dependent PVT model."},
+      {.field = field<&T::m_dPVTc_d2, &T::dPVTc_d2>(), .key = "d2", .label = "m_dPVTc_d2\t\t= ",
+       .doc = "Coefficient d2 of the cure-dependent PVT model."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"PVTc", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------PVTc Parameters---------");
+  return kTable;
+}

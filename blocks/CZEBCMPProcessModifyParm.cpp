@@ -1,0 +1,30 @@
+#include "blocks/CZEBCMPProcessModifyParm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMPProcessModifyParm::CZEBCMPProcessModifyParm() = default;
+CZEBCMPProcessModifyParm::~CZEBCMPProcessModifyParm() = default;
+CZEBCMPProcessModifyParm& CZEBCMPProcessModifyParm::operator=(const CZEBCMPProcessModifyParm& other) = default;
+
+double CZEBCMPProcessModifyParm::dProcessFRChangeUpperBound() const { return m_dProcessFRChangeUpperBound; }
+double CZEBCMPProcessModifyParm::dProcessFRChangeLowerBound() const { return m_dProcessFRChangeLowerBound; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPProcessModifyParm>() {
+  using T = CZEBCMPProcessModifyParm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_dProcessFRChangeUpperBound, &T::dProcessFRChangeUpperBound>(),
+       .key = "FlowRateChangeUpperBound", .rule = {.replace = {below(1.0, 1.0)}},
+       .label = "m_dProcessFRChangeUpperBound\t= ",
+       .doc = "Upper bound of the change of the flow rate; a value below 1.0 becomes 1.0."},
+      {.field = field<&T::m_dProcessFRChangeLowerBound, &T::dProcessFRChangeLowerBound>(),
+       .key = "FlowRateChangeLowerBound", .rule = {.replace = {above(0.999, 0.999), below(0.001, 0.001)}},
+       .label = "m_dProcessFRChangeLowerBound\t= ",
+       .doc = "Lower bound of the change of the flow rate; kept between 0.001 and 0.999."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"ProcessModify", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------ProcessModify Parameters---------");
+  return kTable;
+}

@@ -1,0 +1,38 @@
+#include "blocks/CZEBCMPSAMGCtrlParm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMPSAMGCtrlParm::CZEBCMPSAMGCtrlParm() = default;
+CZEBCMPSAMGCtrlParm::~CZEBCMPSAMGCtrlParm() = default;
+CZEBCMPSAMGCtrlParm& CZEBCMPSAMGCtrlParm::operator=(const CZEBCMPSAMGCtrlParm& other) = default;
+
+int CZEBCMPSAMGCtrlParm::DebugMode() const { return m_iDebugMode; }
+int CZEBCMPSAMGCtrlParm::n_Default() const { return m_n_Default; }
+int CZEBCMPSAMGCtrlParm::n_nrd() const { return m_n_nrd; }
+int CZEBCMPSAMGCtrlParm::n_levelx() const { return m_n_levelx; }
+int CZEBCMPSAMGCtrlParm::n_nru() const { return m_n_nru; }
+int CZEBCMPSAMGCtrlParm::n_RES_SCRATCH() const { return m_n_RES_SCRATCH; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPSAMGCtrlParm>() {
+  using T = CZEBCMPSAMGCtrlParm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iDebugMode, &T::DebugMode>(), .key = "DebugMode", .label = "m_iDebugMode\t= ",
+       .doc = "Debug mode of the SAMG linear solver. Meaning defined by the solver."},
+      {.field = field<&T::m_n_Default, &T::n_Default>(), .key = "n_Default", .label = "m_n_Default\t= ",
+       .doc = "Control n_Default of the SAMG linear solver. Meaning defined by the solver."},
+      {.field = field<&T::m_n_nrd, &T::n_nrd>(), .key = "n_nrd", .label = "m_n_nrd\t\t= ",
+       .doc = "Control n_nrd of the SAMG linear solver. Meaning defined by the solver."},
+      {.field = field<&T::m_n_levelx, &T::n_levelx>(), .key = "n_levelx",
+       .doc = "Control n_levelx of the SAMG linear solver. Meaning defined by the solver."},
+      {.field = field<&T::m_n_nru, &T::n_nru>(), .key = "n_nru", .label = "m_n_nru\t\t= ",
+       .doc = "Control n_nru of the SAMG linear solver. Meaning defined by the solver."},
+      {.field = field<&T::m_n_RES_SCRATCH, &T::n_RES_SCRATCH>(), .key = "n_RES_SCRATCH", .label = "m_n_RES_SCRATC = ",
+       .doc = "Control n_RES_SCRATCH of the SAMG linear solver. Meaning defined by the solver."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"SAMGParaCtrl", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------SAMG Ctrl Parameters---------");
+  return kTable;
+}

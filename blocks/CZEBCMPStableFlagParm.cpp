@@ -1,0 +1,45 @@
+#include "blocks/CZEBCMPStableFlagParm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMPStableFlagParm::CZEBCMPStableFlagParm() = default;
+CZEBCMPStableFlagParm::~CZEBCMPStableFlagParm() = default;
+CZEBCMPStableFlagParm& CZEBCMPStableFlagParm::operator=(const CZEBCMPStableFlagParm& other) = default;
+
+int CZEBCMPStableFlagParm::nSmooth_dP() const { return m_nSmooth_dP; }
+int CZEBCMPStableFlagParm::nPJMSmooth_dP() const { return m_nPJMSmooth_dP; }
+int CZEBCMPStableFlagParm::iGradType() const { return m_iGradType; }
+int CZEBCMPStableFlagParm::iRead_f2f() const { return m_iRead_f2f; }
+int CZEBCMPStableFlagParm::iIterNum_MeltFrontTemperature() const { return m_iIterNum_MeltFrontTemperature; }
+
+void CZEBCMPStableFlagParm::SetnSmooth_dP(int value) { m_nSmooth_dP = value; }
+void CZEBCMPStableFlagParm::SetnPJMSmooth_dP(int value) { m_nPJMSmooth_dP = value; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPStableFlagParm>() {
+  using T = CZEBCMPStableFlagParm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_nSmooth_dP, &T::nSmooth_dP>(), .key = "nSmooth_dP", .label = "m_nSmooth_dP\t\t\t\t\t\t= ",
+       .doc = "Number of smoothings of dP."},
+      {.field = field<&T::m_nPJMSmooth_dP, &T::nPJMSmooth_dP>(), .key = "nPJMSmooth_dP",
+       .label = "m_nPJMSmooth_dP\t\t\t\t\t= ",
+       .doc = "Number of PJM smoothings of dP."},
+      {.field = field<&T::m_iGradType, &T::iGradType>(), .key = "iGradType", .label = "m_iGradType\t\t\t\t\t\t= ",
+       .doc = "Gradient type. Meaning defined by the solver."},
+      {.field = field<&T::m_iRead_f2f, &T::iRead_f2f>(), .key = "Read_f2f", .label = "m_iRead_f2f\t\t\t\t\t\t= ",
+       .doc = "Flag for reading f2f. Meaning defined by the solver."},
+      {.field = field<&T::m_iIterNum_MeltFrontTemperature, &T::iIterNum_MeltFrontTemperature>(),
+       .key = "IterNum_MeltFrontTemperature", .label = "m_iIterNum_MeltFrontTemperature\t= ",
+       .doc = "Number of iterations of the melt-front temperature."},
+  };
+  static constexpr Order<5> kReadingOrder{
+      "nSmooth_dP", "nPJMSmooth_dP", "Read_f2f", "IterNum_MeltFrontTemperature", "iGradType"};
+  static constexpr Order<5> kDumpOrder{
+      "m_nSmooth_dP", "m_nPJMSmooth_dP", "m_iRead_f2f", "m_iGradType", "m_iIterNum_MeltFrontTemperature"};
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"StableFlag", kRows, kReadingOrder>()};
+  static constexpr BlockTable kTable =
+      blockTable<T, kSections, kDumpOrder>("\n---------StableFlag Parameters---------");
+  return kTable;
+}

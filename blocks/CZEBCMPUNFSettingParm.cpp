@@ -1,0 +1,120 @@
+#include "blocks/CZEBCMPUNFSettingParm.h"
+
+#include "frame/SectionEngine.hpp"
+#include "frame/TableBuilder.hpp"
+
+namespace {
+
+// The points lie one after the other, three doubles each; point 0 and each point's first double are unused.
+enum Axis : std::size_t { kX = 1, kY = 2 };
+constexpr std::size_t kPointSize = 3;
+
+constexpr std::size_t placeOf(int point, Axis axis) { return kPointSize * static_cast<std::size_t>(point) + axis; }
+
+}  // namespace
+
+struct CZEBCMPUNFSettingParm::Points {
+  template <int kPoint, Axis kAxis>
+  static bool store(void* block, double value) {
+    const auto& setting = *static_cast<const CZEBCMPUNFSettingParm*>(block);
+    if (setting.m_iNDispenserPass < kPoint) return false;
+    // A copy is asked: the block itself has handed nothing out and may release the points when the count is read again.
+    zeb::SharedArray<double>(setting.m_pdDispenserPoint).get()[placeOf(kPoint, kAxis)] = value;
+    return true;
+  }
+
+  template <int kPoint, Axis kAxis>
+  static constexpr zeb::Row row(std::string_view key, std::string_view doc, std::string_view label = {}) {
+    return {.field = zeb::field<&CZEBCMPUNFSettingParm::m_pdDispenserPoint>(),
+            .key = key,
+            .store = store<kPoint, kAxis>,
+            .label = label,
+            .doc = doc};
+  }
+};
+
+CZEBCMPUNFSettingParm::CZEBCMPUNFSettingParm() = default;
+CZEBCMPUNFSettingParm::~CZEBCMPUNFSettingParm() = default;
+CZEBCMPUNFSettingParm& CZEBCMPUNFSettingParm::operator=(const CZEBCMPUNFSettingParm& other) = default;
+
+double CZEBCMPUNFSettingParm::dVofInter() const { return m_dVofInter; }
+double CZEBCMPUNFSettingParm::dContactAngle() const { return m_dContactAngle; }
+double CZEBCMPUNFSettingParm::dSTCoeff() const { return m_dSTCoeff; }
+double CZEBCMPUNFSettingParm::dDeng() const { return m_dDeng; }
+double CZEBCMPUNFSettingParm::dDenl() const { return m_dDenl; }
+double CZEBCMPUNFSettingParm::dVisg() const { return m_dVisg; }
+double CZEBCMPUNFSettingParm::dVisl() const { return m_dVisl; }
+int CZEBCMPUNFSettingParm::iFillType() const { return m_iFillType; }
+int CZEBCMPUNFSettingParm::iNDispenserPass() const { return m_iNDispenserPass; }
+
+int CZEBCMPUNFSettingParm::dDispenser(double** points, double& speed) const {
+  speed = m_dDispenserSpeed;
+  if (m_iNDispenserPass < 1) return 1;
+  if (points == nullptr) return -1;
+  const zeb::SharedArray<double> shared(m_pdDispenserPoint);
+  const double* const stored = shared.get();
+  for (int i = 1; i <= m_iNDispenserPass; ++i) {
+    points[i][kX] = stored[placeOf(i, kX)];
+    points[i][kY] = stored[placeOf(i, kY)];
+  }
+  return 1;
+}
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPUNFSettingParm>() {
+  using T = CZEBCMPUNFSettingParm;
+  using Points = T::Points;
+  static constexpr ListReader kMakePoints = [](ListContext& context) {
+    T& block = *static_cast<T*>(context.block);
+    block.m_pdDispenserPoint.allocate(kPointSize * (static_cast<std::size_t>(block.m_iNDispenserPass) + 1));
+    return ListResult::kSameLine;
+  };
+
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_dVofInter, &T::dVofInter>(), .key = "VofInterface",
+       .label = "m_dVofInter\t\t\t= ", .doc = "Volume fraction at the interface."},
+      {.field = field<&T::m_dContactAngle, &T::dContactAngle>(), .key = "ContactAngle",
+       .label = "m_dContactAngle\t\t= ", .doc = "Contact angle."},
+      {.field = field<&T::m_dSTCoeff, &T::dSTCoeff>(), .key = "SurTensionCoef",
+       .label = "m_dSTCoeff\t\t\t\t= ", .doc = "Coefficient of the surface tension."},
+      {.field = field<&T::m_dDeng, &T::dDeng>(), .key = "Deng",
+       .label = "m_dDeng\t\t\t\t= ", .doc = "Density of the gas."},
+      {.field = field<&T::m_dDenl, &T::dDenl>(), .key = "Denl",
+       .label = "m_dDenl\t\t\t\t= ", .doc = "Density of the liquid."},
+      {.field = field<&T::m_dVisg, &T::dVisg>(), .key = "Visg",
+       .label = "m_dVisg\t\t\t\t= ", .doc = "Viscosity of the gas."},
+      {.field = field<&T::m_dVisl, &T::dVisl>(), .key = "Visl",
+       .label = "m_dVisl\t\t\t\t= ", .doc = "Viscosity of the liquid."},
+      {.field = field<&T::m_iFillType, &T::iFillType>(), .key = "FillType", .gateBelow = 2,
+       .label = "m_iFillType\t\t\t= ", .doc = "Type of the filling; below 2 the dispenser's keys are ignored."},
+      {.field = field<&T::m_iNDispenserPass, &T::iNDispenserPass>(),
+       .key = "nDispenserPoint", .count = true, .list = kMakePoints,
+       .label = "m_iNDispenserPass\t\t= ",
+       .doc = "Number of dispenser points (0 to 1000000); a new count sets all points to the origin."},
+      {.field = field<&T::m_dDispenserSpeed>(), .key = "Speed_V",
+       .label = "m_dDispenserSpeed\t\t= ", .doc = "Speed of the dispenser."},
+      Points::row<1, kX>("Point_x1", "x of dispenser point 1.", "m_pdDispenserPoint\t\t= "),
+      Points::row<1, kY>("Point_y1", "y of dispenser point 1."),
+      Points::row<2, kX>("Point_x2", "x of dispenser point 2."),
+      Points::row<2, kY>("Point_y2", "y of dispenser point 2."),
+      Points::row<3, kX>("Point_x3", "x of dispenser point 3."),
+      Points::row<3, kY>("Point_y3", "y of dispenser point 3."),
+      Points::row<4, kX>("Point_x4", "x of dispenser point 4."),
+      Points::row<4, kY>("Point_y4", "y of dispenser point 4."),
+      Points::row<5, kX>("Point_x5", "x of dispenser point 5."),
+      Points::row<5, kY>("Point_y5", "y of dispenser point 5."),
+  };
+  // clang-format on
+  static constexpr Order<20> kReadingOrder{
+      "ContactAngle", "SurTensionCoef",  "VofInterface", "Deng",     "Denl",     "Visg",     "Visl",
+      "FillType",     "nDispenserPoint", "Point_x1",     "Point_y1", "Point_x2", "Point_y2", "Point_x3",
+      "Point_y3",     "Point_x4",        "Point_y4",     "Point_x5", "Point_y5", "Speed_V"};
+  static constexpr Order<11> kDumpOrder{"m_dContactAngle",   "m_dSTCoeff",        "m_dVofInter",       "m_dDeng",
+                                        "m_dDenl",           "m_dVisg",           "m_dVisl",           "m_iFillType",
+                                        "m_iNDispenserPass", "m_dDispenserSpeed", "m_pdDispenserPoint"};
+  static constexpr Section kSections[] = {keyedSection<"UNFSetting", kRows, kReadingOrder>()};
+  static constexpr BlockTable kTable =
+      blockTable<T, kSections, kDumpOrder>("\n---------UNFSetting Parameters---------");
+  return kTable;
+}

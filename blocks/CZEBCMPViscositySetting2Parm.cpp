@@ -1,0 +1,128 @@
+#include "blocks/CZEBCMPViscositySetting2Parm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMPViscositySetting2Parm::CZEBCMPViscositySetting2Parm() = default;
+CZEBCMPViscositySetting2Parm::~CZEBCMPViscositySetting2Parm() = default;
+CZEBCMPViscositySetting2Parm& CZEBCMPViscositySetting2Parm::operator=(const CZEBCMPViscositySetting2Parm& other) =
+    default;
+
+double CZEBCMPViscositySetting2Parm::dMaxVis() const { return m_dMaxVis; }
+double CZEBCMPViscositySetting2Parm::dMinVis() const { return m_dMinVis; }
+double CZEBCMPViscositySetting2Parm::dMaxSR() const { return m_dMaxSR; }
+double CZEBCMPViscositySetting2Parm::dMinSR() const { return m_dMinSR; }
+double CZEBCMPViscositySetting2Parm::dHighTemp_Tmp() const { return m_dHighTemp_Tmp; }
+double CZEBCMPViscositySetting2Parm::dHighTemp_Slp() const { return m_dHighTemp_Slp; }
+double CZEBCMPViscositySetting2Parm::dHighTemp_SR() const { return m_dHighTemp_SR; }
+int CZEBCMPViscositySetting2Parm::iEvaluateAirVis() const { return m_iEvaluateAirVis; }
+int CZEBCMPViscositySetting2Parm::iEvaluateAirTemperature() const { return m_iEvaluateAirTemperature; }
+double CZEBCMPViscositySetting2Parm::dLowVisT() const { return m_dLowVisT; }
+double CZEBCMPViscositySetting2Parm::dLowVisSR() const { return m_dLowVisSR; }
+double CZEBCMPViscositySetting2Parm::dLowVisRatio() const { return m_dLowVisRatio; }
+double CZEBCMPViscositySetting2Parm::dAirK() const { return m_dAirK; }
+double CZEBCMPViscositySetting2Parm::dAirCp() const { return m_dAirCp; }
+double CZEBCMPViscositySetting2Parm::dAirDen() const { return m_dAirDen; }
+int CZEBCMPViscositySetting2Parm::iEvaluateMeltFrontVis() const { return m_iEvaluateMeltFrontVis; }
+int CZEBCMPViscositySetting2Parm::iVOFSmoothTimes() const { return m_iVOFSmoothTimes; }
+double CZEBCMPViscositySetting2Parm::dAirVisFrontierVOF() const { return m_dAirVisFrontierVOF; }
+double CZEBCMPViscositySetting2Parm::dFrontierEquivalentSR() const { return m_dFrontierEquivalentSR; }
+double CZEBCMPViscositySetting2Parm::dRatio_Conx_GelPoint() const { return m_dRatio_Conx_GelPoint; }
+int CZEBCMPViscositySetting2Parm::iIsNewThermoSetHBModel() const { return m_iIsNewThermoSetHBModel; }
+double CZEBCMPViscositySetting2Parm::dLCP_SR_LowerBound() const { return m_dLCP_SR_LowerBound; }
+double CZEBCMPViscositySetting2Parm::dLCP_SR_UpperBound() const { return m_dLCP_SR_UpperBound; }
+double CZEBCMPViscositySetting2Parm::dLCP_SR_vs_Visc_Ratio() const { return m_dLCP_SR_vs_Visc_Ratio; }
+double CZEBCMPViscositySetting2Parm::dLCP_SR_Change_Tm_Slope_Ratio() const { return m_dLCP_SR_Change_Tm_Slope_Ratio; }
+
+void CZEBCMPViscositySetting2Parm::SetLowVisT(double value) { m_dLowVisT = value; }
+void CZEBCMPViscositySetting2Parm::SetLowVisSR(double value) { m_dLowVisSR = value; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMPViscositySetting2Parm>() {
+  using T = CZEBCMPViscositySetting2Parm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_dMaxVis, &T::dMaxVis>(), .key = "MaxVis", .label = "m_dMaxVis\t\t\t\t\t\t\t= ",
+       .doc = "Upper limit of the viscosity."},
+      {.field = field<&T::m_dMinVis, &T::dMinVis>(), .key = "MinVis", .label = "m_dMinVis\t\t\t\t\t\t\t= ",
+       .doc = "Lower limit of the viscosity."},
+      {.field = field<&T::m_dMaxSR, &T::dMaxSR>(), .key = "MaxSR", .label = "m_dMaxSR\t\t\t\t\t\t\t= ",
+       .doc = "Upper limit of the shear rate."},
+      {.field = field<&T::m_dMinSR, &T::dMinSR>(), .key = "MinSR", .label = "m_dMinSR\t\t\t\t\t\t\t= ",
+       .doc = "Lower limit of the shear rate."},
+      {.field = field<&T::m_dHighTemp_Tmp, &T::dHighTemp_Tmp>(), .key = "HighTemp_Tmp",
+       .label = "m_dHighTemp_Tmp\t\t\t\t\t= ",
+       .doc = "Temperature of the high-temperature treatment. Meaning defined by the solver."},
+      {.field = field<&T::m_dHighTemp_Slp, &T::dHighTemp_Slp>(), .key = "HighTemp_Slp",
+       .label = "m_dHighTemp_Slp\t\t\t\t\t= ",
+       .doc = "Slope of the high-temperature treatment. Meaning defined by the solver."},
+      {.field = field<&T::m_dHighTemp_SR, &T::dHighTemp_SR>(), .key = "HighTemp_SR",
+       .label = "m_dHighTemp_SR\t\t\t\t\t\t= ",
+       .doc = "Shear rate of the high-temperature treatment. Meaning defined by the solver."},
+      {.field = field<&T::m_iEvaluateAirVis, &T::iEvaluateAirVis>(), .key = "EvaluateAirVis",
+       .label = "m_iEvaluateAirVis\t\t\t\t\t= ",
+       .doc = "Evaluation of the air viscosity. Meaning defined by the solver."},
+      {.field = field<&T::m_iEvaluateAirTemperature, &T::iEvaluateAirTemperature>(), .key = "EvaluateAirTemperature",
+       .label = "m_iEvaluateAirTemperature\t\t\t= ",
+       .doc = "Evaluation of the air temperature. Meaning defined by the solver."},
+      {.field = field<&T::m_dLowVisT, &T::dLowVisT>(), .key = "LowVisT", .label = "m_dLowVisT\t\t\t\t\t\t\t= ",
+       .doc = "Temperature of the low-viscosity treatment. Meaning defined by the solver."},
+      {.field = field<&T::m_dLowVisSR, &T::dLowVisSR>(), .key = "LowVisSR", .label = "m_dLowVisSR\t\t\t\t\t\t= ",
+       .doc = "Shear rate of the low-viscosity treatment. Meaning defined by the solver."},
+      {.field = field<&T::m_dLowVisRatio, &T::dLowVisRatio>(), .key = "LowVisRatio",
+       .doc = "Ratio of the low-viscosity treatment. Meaning defined by the solver."},
+      {.field = field<&T::m_dAirK, &T::dAirK>(), .key = "AirK", .label = "m_dAirK\t\t\t\t\t\t\t= ",
+       .doc = "Thermal conductivity of the air."},
+      {.field = field<&T::m_dAirCp, &T::dAirCp>(), .key = "AirCp", .label = "m_dAirCp\t\t\t\t\t\t\t= ",
+       .doc = "Heat capacity of the air."},
+      {.field = field<&T::m_dAirDen, &T::dAirDen>(), .key = "AirDen", .label = "m_dAirDen\t\t\t\t\t\t\t= ",
+       .doc = "Density of the air."},
+      {.field = field<&T::m_iEvaluateMeltFrontVis, &T::iEvaluateMeltFrontVis>(), .key = "EvaluateMeltFrontVis",
+       .label = "m_iEvaluateMeltFrontVis\t\t\t= ",
+       .doc = "Evaluation of the melt-front viscosity. Meaning defined by the solver."},
+      {.field = field<&T::m_iVOFSmoothTimes, &T::iVOFSmoothTimes>(), .key = "VOFSmoothTimes",
+       .label = "m_iVOFSmoothTimes\t\t\t\t\t= ",
+       .doc = "Number of smoothings of the volume fraction."},
+      {.field = field<&T::m_dAirVisFrontierVOF, &T::dAirVisFrontierVOF>(), .key = "AirVisFrontierVOF",
+       .label = "m_dAirVisFrontierVOF\t\t\t\t= ",
+       .doc = "Volume fraction at the frontier of the air viscosity. Meaning defined by the solver."},
+      {.field = field<&T::m_dFrontierEquivalentSR, &T::dFrontierEquivalentSR>(), .key = "FrontierEquivalentSR",
+       .label = "m_dFrontierEquivalentSR\t\t\t= ",
+       .doc = "Equivalent shear rate at the frontier. Meaning defined by the solver."},
+      {.field = field<&T::m_dRatio_Conx_GelPoint, &T::dRatio_Conx_GelPoint>(), .key = "Ratio_Conx_GelPoint",
+       .rule = {.replace = {above(0.999999, 0.999999), below(1e-6, 1e-6)}},
+       .label = "m_dRatio_Conx_GelPoint\t\t\t\t= ",
+       .doc = "Ratio of Conx to the gel point. Meaning defined by the solver. Bounded when read: 1e-6 to 0.999999."},
+      {.field = field<&T::m_iIsNewThermoSetHBModel, &T::iIsNewThermoSetHBModel>(), .key = "NewThermoSetHBModel",
+       .label = "m_iIsNewThermoSetHBModel\t\t\t= ",
+       .doc = "Switch: new HB model of thermosets."},
+      {.field = field<&T::m_dLCP_SR_LowerBound, &T::dLCP_SR_LowerBound>(), .key = "LCP_SR_LowerBound",
+       .echo = {"LCP_SR_LowerBound = "}, .label = "m_dLCP_SR_LowerBound\t\t\t\t= ",
+       .doc = "Lower bound of the LCP shear rate."},
+      {.field = field<&T::m_dLCP_SR_UpperBound, &T::dLCP_SR_UpperBound>(), .key = "LCP_SR_UpperBound",
+       .echo = {"LCP_SR_UpperBound = "}, .label = "m_dLCP_SR_UpperBound\t\t\t\t= ",
+       .doc = "Upper bound of the LCP shear rate."},
+      {.field = field<&T::m_dLCP_SR_vs_Visc_Ratio, &T::dLCP_SR_vs_Visc_Ratio>(), .key = "LCP_SR_vs_Visc_Ratio",
+       .echo = {"LCP_SR_vs_Visc_Ratio = "}, .label = "m_dLCP_SR_vs_Visc_Ratio\t\t\t= ",
+       .doc = "LCP ratio of shear rate versus viscosity. Meaning defined by the solver."},
+      {.field = field<&T::m_dLCP_SR_Change_Tm_Slope_Ratio, &T::dLCP_SR_Change_Tm_Slope_Ratio>(),
+       .key = "LCP_SR_Change_Tm_Slope_Ratio", .echo = {"LCP_SR_Change_Tm_Slope_Ratio = "},
+       .label = "m_dLCP_SR_Change_Tm_Slope_Ratio\t= ",
+       .doc = "LCP ratio of the slope at the change of Tm. Meaning defined by the solver."},
+  };
+  static constexpr Order<25> kReadingOrder{
+      "MaxVis", "MinVis", "HighTemp_Tmp", "HighTemp_Slp", "HighTemp_SR", "EvaluateAirVis", "EvaluateAirTemperature",
+      "LowVisT", "LowVisSR", "LowVisRatio", "AirK", "AirCp", "AirDen", "EvaluateMeltFrontVis", "VOFSmoothTimes",
+      "AirVisFrontierVOF", "FrontierEquivalentSR", "Ratio_Conx_GelPoint", "LCP_SR_LowerBound", "LCP_SR_UpperBound",
+      "LCP_SR_vs_Visc_Ratio", "LCP_SR_Change_Tm_Slope_Ratio", "MinSR", "MaxSR", "NewThermoSetHBModel"};
+  static constexpr Order<24> kDumpOrder{
+      "m_dMaxVis", "m_dMinVis", "m_dMaxSR", "m_dMinSR", "m_dHighTemp_Tmp", "m_dHighTemp_Slp", "m_dHighTemp_SR",
+      "m_iEvaluateAirVis", "m_iEvaluateAirTemperature", "m_dLowVisT", "m_dLowVisSR", "m_dAirK", "m_dAirCp",
+      "m_dAirDen", "m_iEvaluateMeltFrontVis", "m_iVOFSmoothTimes", "m_dAirVisFrontierVOF", "m_dFrontierEquivalentSR",
+      "m_dRatio_Conx_GelPoint", "m_dLCP_SR_LowerBound", "m_dLCP_SR_UpperBound", "m_dLCP_SR_vs_Visc_Ratio",
+      "m_dLCP_SR_Change_Tm_Slope_Ratio", "m_iIsNewThermoSetHBModel"};
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"ViscositySetting2", kRows, kReadingOrder>()};
+  static constexpr BlockTable kTable =
+      blockTable<T, kSections, kDumpOrder>("\n---------ViscositySetting2 Parameters---------");
+  return kTable;
+}

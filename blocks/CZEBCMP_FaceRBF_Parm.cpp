@@ -1,0 +1,33 @@
+#include "blocks/CZEBCMP_FaceRBF_Parm.h"
+
+#include "blocks/RbfRows.hpp"
+#include "frame/TableBuilder.hpp"
+
+CZEBCMP_FaceRBF_Parm::CZEBCMP_FaceRBF_Parm() = default;
+CZEBCMP_FaceRBF_Parm::~CZEBCMP_FaceRBF_Parm() = default;
+CZEBCMP_FaceRBF_Parm& CZEBCMP_FaceRBF_Parm::operator=(const CZEBCMP_FaceRBF_Parm& other) = default;
+
+int CZEBCMP_FaceRBF_Parm::Version() const { return m_iVersion; }
+int CZEBCMP_FaceRBF_Parm::Span() const { return m_iSpan; }
+int CZEBCMP_FaceRBF_Parm::SearchMethod() const { return m_iSearch_method; }
+double CZEBCMP_FaceRBF_Parm::SearchDistance() const { return m_dSearch_distance; }
+int CZEBCMP_FaceRBF_Parm::SearchNumber() const { return m_iSearch_number; }
+int CZEBCMP_FaceRBF_Parm::DebugMode() const { return m_iDebugMode; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMP_FaceRBF_Parm>() {
+  using T = CZEBCMP_FaceRBF_Parm;
+  // clang-format off
+  static constexpr auto kRows = rbfSearchRows({
+      .version = field<&T::m_iVersion, &T::Version>(),
+      .span = field<&T::m_iSpan, &T::Span>(),
+      .searchMethod = field<&T::m_iSearch_method, &T::SearchMethod>(),
+      .searchDistance = field<&T::m_dSearch_distance, &T::SearchDistance>(),
+      .searchNumber = field<&T::m_iSearch_number, &T::SearchNumber>(),
+      .debugMode = field<&T::m_iDebugMode, &T::DebugMode>(),
+  });
+  // clang-format on
+  static constexpr Section kSections[] = {keyedSection<"FaceRBF", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------FaceRBF Parameters---------");
+  return kTable;
+}

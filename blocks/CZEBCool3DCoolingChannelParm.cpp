@@ -1,0 +1,63 @@
+// The lines, fields and meanings of the positional section [3DCoolingChannel]; never dumped.
+#include "blocks/CZEBCool3DCoolingChannelParm.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCool3DCoolingChannelParm::CZEBCool3DCoolingChannelParm() = default;
+CZEBCool3DCoolingChannelParm::~CZEBCool3DCoolingChannelParm() = default;
+CZEBCool3DCoolingChannelParm& CZEBCool3DCoolingChannelParm::operator=(const CZEBCool3DCoolingChannelParm& other) =
+    default;
+
+int CZEBCool3DCoolingChannelParm::i_GetcfcVer_3DCChannel() const { return m_i_GetcfcVer_3DCChannel; }
+int CZEBCool3DCoolingChannelParm::iGet3DCChanelDebug() const { return m_iGet3DCChanelDebug; }
+int CZEBCool3DCoolingChannelParm::iGetNiterC() const { return m_iGetNiterC; }
+double CZEBCool3DCoolingChannelParm::dGetTolerC() const { return m_dGetTolerC; }
+int CZEBCool3DCoolingChannelParm::iGetNiterInC() const { return m_iGetNiterInC; }
+double CZEBCool3DCoolingChannelParm::dGetTolerInC() const { return m_dGetTolerInC; }
+double CZEBCool3DCoolingChannelParm::dGetGeoTempCUnder() const { return m_dGetGeoTempCUnder; }
+double CZEBCool3DCoolingChannelParm::dGetGeoRhsCUnder() const { return m_dGetGeoRhsCUnder; }
+double CZEBCool3DCoolingChannelParm::dGetBlendC() const { return m_dGetBlendC; }
+double CZEBCool3DCoolingChannelParm::dGetRelaxC() const { return m_dGetRelaxC; }
+double CZEBCool3DCoolingChannelParm::dGetAllowCChannelBoundaryChangeTemperature() const {
+  return m_dGetAllowCChannelBoundaryChangeTemperature;
+}
+int CZEBCool3DCoolingChannelParm::iGetCChannelCalculateStep() const { return m_iGetCChannelCalculateStep; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCool3DCoolingChannelParm>() {
+  using T = CZEBCool3DCoolingChannelParm;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_i_GetcfcVer_3DCChannel, &T::i_GetcfcVer_3DCChannel>(), .at = {{1, 1}},
+       .doc = "Version of the layout; the section is read only when its first line holds this number."},
+      {.field = field<&T::m_iGet3DCChanelDebug, &T::iGet3DCChanelDebug>(), .at = {{2, 1}},
+       .doc = "Debugging of the cooling channels. Meaning defined by the solver."},
+      {.field = field<&T::m_iGetNiterC, &T::iGetNiterC>(), .at = {{3, 1}, {4, 1}},
+       .doc = "Number of iterations of C; stands in two lines, the later one wins."},
+      {.field = field<&T::m_dGetTolerC, &T::dGetTolerC>(),
+       .doc = "Tolerance of C; no field of the section sets it."},
+      {.field = field<&T::m_iGetNiterInC, &T::iGetNiterInC>(),
+       .doc = "Number of inner iterations of C; no field of the section sets it."},
+      {.field = field<&T::m_dGetTolerInC, &T::dGetTolerInC>(),
+       .doc = "Tolerance of the inner iterations of C; no field of the section sets it."},
+      {.field = field<&T::m_dGetGeoTempCUnder, &T::dGetGeoTempCUnder>(), .at = {{5, 1}},
+       .doc = "Under-relaxation of the temperature of C."},
+      {.field = field<&T::m_dGetGeoRhsCUnder, &T::dGetGeoRhsCUnder>(), .at = {{5, 2}},
+       .doc = "Under-relaxation of the right-hand side of C."},
+      {.field = field<&T::m_dGetBlendC, &T::dGetBlendC>(), .at = {{6, 1}},
+       .doc = "Blending factor of C."},
+      {.field = field<&T::m_dGetRelaxC, &T::dGetRelaxC>(), .at = {{6, 2}},
+       .doc = "Relaxation factor of C."},
+      {.field = field<&T::m_dGetAllowCChannelBoundaryChangeTemperature,
+                      &T::dGetAllowCChannelBoundaryChangeTemperature>(),
+       .at = {{7, 1}},
+       .doc = "Allowed change of the boundary temperature of the cooling channels."},
+      {.field = field<&T::m_iGetCChannelCalculateStep, &T::iGetCChannelCalculateStep>(), .at = {{7, 2}},
+       .doc = "Calculation step of the cooling channels. Meaning defined by the solver."},
+  };
+  // clang-format on
+  static constexpr PositionalLayout kLayout{.lines = 7, .versioned = true};
+  static constexpr Section kSections[] = {positionalSection<"3DCoolingChannel", kRows, kLayout>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("");
+  return kTable;
+}

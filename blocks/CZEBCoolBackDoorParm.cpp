@@ -1,0 +1,93 @@
+// The words, keys and meanings of the section [Whiteboard]; never dumped.
+#include "blocks/CZEBCoolBackDoorParm.h"
+
+#include <algorithm>
+
+#include "frame/SectionEngine.hpp"
+#include "frame/TableBuilder.hpp"
+
+CZEBCoolBackDoorParm::CZEBCoolBackDoorParm() = default;
+CZEBCoolBackDoorParm::~CZEBCoolBackDoorParm() = default;
+CZEBCoolBackDoorParm& CZEBCoolBackDoorParm::operator=(const CZEBCoolBackDoorParm& other) = default;
+
+bool CZEBCoolBackDoorParm::bGetIfActiveHeatFluxHistory() const { return m_bGetIfActiveHeatFluxHistory; }
+int CZEBCoolBackDoorParm::iGetIfActive_ElectromagneticHeating() const { return m_iGetIfActive_ElectromagneticHeating; }
+const char* CZEBCoolBackDoorParm::cGetElectromagneticxternalFile() const {
+  const char* text = m_cGetElectromagneticxternalFile.get();
+  return text == nullptr ? "" : text;
+}
+int CZEBCoolBackDoorParm::iGetIfActive_ReadCoolantPropertiesFromPCSFile() const {
+  return m_iGetIfActive_ReadCoolantPropertiesFromPCSFile;
+}
+int CZEBCoolBackDoorParm::iGetIfOutput_NonMatchingWallSTL() const { return m_iGetIfOutput_NonMatchingWallSTL; }
+int CZEBCoolBackDoorParm::iGetIfOutputAverageTemperature() const { return m_iGetIfOutputAverageTemperature; }
+int CZEBCoolBackDoorParm::iGetIfActiveSensorHeatFlux() const { return m_iGetIfActiveSensorHeatFlux; }
+double CZEBCoolBackDoorParm::dGetTime_StartHeating() const { return m_dGetTime_StartHeating; }
+double CZEBCoolBackDoorParm::dGetTime_EndHeating() const { return m_dGetTime_EndHeating; }
+int CZEBCoolBackDoorParm::iGetFlagTurnOffCoolTime() const { return m_iGetFlagTurnOffCoolTime; }
+int CZEBCoolBackDoorParm::iGetIdealCooingIterateNumber() const { return m_iGetIdealCooingIterateNumber; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCoolBackDoorParm>() {
+  using T = CZEBCoolBackDoorParm;
+  // "ElemagComsol 1.5 20.0 coil.txt", whatever the first word; what is missing leaves its member and all later ones.
+  static constexpr ListReader kReadHeating = [](ListContext& context) {
+    constexpr std::size_t kLongestName = 511;
+    T& block = *static_cast<T*>(context.block);
+    FieldScanner scanner(context.line);
+    std::string_view word;
+    double start = 0.0, end = 0.0;
+    scanner.next(word);
+    if (scanner.next(start)) block.m_dGetTime_StartHeating = start;
+    if (scanner.next(end)) block.m_dGetTime_EndHeating = end;
+    if (scanner.next(word)) {
+      block.m_cGetElectromagneticxternalFile.assign(word.data(), std::min(word.size(), kLongestName));
+    }
+    return ListResult::kSameLine;
+  };
+
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_bGetIfActiveHeatFluxHistory, &T::bGetIfActiveHeatFluxHistory>(),
+       .key = "HeatFluxHistory", .lookup = Lookup::kPresence,
+       .doc = "Switch: heat-flux history; set by the word alone."},
+      {.field = field<&T::m_iGetIfActive_ElectromagneticHeating, &T::iGetIfActive_ElectromagneticHeating>(),
+       .key = "ElemagComsol", .lookup = Lookup::kPresence, .list = kReadHeating,
+       .doc = "Switch: electromagnetic heating; set by the word, with start, end and external file as the next words."},
+      {.field = field<&T::m_cGetElectromagneticxternalFile, &T::cGetElectromagneticxternalFile>(),
+       .doc = "Name of the external file of the electromagnetic heating, cut to 511 characters."},
+      {.field = field<&T::m_iGetIfActive_ReadCoolantPropertiesFromPCSFile,
+                      &T::iGetIfActive_ReadCoolantPropertiesFromPCSFile>(),
+       .key = "ReadCoolantFromPCS", .lookup = Lookup::kPresence,
+       .doc = "Switch: coolant properties are read from the PCS file; set by the word alone."},
+      {.field = field<&T::m_iGetIfOutput_NonMatchingWallSTL, &T::iGetIfOutput_NonMatchingWallSTL>(),
+       .key = "OutputNonMatchingSTL", .lookup = Lookup::kPresence,
+       .doc = "Switch: output of non-matching walls as STL; set by the word alone."},
+      {.field = field<&T::m_iGetIfOutputAverageTemperature, &T::iGetIfOutputAverageTemperature>(),
+       .key = "OutputAverageTemperature", .lookup = Lookup::kPresence,
+       .doc = "Switch: output of the average temperature; set by the word alone."},
+      {.field = field<&T::m_iGetIfActiveSensorHeatFlux, &T::iGetIfActiveSensorHeatFlux>(),
+       .key = "SensorHeatFlux", .lookup = Lookup::kPresence,
+       .doc = "Switch: heat flux at the sensors; set by the word alone."},
+      {.field = field<&T::m_dGetTime_StartHeating, &T::dGetTime_StartHeating>(),
+       .doc = "Start time of the electromagnetic heating."},
+      {.field = field<&T::m_dGetTime_EndHeating, &T::dGetTime_EndHeating>(),
+       .doc = "End time of the electromagnetic heating."},
+      {.field = field<&T::m_iGetFlagTurnOffCoolTime, &T::iGetFlagTurnOffCoolTime>(),
+       .key = "FlagTurnOffEstimateCoolTime",
+       .doc = "Switch: the estimate of the cooling time is turned off."},
+      {.field = field<&T::m_iGetIdealCooingIterateNumber, &T::iGetIdealCooingIterateNumber>(),
+       .key = "IdealCooingItreateNumber",
+       .doc = "Number of iterations of the ideal cooling."},
+  };
+  // clang-format on
+  static constexpr Section kWhiteboard = [] {
+    Section section = keyedSection<"Whiteboard", kRows>();
+    section.closingLineIsRead = true;
+    section.readByRank0 = true;
+    return section;
+  }();
+  static constexpr Section kSections[] = {kWhiteboard};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("");
+  return kTable;
+}

@@ -1,0 +1,47 @@
+// The rows that the radial-basis-function (RBF) blocks have in common; each block hands in its own members.
+#pragma once
+
+#include <array>
+
+#include "frame/ParameterTable.hpp"
+
+namespace zeb {
+
+// clang-format off
+constexpr Row rbfVersion(const Field& field) {
+  return {.field = field, .key = "Version", .label = "m_iVersion\t\t\t= ",
+          .doc = "Version of the RBF interpolation. Meaning defined by the solver."};
+}
+
+constexpr Row rbfSpan(const Field& field) {
+  return {.field = field, .key = "Span", .label = "m_iSpan\t\t\t= ", .doc = "Span. Meaning defined by the solver."};
+}
+
+/// The members of an RBF block that searches its neighbours.
+struct RbfSearchFields {
+  Field version;
+  Field span;
+  Field searchMethod;
+  Field searchDistance;
+  Field searchNumber;
+  Field debugMode;
+};
+
+/// In the files only the search method's key carries the type prefix.
+constexpr std::array<Row, 6> rbfSearchRows(const RbfSearchFields& of) {
+  return {{
+      rbfVersion(of.version),
+      rbfSpan(of.span),
+      {.field = of.searchMethod, .key = "iSearch_method", .label = "m_iSearch_method\t= ",
+       .doc = "Search method. Meaning defined by the solver."},
+      {.field = of.searchDistance, .key = "Search_distance", .label = "m_dSearch_distance\t= ",
+       .doc = "Search distance."},
+      {.field = of.searchNumber, .key = "Search_number", .label = "m_iSearch_number\t= ",
+       .doc = "Search number."},
+      {.field = of.debugMode, .key = "Debug", .label = "m_iDebugMode\t\t= ",
+       .doc = "Debug mode. Meaning defined by the solver."},
+  }};
+}
+// clang-format on
+
+}  // namespace zeb
