@@ -1,0 +1,130 @@
+// The version line is tested first, then the sections in the order of the table below; text outside of sections is
+// ignored.
+#include "frame/CMPReader.hpp"
+
+#include <fstream>
+#include <stdexcept>
+
+#include "frame/ReadObserver.hpp"
+#include "frame/SectionEngine.hpp"
+#include "frame/TextOutput.hpp"
+
+namespace zeb {
+
+namespace {
+
+// The one version whose line is followed by a fixed-line head.
+constexpr int kHeadVersion = 1023;
+
+struct DispatchRow {
+  BlockEntry block;
+  std::string_view section;  // empty: the block's only one
+};
+
+template <class Block>
+constexpr DispatchRow row(std::string_view section = {}) {
+  return {blockEntry<Block>(), section};
+}
+
+constexpr DispatchRow kRows[] = {
+    row<CZEBCMPViscositySetting2Parm>(),
+    row<CZEBCMPShortShotParm>(),
+    row<CZEBCMPInletVelocitySettingParm>(),
+    row<CZEBCMPMicroMoldingParm>(),
+    row<CZEBCMPTimeStepSizeCtrlParm>(),
+    row<CZEBCMPFAIMParm>(),
+    row<CZEBCMPHRSchemesParm>(),
+    row<CZEBCMPUNFSettingParm>(),
+    row<CZEBCMPCompressibleFlowParm>(),
+    row<CZEBCMPProcessModifyParm>(),
+    row<CZEBCMPGeneralParm>(),
+    row<CZEBCMPPVTcParm>(),
+    row<CZEBCMPRTMParm>(),
+    row<CZEBCMPPUChemFoamParm>(),
+    row<CZEBCMPStableFlagParm>(),
+    row<CZEBCMPOutletParm>(),
+    row<CZEBCMPBiIMParm>(),
+    row<CZEBCMPIBMParm>(),
+    row<CZEBCMPFEMParm>(),
+    row<CZEBCMPMAFVMParm>(),
+    row<CZEBCMPEpoxyVEParm>(),
+    row<CZEBCMPMultiGateParm>(),
+    row<CZEBCMPAutoVPCtrlParm>(),
+    row<CZEBCMPRegionVersionParm>(),
+    row<CZEBCMPCtrlHRSystemParm>(),
+    row<CZEBCMPCompressionParm>(),
+    row<CZEBCMPCrystallineParm>(),
+    row<CZEBCMP_FaceRBF_Parm>(),
+    row<CZEBCMP_IBRBF_Parm>(),
+    row<CZEBCMP_BaseRBF_Parm>(),
+    row<CZEBCMPPIMParm>(),
+    row<CZEBCMPSAMGCtrlParm>(),
+    row<CZEBCMPFiberParm>("FIBER_PLOT_DYNAMIC"),
+    row<CZEBCMPFiberParm>("FIBER_ARD"),
+    row<CZEBCMPFiberParm>("FIBER_SLOW"),
+    row<CZEBCMPFiberParm>("FIBER_CLOSURE"),
+    row<CZEBCMPFiberParm>("FIBER_Breakage"),
+    row<CZEBCMPFiberParm>("FIBER_ImproveRPR"),
+    row<CZEBCMPFiberParm>("FIBER_InletCondition"),
+    row<CZEBCMPFiberParm>("FIBER_FlowCoupling"),
+    row<CZEBCMPFiberParm>("FIBER_DEBUG"),
+    row<CZEBCMPFiberParm>("FIBER_COMPUPARAS"),
+    row<CZEBCMPFiberParm>("FIBER_LENGTH_DISTRIBUTION"),
+    row<CZEBCMPMuCellParm>(),
+    row<CZEBCMPFoamParm>("Foam_PLOT_DYNAMIC"),
+    row<CZEBCMPFoamParm>("Foam_MuCell_Pro"),
+    row<CZEBCMPFoamParm>("Mucell_DEBUG"),
+    row<CZEBCMPFoamParm>("Foam_FoamingComputeParas"),
+    row<CZEBCoolFastCoolParm>(),
+    row<CZEBCoolStdCoolParm>(),
+    row<CZEBCool3DCoolingChannelParm>(),
+    row<CZEBCoolBackDoorParm>(),
+    row<CZEBCMPElongationParm>(),
+};
+
+const Section& sectionOf(const DispatchRow& row) {
+  const std::span<const Section> sections = row.block.table().sections;
+  if (row.section.empty()) return sections.front();
+  for (const Section& section : sections) {
+    if (section.name == row.section) return section;
+  }
+  throw std::logic_error("the dispatch names a section that no block has: " + std::string(row.section));
+}
+
+void readVersionLine(CZEBCMPInternalTool& tool, const std::string& line, LineReader& lines) {
+  int version = 0;
+  const bool parsed = scanVersion(line, version);
+  if (lines.observer() != nullptr) lines.observer()->versionRead(lines.lineNumber(), line, parsed, version);
+  if (version != kHeadVersion) return;
+  readPositional(tableOf<CZEBCMPIteratParm>().sections.front(), &tool.block<CZEBCMPIteratParm>(), lines);
+}
+
+}  // namespace
+
+std::vector<DispatchEntry> cmpSections(CZEBCMPInternalTool& tool) {
+  std::vector<DispatchEntry> entries;
+  entries.reserve(std::size(kRows));
+  for (const DispatchRow& row : kRows) entries.push_back({&sectionOf(row), row.block.locate(tool)});
+  return entries;
+}
+
+int readCMPFile(CZEBCMPInternalTool& tool, const std::string& fileName) {
+  const LineSource source = tool.lineSource();
+  std::ifstream stream;
+  if (source.reads()) {
+    if (source.com != nullptr && source.traces()) writeOut(" CMP file name = " + fileName + "\n");
+    openFile(stream, fileName);
+  }
+  if (tool.m_observer != nullptr) tool.m_observer->fileStarted(fileName);
+  LineReader lines(stream, source, tool.m_observer);
+  const std::vector<DispatchEntry> sections = cmpSections(tool);
+  std::string line;
+  while (lines.next(line)) {
+    if (line.find("[VER]") != line.npos) readVersionLine(tool, line, lines);
+    dispatchLine(sections, line, lines);
+  }
+  if (source.reads()) stream.close();
+  return 1;
+}
+
+}  // namespace zeb

@@ -1,0 +1,20 @@
+// The main loop over a CMP file.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "frame/CZEBCMPInternalTool.hpp"
+#include "frame/SectionDispatch.hpp"
+
+namespace zeb {
+
+/// The keyed and positional sections of a CMP file with the tool's blocks, in the order in which each line is tested
+/// for them.
+std::vector<DispatchEntry> cmpSections(CZEBCMPInternalTool& tool);
+
+/// Reads the whole file into the tool's blocks. Collective. Returns 1, also for a missing file: it reads as an empty
+/// one.
+int readCMPFile(CZEBCMPInternalTool& tool, const std::string& fileName);
+
+}  // namespace zeb

@@ -1,0 +1,328 @@
+// The viscoelastic file on disk: the default one byte for byte, what becomes of the user's, disks that fail, and
+// several ranks.
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "frame/ReadObserver.hpp"
+#include "standalone/RecordingCommunicator.h"
+#include "tests/standalone/TestFolder.h"
+#include "tests/viscoelastic/ViscoelasticSupport.hpp"
+
+namespace {
+
+using zeb::test::TestFolder;
+using zebtest::fileWith;
+using zebtest::kDefaultFile;
+using zebtest::printedBy;
+
+constexpr const char* kCannotOpen = "Can not open viscoelastic cmp file! \n";
+
+std::string contentOf(const std::string& fileName) {
+  std::ifstream file(fileName, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::vector<std::string> filesIn(const TestFolder& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
+    names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+using Names = std::vector<std::string>;
+
+int readFile(const std::string& name, CZEBCMPVEParm& block) {
+  return zeb::readViscoelasticFile(name, block, zeb::LineSource{}, nullptr);
+}
+
+/// No file of this process may grow beyond so many bytes meanwhile: what a full disk looks like.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &m_before);
+    rlimit limit = m_before;
+    limit.rlim_cur = bytes;
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &m_before);
+    std::signal(SIGXFSZ, m_handler);
+  }
+
+ private:
+  rlimit m_before{};
+  void (*m_handler)(int);
+};
+
+// --- The default file -------------------------------------------------------------------------------------------
+
+TEST(DefaultViscoelasticFile, TakesTheMissingFilesPlace) {
+  const TestFolder folder;
+  const std::string name = folder.path("thing.vecmp");
+  CZEBCMPVEParm block;
+  EXPECT_EQ(printedBy([&] { EXPECT_EQ(readFile(name, block), -1); }), "");
+  EXPECT_EQ(contentOf(name), kDefaultFile);
+  EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp"}));
+}
+
+TEST(DefaultViscoelasticFile, HoldsTheBlocksHeadInItsUnits) {
+  const TestFolder folder;
+  const std::string name = folder.path("thing.vecmp");
+  CZEBCMPVEParm block;
+  printedBy([&] {
+    zebtest::readText(block, fileWith({{2, "150 2.5 0"},
+                                       {3, "11 0.25 12.5"},
+                                       {4, "12.25 0.5 0"},
+                                       {5, "3 20000.125"},
+                                       {6, "-10 500 0"},
+                                       {7, "0.5 0.75 1.5"},
+                                       {8, "4 0.4 2"},
+                                       {9, "0"}}));
+  });
+  EXPECT_EQ(zeb::writeDefaultViscoelasticFile(name, block), 1);
+  const std::string head =
+      "1006\n"
+      "0.000000 2.500000 0.000000\n"
+      "11.000000 0.250000 12.500000\n"
+      "12.250000 0.500000 12.250000\n"
+      "3.000000 20000.125000\n"
+      "-10.000000 500.000000 -10.000000\n"
+      "0.500000 0.750000 1.500000\n"
+      "4 0.400000 0\n"
+      "-1\n"
+      "\n"
+      "<VE_Solver>\n";
+  EXPECT_EQ(contentOf(name).substr(0, head.size()), head);
+}
+
+TEST(DefaultViscoelasticFile, ReadBackLeavesEveryMemberAsItWas) {
+  const TestFolder folder;
+  const std::string name = folder.path("thing.vecmp");
+  CZEBCMPVEParm block;
+  block.setTgPoint(105.0);
+  block.InitBoundingParameters();
+  EXPECT_EQ(readFile(name, block), -1);
+  auto before = zebtest::stateOf(block);
+  // The one value that differs from the default: the flag stands in the file as 0.
+  const auto flag = std::find(before.begin(), before.end(), "m_iTransient_FlagIsPlotElongVis -1");
+  ASSERT_NE(flag, before.end());
+  *flag = "m_iTransient_FlagIsPlotElongVis 0";
+  EXPECT_EQ(printedBy([&] { EXPECT_EQ(readFile(name, block), 1); }), "");
+  EXPECT_EQ(zebtest::stateOf(block), before);
+  EXPECT_EQ(block.getCtrlParam_TLowBond(), 105.0);
+  EXPECT_EQ(contentOf(name), kDefaultFile);
+}
+
+// --- The user's file --------------------------------------------------------------------------------------------
+
+TEST(DefaultViscoelasticFile, KeepsTheUsersUnconfirmedFile) {
+  const TestFolder folder;
+  const std::string users = fileWith({{8, "4 0 0"}, {9, "-1"}}, "my notes\n");
+  const std::string name = folder.write("thing.vecmp", users);
+  CZEBCMPVEParm block;
+  EXPECT_EQ(printedBy([&] { EXPECT_EQ(readFile(name, block), -1); }), "");
+  EXPECT_EQ(block.getVEModel(), 1);
+  EXPECT_EQ(contentOf(name), kDefaultFile);
+  EXPECT_EQ(contentOf(name + ".bak"), users);
+  EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp", "thing.vecmp.bak"}));
+}
+
+TEST(DefaultViscoelasticFile, LeavesAValidFileAlone) {
+  const TestFolder folder;
+  const std::string users = fileWith({{8, "4 0 0"}, {9, "0"}});
+  const std::string name = folder.write("thing.vecmp", users);
+  CZEBCMPVEParm block;
+  EXPECT_EQ(printedBy([&] { EXPECT_EQ(readFile(name, block), 1); }),
+            "Switch from White Metzner model to Giesekus model");
+  EXPECT_EQ(contentOf(name), users);
+  EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp"}));
+}
+
+TEST(DefaultViscoelasticFile, WrittenTwiceDoesNotPushTheUsersFileOutOfTheBackup) {
+  const TestFolder folder;
+  const std::string name = folder.write("thing.vecmp", "nonsense\n");
+  const CZEBCMPVEParm block;
+  EXPECT_EQ(zeb::writeDefaultViscoelasticFile(name, block), 1);
+  EXPECT_EQ(zeb::writeDefaultViscoelasticFile(name, block), 1);
+  EXPECT_EQ(contentOf(name), kDefaultFile);
+  EXPECT_EQ(contentOf(name + ".bak"), "nonsense\n");
+}
+
+TEST(DefaultViscoelasticFile, ReadsLinesThatEndInCrLf) {
+  const TestFolder folder;
+  std::string text;
+  for (const char c : std::string(kDefaultFile)) text += c == '\n' ? std::string("\r\n") : std::string(1, c);
+  CZEBCMPVEParm block;
+  EXPECT_EQ(readFile(folder.write("thing.vecmp", text), block), 1);
+  EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp"}));
+}
+
+// --- Disks that fail --------------------------------------------------------------------------------------------
+
+TEST(DefaultViscoelasticFile, MissingFolderIsReportedAndTheRunGoesOn) {
+  const TestFolder folder;
+  CZEBCMPVEParm block;
+  EXPECT_EQ(printedBy([&] { EXPECT_EQ(readFile(folder.path("nowhere/thing.vecmp"), block), -1); }), kCannotOpen);
+  EXPECT_EQ(zebtest::stateOf(block), zebtest::stateOf(CZEBCMPVEParm()));
+  EXPECT_EQ(filesIn(folder), Names{});
+}
+
+TEST(DefaultViscoelasticFile, FullDiskLeavesTheUsersFileAndNoTemporary) {
+  const TestFolder folder;
+  const std::string name = folder.write("thing.vecmp", "1005\n");
+  CZEBCMPVEParm block;
+  const std::string printed = printedBy([&] {
+    const FullDisk full(200);
+    EXPECT_EQ(readFile(name, block), -1);
+  });
+  EXPECT_EQ(printed, kCannotOpen);
+  EXPECT_EQ(contentOf(name), "1005\n");
+  EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp"}));
+  EXPECT_EQ(zeb::writeDefaultViscoelasticFile(name, block), 1) << "there is room again";
+}
+
+TEST(DefaultViscoelasticFile, FolderOfThatNameIsNotMovedAside) {
+  const TestFolder folder;
+  std::filesystem::create_directory(folder.path("thing.vecmp"));
+  CZEBCMPVEParm block;
+  EXPECT_EQ(printedBy([&] { EXPECT_EQ(readFile(folder.path("thing.vecmp"), block), -1); }), kCannotOpen);
+  EXPECT_TRUE(std::filesystem::is_directory(folder.path("thing.vecmp")));
+  EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp"}));
+}
+
+TEST(DefaultViscoelasticFile, WithoutABackupTheUsersFileStays) {
+  const TestFolder folder;
+  const std::string name = folder.write("thing.vecmp", "1005\n");
+  std::filesystem::create_directories(folder.path("thing.vecmp.bak/full"));
+  CZEBCMPVEParm block;
+  EXPECT_EQ(printedBy([&] { EXPECT_EQ(readFile(name, block), -1); }), kCannotOpen);
+  EXPECT_EQ(contentOf(name), "1005\n");
+  EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp", "thing.vecmp.bak"}));
+}
+
+TEST(DefaultViscoelasticFile, AnotherJobsTemporaryIsNotTouched) {
+  const TestFolder folder;
+  folder.write("thing.vecmp.tmp0", "half of anot");
+  EXPECT_EQ(zeb::writeDefaultViscoelasticFile(folder.path("thing.vecmp"), CZEBCMPVEParm()), 1);
+  EXPECT_EQ(contentOf(folder.path("thing.vecmp")), kDefaultFile);
+  EXPECT_EQ(contentOf(folder.path("thing.vecmp.tmp0")), "half of anot");
+  EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp", "thing.vecmp.tmp0"}));
+}
+
+// --- Several ranks ----------------------------------------------------------------------------------------------
+
+struct RankRun {
+  CZEBCMPVEParm block;
+  int result = 0;
+  std::string printed;
+};
+
+RankRun runOn(CZEBCom* com, const std::string& fileName, int printLevel = 0) {
+  RankRun run;
+  run.printed = printedBy([&] {
+    const zeb::LineSource source{.com = com, .printLevel = printLevel};
+    run.result = zeb::readViscoelasticFile(fileName, run.block, source, nullptr);
+  });
+  return run;
+}
+
+const char* kBody =
+    "<VE_Solver>\nVE_Para1 = 0.65\n</VE_Solver>\n<PLOT_MATERIAL>\nFlagIsPlotShearVis = 1\n</PLOT_MATERIAL>\n"
+    "<PLOT_TRANSIENT_EXTENSION_MATERIAL>\nFlagIsPlotElongVis_Transient = 1\nTotalSetofInputSRate = 2\n"
+    "StrainRate = 0.5\nStrainRate = 5\n</PLOT_TRANSIENT_EXTENSION_MATERIAL>\n";
+
+TEST(ViscoelasticRanks, EveryRankEndsLikeASerialRun) {
+  const struct {
+    const char* what;
+    std::string text;
+    int result;
+  } files[] = {
+      {"complete", fileWith({{3, "200 0.5 300"}, {8, "4 0.3 1"}, {9, "0"}}, kBody), 1},
+      {"default", kDefaultFile, 1},
+      {"cut in the head", "1006\n20 1\n", 1},
+      {"unconfirmed", fileWith({{3, "200 0.5 300"}, {8, "4 0.3 1"}, {9, "-1"}}, kBody), -1},
+      {"wrong version", "1005\n", -1},
+      {"empty", "", -1},
+      {"count too large", fileWith({}, "<PLOT_TRANSIENT_EXTENSION_MATERIAL>\nTotalSetofInputSRate = 9999999\n"), 1},
+  };
+  for (const auto& file : files) {
+    const TestFolder folder;
+    const RankRun serial = runOn(nullptr, folder.write("serial.vecmp", file.text));
+    zeb::RecordingCommunicator recording(3);
+    const RankRun first = runOn(&recording, folder.write("thing.vecmp", file.text));
+    zeb::ReplayingCommunicator replaying(recording.log(), 2, 3);
+    const RankRun other = runOn(&replaying, folder.path("other.vecmp"));
+
+    EXPECT_EQ(serial.result, file.result) << file.what;
+    EXPECT_EQ(first.result, file.result) << file.what;
+    EXPECT_EQ(other.result, file.result) << file.what;
+    EXPECT_TRUE(replaying.finished()) << file.what;
+    EXPECT_EQ(zebtest::stateOf(first.block), zebtest::stateOf(serial.block)) << file.what;
+    EXPECT_EQ(zebtest::stateOf(other.block), zebtest::stateOf(serial.block)) << file.what;
+    EXPECT_FALSE(std::filesystem::exists(folder.path("other.vecmp"))) << "only rank 0 writes";
+  }
+}
+
+TEST(ViscoelasticRanks, MissingFileIsKnownToEveryRankByOneBroadcast) {
+  const TestFolder folder;
+  zeb::RecordingCommunicator recording(2);
+  EXPECT_EQ(runOn(&recording, folder.path("thing.vecmp")).result, -1);
+  EXPECT_EQ(recording.log().calls(), (std::vector<std::string>{"Broadi -1"}));
+  zeb::ReplayingCommunicator replaying(recording.log(), 1, 2);
+  EXPECT_EQ(runOn(&replaying, folder.path("other.vecmp")).result, -1);
+  EXPECT_TRUE(replaying.finished());
+  EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp"}));
+}
+
+TEST(ViscoelasticRanks, FailureToWriteIsReportedOnRank0Only) {
+  const TestFolder folder;
+  zeb::RecordingCommunicator recording(2);
+  EXPECT_EQ(runOn(&recording, folder.path("nowhere/thing.vecmp")).printed, kCannotOpen);
+  zeb::ReplayingCommunicator replaying(recording.log(), 1, 2);
+  const RankRun other = runOn(&replaying, folder.path("nowhere/thing.vecmp"));
+  EXPECT_EQ(other.result, -1);
+  EXPECT_EQ(other.printed, "");
+}
+
+TEST(ViscoelasticRanks, PlotValuesAreShownOnEveryRankTheSwitchOnRank0) {
+  const TestFolder folder;
+  zeb::RecordingCommunicator recording(2);
+  const std::string name = folder.write("thing.vecmp", fileWith({{8, "4 0 0"}, {9, "0"}}, kBody));
+  const std::string first = runOn(&recording, name).printed;
+  zeb::ReplayingCommunicator replaying(recording.log(), 1, 2);
+  const std::string other = runOn(&replaying, name).printed;
+  EXPECT_EQ(other.find("\n*********************\nFlagIsPlotShearVis = 1\n"), 0u);
+  EXPECT_NE(other.find("#2 StrainRate                = 5\n"), other.npos);
+  EXPECT_EQ(first, "Switch from White Metzner model to Giesekus model" + other);
+}
+
+TEST(ViscoelasticRanks, PrintLevelTracesNameAndLinesOnRank0) {
+  const TestFolder folder;
+  const std::string name = folder.write("thing.vecmp", "1005\n");
+  zeb::RecordingCommunicator recording(2);
+  EXPECT_EQ(runOn(&recording, name, 1).printed, "VE CMP file name = " + name + "\n - CPUID:0 string: 1005\n");
+  zeb::ReplayingCommunicator replaying(recording.log(), 1, 2);
+  EXPECT_EQ(runOn(&replaying, name, 1).printed, "");
+  EXPECT_EQ(runOn(nullptr, folder.write("serial.vecmp", "1005\n"), 1).printed, "");
+}
+
+TEST(ViscoelasticRanks, LineIsCutAlikeWhereItIsLongerThanABroadcast) {
+  const TestFolder folder;
+  // Behind 250 blanks only "1006" is left of the number.
+  const std::string text = fileWith({{1, std::string(250, ' ') + "10067"}});
+  zeb::RecordingCommunicator recording(2);
+  EXPECT_EQ(runOn(&recording, folder.write("thing.vecmp", text)).result, 1);
+  EXPECT_EQ(runOn(nullptr, folder.write("serial.vecmp", text)).result, -1);
+}
+
+}  // namespace

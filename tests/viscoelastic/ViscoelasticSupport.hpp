@@ -1,0 +1,126 @@
+// What the tests of the viscoelastic file share: files made of a good one with a few lines changed, and a block's whole
+// state.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "frame/ParameterTable.hpp"
+#include "frame/ViscoelasticFile.hpp"
+#include "tests/blocks/ReadBlock.hpp"
+
+namespace zebtest {
+
+/// What a block with all its defaults is written as.
+inline constexpr const char* kDefaultFile =
+    "1006\n"
+    "0.000000 1.000000 0.000000\n"
+    "1000.000000 0.100000 5000.000000\n"
+    "20.000000 0.010000 20.000000\n"
+    "1000.000000 1000000.000000\n"
+    "0.000000 10000.000000 0.000000\n"
+    "1.000000 10.000000 1000.000000\n"
+    "1 0.000000 0\n"
+    "-1\n"
+    "\n"
+    "<VE_Solver>\n"
+    "VE_Para1 = 0.7 \n"
+    "</VE_Solver>\n"
+    "\n"
+    "\n"
+    "<WhiteMetzner_Gai>\n"
+    "WM_Switch = 1 \n"
+    "WM_Para1  = 0.1 \n"
+    "WM_Para2  = 0.8 \n"
+    "</WhiteMetzner_Gai>\n"
+    "\n"
+    "\n"
+    "<PLOT_MATERIAL>\n"
+    "FlagIsPlotShearVis  = 0 \n"
+    "FlagIsPlotElongVis  = 0 \n"
+    "RefTemperature      = 200 \n"
+    "DeltaTemperature    = 20  \n"
+    "DeltaTime           = 0.01 \n"
+    "TargetTime          = 20  \n"
+    "SRateLowerBound     = 0.01 \n"
+    "SRateUpperBound     = 1000 \n"
+    "</PLOT_MATERIAL>\n"
+    "\n"
+    "\n"
+    "<PLOT_TRANSIENT_SHEAR_MATERIAL>\n"
+    "FlagIsPlotShearVis_Transient  = 0 \n"
+    "RefTemperature                = 200 \n"
+    "DeltaTemperature              = 20  \n"
+    "DeltaTime                     = 0.01 \n"
+    "TargetTime                    = 200  \n"
+    "SRateLowerBound               = 0.01 \n"
+    "SRateUpperBound               = 10 \n"
+    "TotalSetofInputSRate          = -1 \n"
+    "ShearRate                     = 0.01 \n"
+    "</PLOT_TRANSIENT_SHEAR_MATERIAL>\n"
+    "\n"
+    "\n"
+    "<PLOT_TRANSIENT_EXTENSION_MATERIAL>\n"
+    "FlagIsPlotElongVis_Transient  = 0 \n"
+    "RefTemperature                = 200 \n"
+    "DeltaTemperature              = 20  \n"
+    "DeltaTime                     = 0.01 \n"
+    "TargetTime                    = 200  \n"
+    "SRateLowerBound               = 0.01 \n"
+    "SRateUpperBound               = 10 \n"
+    "TotalSetofInputSRate          = -1 \n"
+    "StrainRate                    = 0.01 \n"
+    "</PLOT_TRANSIENT_EXTENSION_MATERIAL>\n"
+    "\n";
+
+/// A head whose values are all ignored (so that a block keeps what it has), with some lines replaced, then `body`.
+inline std::string fileWith(const std::map<int, std::string>& lines, const std::string& body = "") {
+  const char* neutral[] = {"1006", "0 0 0", "0 0 0", "0 0 0", "0 0", "-60 0 0", "0 0 0", "1 0 0", "-1"};
+  std::string text;
+  for (int number = 1; number <= 9; ++number) {
+    const auto found = lines.find(number);
+    text += (found == lines.end() ? neutral[number - 1] : found->second) + "\n";
+  }
+  return text + body;
+}
+
+inline int readText(CZEBCMPVEParm& block, const std::string& text, zeb::ReadObserver* observer = nullptr) {
+  std::istringstream stream(text);
+  return zeb::readViscoelasticLines(stream, block, zeb::LineSource{}, observer);
+}
+
+inline const zeb::Row& rowOfGetter(const std::string& getter) {
+  for (const zeb::Section& section : zeb::tableOf<CZEBCMPVEParm>().sections) {
+    for (const zeb::Row& row : section.rows) {
+      if (row.field.getter == getter) return row;
+    }
+  }
+  throw std::invalid_argument("no row has the getter " + getter);
+}
+
+/// By the public getter of that name.
+inline double valueOf(const CZEBCMPVEParm& block, const std::string& getter) {
+  return rowOfGetter(getter).field.get(&block);
+}
+
+/// Every member as text, arrays by their elements.
+inline std::vector<std::string> stateOf(const CZEBCMPVEParm& block) {
+  std::vector<std::string> state;
+  for (const zeb::Section& section : zeb::tableOf<CZEBCMPVEParm>().sections) {
+    for (const zeb::Row& row : section.rows) {
+      if (row.field.type == zeb::FieldType::kDoubles) continue;
+      state.push_back(std::string(row.field.member) + " " + zeb::dumpValue(row, &block));
+    }
+  }
+  if (const double* rates = block.getMatFunPlotParam_Transient_InputStrainRate()) {
+    const int count = block.getMatFunPlotParam_Transient_NSetofInput_StrainRate();
+    for (int i = 0; i <= count; ++i) state.push_back("rate " + std::to_string(rates[i]));
+  }
+  return state;
+}
+
+}  // namespace zebtest
