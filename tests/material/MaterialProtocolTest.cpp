@@ -1,0 +1,335 @@
+// What rank 0 sends for a material, call by call, and what the other ranks make of it.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "material/CZEBKNMaterialParam.h"
+#include "standalone/RecordingCommunicator.h"
+#include "standalone/ThreadCommunicator.h"
+#include "tests/material/FakeEngine.h"
+#include "tests/material/MaterialExamples.h"
+
+namespace {
+
+// One call for each value: "i 1 2" are two Broadi, "d 0.5" is a Broadd, "c TEXT" a Broadc of the rest of the line; '#'
+// opens a comment.
+std::vector<std::string> callsOf(const std::string& script) {
+  std::vector<std::string> calls;
+  std::istringstream lines(script);
+  for (std::string line; std::getline(lines, line);) {
+    std::istringstream words(line.substr(0, line.find('#')));
+    std::string kind;
+    if (!(words >> kind)) continue;
+    if (kind == "Barrier") calls.push_back(kind);
+    if (kind == "c") calls.push_back("Broadc " + line.substr(2));
+    if (kind == "i" || kind == "d") {
+      for (std::string value; words >> value;) calls.push_back((kind == "i" ? "Broadi " : "Broadd ") + value);
+    }
+  }
+  return calls;
+}
+
+const char* const kOneCoefficientCalls = R"(
+Barrier
+i 101 102 103 104 105 106
+c "PP crystalline"
+c "PP crystalline"
+c "PP crystalline"
+c "PP crystalline"
+c "PP crystalline"
+c "PP crystalline"
+i 2 11 12         # table 1: count, A, B
+d 0.5 1.5
+i 0 0 0           # table 2
+i 1 31 32         # table 3
+d -2.25
+i 0 0 0           # table 4
+i 0 0 0           # table 5
+i 0 0 0           # table 6
+i 0 0 0           # table 7
+i 0 0 0           # table 8
+i 0 0 0           # table 9
+i 0 0 0           # table 10
+i 0 0 0           # table 11
+i 0 0 0           # table 12
+i 0 0 0           # table 13
+i 0 0 0           # table 14
+i 0 0 0           # table 15
+i 0 0 0           # table 16
+i 3 171 172       # table 17
+d 1e+30 2e-30 3
+i 7 8 1 9         # model values
+d 42.5            # last
+d 0.125           # coefficient
+i 0               # test curves
+)";
+
+const char* const kFiveCoefficientCalls = R"(
+Barrier
+i -1 0 0 0 0 6
+c "EP \"thermoset\""
+c "EP \"thermoset\""
+c "EP \"thermoset\""
+c "EP \"thermoset\""
+c "EP \"thermoset\""
+c "EP \"thermoset\""
+i 0 0 0           # table 1
+i 1 21 22         # table 2
+d 20.5
+i 0 0 0           # table 3
+i 0 0 0           # table 4
+i 0 0 0           # table 5
+i 0 0 0           # table 6
+i 0 0 0           # table 7
+i 0 0 0           # table 8
+i 0 0 0           # table 9
+i 0 0 0           # table 10
+i 0 0 0           # table 11
+i 0 0 0           # table 12
+i 0 0 0           # table 13
+i 0 0 0           # table 14
+i 0 0 0           # table 15
+i 0 0 0           # table 16
+i 0 0 0           # table 17
+i 1 2 3 4
+d -1
+d 0.1 0.2 0.3 0.4 0.5
+i 2               # test curves
+i 52 51 1         # curve 1: B, A, count
+d 3.5             # its entry: the double, ints 1, 3, 2, the 21 doubles
+i 1 3 2
+d 100.5 101.5 102.5 103.5 104.5 105.5 106.5 107.5 108.5 109.5 110.5
+d 111.5 112.5 113.5 114.5 115.5 116.5 117.5 118.5 119.5 120.5
+i 62 61 0         # curve 2
+)";
+
+const char* const kTwoCoefficientCalls = R"(
+Barrier
+i 0 0 0 0 0 0
+c ""
+c ""
+c ""
+c ""
+c ""
+c ""
+i 0 0 0           # table 1
+i 0 0 0           # table 2
+i 0 0 0           # table 3
+i 0 0 0           # table 4
+i 0 0 0           # table 5
+i 0 0 0           # table 6
+i 0 0 0           # table 7
+i 0 0 0           # table 8
+i 0 91 92         # table 9
+i 0 0 0           # table 10
+i 0 0 0           # table 11
+i 0 0 0           # table 12
+i 0 0 0           # table 13
+i 0 0 0           # table 14
+i 0 0 0           # table 15
+i 0 0 0           # table 16
+i 0 0 0           # table 17
+i 0 0 2 0
+d 0
+d 1.25 2.25
+i 1               # test curves
+i 72 71 2
+d 0.25
+i 4 6 5
+d 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21
+d 0.75
+i 7 9 8
+d -10 -9 -8 -7 -6 -5 -4 -3 -2 -1 0 1 2 3 4 5 6 7 8 9 10
+)";
+
+struct Example {
+  const char* name;
+  void (*make)(FakeEngine&);
+  const char* calls;
+};
+
+void PrintTo(const Example& example, std::ostream* out) {
+  *out << example.name;
+}
+
+// Everything of a rank's copy but the second to seventh text.
+std::string shared(const CZEBKNMaterialParam& param, int curves) {
+  std::ostringstream out;
+  out << std::hexfloat;
+  const ZebMaterial& material = *param.GetZebMaterial();
+  for (const int value : material.iHeader) out << value << ' ';
+  out << material.szText[0] << '\n';
+  for (const ZebMatParam& table : material.table) {
+    out << table.iA << ' ' << table.iB << ' ' << table.iCount << ':';
+    for (int i = 0; i < table.iCount; ++i) out << ' ' << table.pdValue[i];
+    out << '\n';
+  }
+  for (const int value : material.iModel) out << value << ' ';
+  for (int i = 0; i < 6; ++i) out << material.pdCoefficient[i] << ' ';
+  out << material.dLast << '\n';
+  for (int index = 0; index < curves; ++index) {
+    const ZEB_MTC* const curve = param.GetMtcData(index);
+    if (curve == nullptr) return "no curve " + std::to_string(index);
+    out << curve->iA << ' ' << curve->iB << ' ' << curve->iCount << '\n';
+    for (int i = 0; i < curve->iCount; ++i) {
+      out << curve->pdValue[i];
+      for (const int value : curve->pEntry[i].iValue) out << ' ' << value;
+      for (const double value : curve->pEntry[i].dValue) out << ' ' << value;
+      out << '\n';
+    }
+  }
+  return out.str();
+}
+
+int curvesOf(const CZEBKNMaterialParam& param) {
+  testing::internal::CaptureStdout();
+  int count = 0;
+  while (param.GetMtcData(count) != nullptr) ++count;
+  testing::internal::GetCapturedStdout();
+  return count;
+}
+
+class MaterialProtocol : public testing::TestWithParam<Example> {};
+
+TEST_P(MaterialProtocol, SendsExactlyTheseCalls) {
+  FakeEngine engine;
+  GetParam().make(engine);
+  zeb::RecordingCommunicator com(2);
+  CZEBKNMaterialParam param;
+  EXPECT_EQ(param.SetInput("PP", &com), 1);
+  EXPECT_EQ(com.log().calls(), callsOf(GetParam().calls));
+}
+
+TEST_P(MaterialProtocol, ReceiversEndWithTheSameRecord) {
+  for (const int ranks : {2, 8}) {
+    FakeEngine engine;
+    GetParam().make(engine);
+    zeb::RecordingCommunicator com(ranks);
+    CZEBKNMaterialParam sender;
+    sender.SetInput("PP", &com);
+    const int curves = curvesOf(sender);
+    const std::size_t engineCalls = engine.calls.size();
+    for (int rank = 1; rank < ranks; ++rank) {
+      zeb::ReplayingCommunicator replay(com.log(), rank, ranks);
+      CZEBKNMaterialParam receiver;
+      EXPECT_EQ(receiver.SetInput("PP", &replay), 1);
+      EXPECT_TRUE(replay.finished());
+      EXPECT_EQ(curvesOf(receiver), curves);
+      EXPECT_EQ(shared(receiver, curves), shared(sender, curves));
+    }
+    EXPECT_EQ(engine.calls.size(), engineCalls) << "only rank 0 talks to the engine";
+  }
+}
+
+TEST_P(MaterialProtocol, TeamsOfThreadsEndWithTheSameRecord) {
+  for (const int ranks : {1, 2, 8}) {
+    FakeEngine engine;
+    GetParam().make(engine);
+    zeb::ThreadTeam team(ranks);
+    std::vector<CZEBKNMaterialParam> params(static_cast<std::size_t>(ranks));
+    team.run([&](int rank, CZEBCom& com) { params[static_cast<std::size_t>(rank)].SetInput("PP", &com); });
+    const int curves = curvesOf(params[0]);
+    for (const auto& param : params) {
+      EXPECT_EQ(curvesOf(param), curves);
+      EXPECT_EQ(shared(param, curves), shared(params[0], curves));
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Examples, MaterialProtocol,
+                         testing::Values(Example{"OneCoefficient", makeOneCoefficientMaterial, kOneCoefficientCalls},
+                                         Example{"FiveCoefficients", makeFiveCoefficientMaterial,
+                                                 kFiveCoefficientCalls},
+                                         Example{"TwoCoefficients", makeTwoCoefficientMaterial, kTwoCoefficientCalls}),
+                         testing::PrintToStringParamName());
+
+TEST(MaterialDistribution, OnlyTheFirstTextIsDistributed) {
+  FakeEngine engine;
+  makeOneCoefficientMaterial(engine);
+  zeb::RecordingCommunicator com(2);
+  CZEBKNMaterialParam sender;
+  sender.SetInput("PP", &com);
+  zeb::ReplayingCommunicator replay(com.log(), 1, 2);
+  CZEBKNMaterialParam receiver;
+  receiver.SetInput("PP", &replay);
+  EXPECT_STREQ(sender.GetZebMaterial()->szText[0], "PP crystalline");
+  EXPECT_STREQ(receiver.GetZebMaterial()->szText[0], "PP crystalline");
+  const char* const others[] = {"maker", "grade", "comment", "fifth", "sixth", "seventh"};
+  for (int i = 1; i < 7; ++i) {
+    EXPECT_STREQ(sender.GetZebMaterial()->szText[i], others[i - 1]);
+    EXPECT_STREQ(receiver.GetZebMaterial()->szText[i], "");
+  }
+}
+
+TEST(MaterialDistribution, SingleRankSendsNothing) {
+  FakeEngine engine;
+  makeFiveCoefficientMaterial(engine);
+  zeb::RecordingCommunicator com(1);
+  CZEBKNMaterialParam param;
+  EXPECT_EQ(param.SetInput("EP", &com), 1);
+  EXPECT_EQ(com.log().calls(), std::vector<std::string>{"Barrier"});
+  EXPECT_EQ(curvesOf(param), 2);
+}
+
+TEST(MaterialDistribution, OtherModelValuesSendNoCoefficients) {
+  for (const int model : {4, 0, -1, 2147483647}) {
+    FakeEngine engine;
+    engine.setModel(0, 0, model, 0, {1, 2, 3, 4, 5, 6}, 0.5);
+    zeb::RecordingCommunicator com(2);
+    CZEBKNMaterialParam param;
+    param.SetInput("X", &com);
+    const std::vector<std::string> calls = com.log().calls();
+    // Barrier, 6 header values, 6 texts, 17 empty tables, 4 model values, the last double, the number of curves
+    ASSERT_EQ(calls.size(), 1u + 6 + 6 + 17 * 3 + 4 + 1 + 1);
+    EXPECT_EQ(calls[calls.size() - 2], "Broadd 0.5");
+    EXPECT_EQ(calls.back(), "Broadi 0");
+    for (int i = 0; i < 6; ++i) EXPECT_EQ(param.GetZebMaterial()->pdCoefficient[i], 0.0);
+  }
+}
+
+TEST(MaterialDistribution, UnknownMaterialIsAnEmptyRecordOnAllRanks) {
+  FakeEngine engine;
+  engine.knowsMaterial = false;
+  zeb::RecordingCommunicator com(2);
+  CZEBKNMaterialParam sender;
+  EXPECT_EQ(sender.SetInput("nowhere", &com), 1);
+  EXPECT_EQ(engine.calls, std::vector<std::string>{"ZebGetMaterial nowhere"});
+  zeb::ReplayingCommunicator replay(com.log(), 1, 2);
+  CZEBKNMaterialParam receiver;
+  EXPECT_EQ(receiver.SetInput("nowhere", &replay), 1);
+  EXPECT_TRUE(replay.finished());
+  EXPECT_EQ(curvesOf(receiver), 0);
+  EXPECT_EQ(shared(receiver, 0), shared(sender, 0));
+  EXPECT_STREQ(receiver.GetZebMaterial()->szText[0], "");
+  EXPECT_EQ(com.log().calls().back(), "Broadi 0");
+}
+
+TEST(MaterialDistribution, CountsThatMakeNoSenseAreSentAsZero) {
+  FakeEngine engine;
+  makeFiveCoefficientMaterial(engine);
+  engine.material.table[1].iCount = -1;
+  engine.material.table[4].iCount = 2147483647;
+  engine.reportedCurves = -3;
+  zeb::RecordingCommunicator com(2);
+  CZEBKNMaterialParam sender;
+  testing::internal::CaptureStdout();
+  sender.SetInput("EP", &com);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+            "Material: the count of property table 2 (-1) is not between 0 and 1000000, 0 is used.\n"
+            "Material: the count of property table 5 (2147483647) is not between 0 and 1000000, 0 is used.\n"
+            "Material: the count of test curves (-3) is not between 0 and 1000000, 0 is used.\n");
+  zeb::ReplayingCommunicator replay(com.log(), 1, 2);
+  CZEBKNMaterialParam receiver;
+  testing::internal::CaptureStdout();
+  receiver.SetInput("EP", &replay);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+  EXPECT_TRUE(replay.finished());
+  EXPECT_EQ(sender.GetZebMaterial()->table[1].iCount, 0);
+  EXPECT_EQ(sender.GetZebMaterial()->table[1].iA, 21);
+  EXPECT_EQ(shared(receiver, 0), shared(sender, 0));
+}
+
+}  // namespace
