@@ -1,0 +1,19 @@
+# How this build starts programs on several ranks: on any machine, as root in a container too, with more ranks than
+# cores, without a remote shell and without a network.
+include_guard()
+
+set(zebMpiRun ${MPIEXEC_EXECUTABLE})
+set(zebMpiEnvironment
+  OMPI_ALLOW_RUN_AS_ROOT=1
+  OMPI_ALLOW_RUN_AS_ROOT_CONFIRM=1
+  OMPI_MCA_rmaps_base_oversubscribe=1
+  # Ranks outnumber cores: a waiting rank must let the others run.
+  OMPI_MCA_mpi_yield_when_idle=1
+  OMPI_MCA_plm=isolated
+  OMPI_MCA_btl=self,vader
+  OMPI_MCA_btl_vader_single_copy_mechanism=none)
+if(ZEB_SANITIZE)
+  # Open MPI replaces allocation functions, which the sanitizer does too, and keeps memory to the end of the process in
+  # modules that it has unloaded by then, so that it cannot be told from ours: leaks are looked for in the other tests.
+  list(APPEND zebMpiEnvironment OMPI_MCA_memory=^patcher ASAN_OPTIONS=detect_leaks=0)
+endif()
