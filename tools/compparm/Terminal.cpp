@@ -1,0 +1,57 @@
+#include "tools/compparm/Terminal.hpp"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <iostream>
+
+namespace compparm {
+
+namespace {
+
+bool wantsColour() {
+  static const bool kWanted = [] {
+    const char* noColour = std::getenv("NO_COLOR");
+    return (noColour == nullptr || *noColour == '\0') && isatty(STDOUT_FILENO) == 1;
+  }();
+  return kWanted;
+}
+
+std::string_view code(Colour colour) {
+  switch (colour) {
+    case Colour::kBold:
+      return "\033[1m";
+    case Colour::kDim:
+      return "\033[2m";
+    case Colour::kRed:
+      return "\033[31m";
+    case Colour::kGreen:
+      return "\033[32m";
+    case Colour::kYellow:
+      return "\033[33m";
+    case Colour::kCyan:
+      return "\033[36m";
+  }
+  return "";
+}
+
+}  // namespace
+
+std::string coloured(Colour colour, std::string_view text) {
+  if (!wantsColour()) return std::string(text);
+  return std::string(code(colour)) + std::string(text) + "\033[0m";
+}
+
+int fail(const std::string& text) {
+  std::cerr << "compparm: " << text << '\n';
+  return kError;
+}
+
+std::string padded(std::string_view text, std::size_t width) {
+  const auto continues = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
+  const auto columns = text.size() - static_cast<std::size_t>(std::count_if(text.begin(), text.end(), continues));
+  return std::string(text) + std::string(columns < width ? width - columns : 0, ' ');
+}
+
+}  // namespace compparm
