@@ -248,6 +248,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRTMParm>() {
       {.field = field<&T::m_iOutputErrorMesh, &T::iOutputErrorMesh>(), .key = "OutputErrorMesh",
        .doc = "Output of the erroneous mesh. Meaning defined by the solver."},
       {.field = field<&T::m_iIsVentInlet, &T::iIsVentInlet>(), .key = "IsVentInlet", .list = kReadVentInlets,
+       .fills = "m_iNVentInlet m_piVentInletID",
        .doc = "List of vent inlets; 1 announces it on the next lines."},
       {.field = field<&T::m_iNVentInlet, &T::iNVentInlet>(),
        .doc = "Number of vent inlets (0 to 1000000), from the key NVentInlet on the line after IsVentInlet."},

@@ -53,6 +53,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCoolBackDoorParm>() {
        .doc = "Switch: heat-flux history; set by the word alone."},
       {.field = field<&T::m_iGetIfActive_ElectromagneticHeating, &T::iGetIfActive_ElectromagneticHeating>(),
        .key = "ElemagComsol", .lookup = Lookup::kPresence, .list = kReadHeating,
+       .fills = "m_dGetTime_StartHeating m_dGetTime_EndHeating m_cGetElectromagneticxternalFile",
        .doc = "Switch: electromagnetic heating; set by the word, with start, end and external file as the next words."},
       {.field = field<&T::m_cGetElectromagneticxternalFile, &T::cGetElectromagneticxternalFile>(),
        .doc = "Name of the external file of the electromagnetic heating, cut to 511 characters."},

@@ -46,6 +46,7 @@ class CZEBCMPInternalTool {
   int m_iMaterialType = 0;
   int m_nPrintLevel = 0;
   zeb::ReadObserver* m_observer = nullptr;  ///< Not owned; null in a solver.
+  bool m_writesFiles = true;                ///< False in tools, which only look.
 };
 
 namespace zeb {

@@ -63,7 +63,7 @@ int CZEBKNCMPCompParm::setSolidFillBlock(const std::string& fileName) {
   std::string companion = fileName;
   companion.erase(companion.rfind('.'));
   companion += ".vecmp";
-  zeb::readViscoelasticFile(companion, viscoelastic, m_tool->lineSource(), m_tool->m_observer);
+  zeb::readViscoelasticFile(companion, viscoelastic, m_tool->lineSource(), m_tool->m_observer, m_tool->m_writesFiles);
   return 1;
 }
 

@@ -106,6 +106,7 @@ struct Row {
   bool count = false;            // sizes a list: negative or above kLargestCount is refused
   ElementStore store = nullptr;  // an element of the field's array instead of the field
   ListReader list = nullptr;
+  std::string_view fills = {};  // the members without a key of their own that the list sets, separated by blanks
   Echo echo = {};
   std::string_view label = {};  // in the dump; empty: never dumped
   DumpFormat dump = DumpFormat::kByType;

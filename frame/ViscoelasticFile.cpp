@@ -348,7 +348,8 @@ int readViscoelasticLines(std::istream& stream, CZEBCMPVEParm& block, const Line
 }
 
 int readViscoelasticFile(const std::string& fileName, CZEBCMPVEParm& block, const LineSource& source,
-                         ReadObserver* observer) {
+                         ReadObserver* observer, bool writesDefault) {
+  if (observer != nullptr) observer->fileStarted(fileName);
   std::ifstream stream;
   if (openOnRank0(stream, fileName, source)) {
     if (readViscoelasticLines(stream, block, source, observer) == 1) return 1;
@@ -357,7 +358,7 @@ int readViscoelasticFile(const std::string& fileName, CZEBCMPVEParm& block, cons
     if (observer != nullptr) observer->viscoelasticRefused(0, "the file cannot be opened");
     block.InitBoundingParameters();
   }
-  if (source.reads()) writeDefaultViscoelasticFile(fileName, block);
+  if (writesDefault && source.reads()) writeDefaultViscoelasticFile(fileName, block);
   return -1;
 }
 

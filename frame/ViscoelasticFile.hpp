@@ -20,9 +20,9 @@ bool wantsViscoelasticFile(const CZEBCMPVEParm& block);
 int readViscoelasticLines(std::istream& stream, CZEBCMPVEParm& block, const LineSource& source, ReadObserver* observer);
 
 /// Opens the file on rank 0 and reads it as above on every rank. Where it is missing or not valid, rank 0 puts the
-/// default file in its place.
+/// default file in its place, unless `writesDefault` is false: tools only look.
 int readViscoelasticFile(const std::string& fileName, CZEBCMPVEParm& block, const LineSource& source,
-                         ReadObserver* observer);
+                         ReadObserver* observer, bool writesDefault = true);
 
 /// Writes a complete file with the block's head values, for the user to edit. A regular file that stands there is kept
 /// as `fileName` + ".bak", unless it is the very same; the new one appears whole or not at all. Returns 1; on a failure

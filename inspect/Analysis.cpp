@@ -33,7 +33,10 @@ std::string moldingNames() {
 std::unique_ptr<CZEBKNCMPCompParm> analyse(const std::string& fileName, const AnalysisOptions& options, CZEBCom* com,
                                            ReadObserver* observer) {
   auto set = std::make_unique<CZEBKNCMPCompParm>(options.molding, options.material);
-  if (CZEBCMPInternalTool* tool = Inspection::tool(*set)) tool->m_observer = observer;
+  if (CZEBCMPInternalTool* tool = Inspection::tool(*set)) {
+    tool->m_observer = observer;
+    tool->m_writesFiles = false;
+  }
   if (com != nullptr) set->setZEBCom(com);
   if (options.wax) set->setIsWaxMat(1);
   if (options.viscoelastic) set->getVEParm()->setIstoCalcRS(true);

@@ -19,7 +19,15 @@ void Provenance::lineRead(int lineNumber, std::string_view /*line*/) {
 
 void Provenance::keyFound(const KeyEvent& event) {
   if (event.outcome != KeyOutcome::kStored && event.outcome != KeyOutcome::kRefused) return;
-  m_origins[event.row.field.locate(event.block)] = {Origin::Kind::kFile, m_laterFile, event.lineNumber, {}};
+  const Origin here{Origin::Kind::kFile, m_laterFile, event.lineNumber, {}};
+  m_origins[event.row.field.locate(event.block)] = here;
+  for (const Row& row : event.section.rows) {
+    if (fills(event.row, row)) m_origins[row.field.locate(event.block)] = here;
+  }
+}
+
+void Provenance::viscoelasticRefused(int lineNumber, std::string_view reason) {
+  m_refusal = m_laterFile + (lineNumber > 0 ? " line " + std::to_string(lineNumber) : "") + ": " + std::string(reason);
 }
 
 void Provenance::repaired(const RepairEvent& event) {

@@ -25,9 +25,10 @@ void AnalysisArguments::addTo(CLI::App& command) {
       ->check(CLI::Range(0, 1))
       ->type_name("0|1");
   command.add_flag("--wax", options.wax, "Wax material");
-  command.add_flag("--viscoelastic", options.viscoelastic,
-                   "Read the companion file FILE with the extension .vecmp too; like a solver, writes it with "
-                   "defaults when it is missing or invalid");
+  command.add_flag(
+      "--viscoelastic", options.viscoelastic,
+      "Read the companion file, FILE with the extension .vecmp, too. A solver writes it with defaults where it "
+      "is missing or invalid; compparm leaves it alone");
   command.add_flag("!--no-repair", options.repair,
                    "Show the values as read, before the repairs of molding and material type");
 }

@@ -32,6 +32,7 @@ struct ShowArguments {
 struct Shown {
   std::vector<zeb::BlockSettings> blocks;
   std::string messages;  // what the library printed while it read
+  std::string refusal;   // of the viscoelastic file
   int lines = 0;
   RankComparison ranks;
 };
@@ -81,6 +82,7 @@ void printJson(const ShowArguments& arguments, const Shown& shown) {
     document["ranks"] = {{"count", shown.ranks.ranks}, {"same", shown.ranks.same()}};
     if (!shown.ranks.same()) document["ranks"]["difference"] = shown.ranks.difference;
   }
+  if (!shown.refusal.empty()) document["viscoelasticFileRefused"] = shown.refusal;
   if (!shown.messages.empty()) document["messages"] = shown.messages;
   // Texts of the file may be no UTF-8: what is not is replaced.
   std::cout << document.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
@@ -130,6 +132,10 @@ void printText(const ShowArguments& arguments, const Shown& shown) {
     std::istringstream lines(shown.messages);
     for (std::string line; std::getline(lines, line);) std::cout << "  " << line << '\n';
     std::cout << '\n';
+  }
+  if (!shown.refusal.empty()) {
+    std::cout << coloured(Colour::kYellow, "The viscoelastic file is not taken: ") << shown.refusal
+              << ". A solver would write a default one in its place.\n";
   }
   std::cout << changed << (changed == 1 ? " value differs" : " values differ") << " from the default.\n";
   if (shown.ranks.ranks > 1) {
@@ -206,6 +212,7 @@ int show(const ShowArguments& arguments, const MpiRun* mpi) {
   shown.blocks = zeb::settingsOf(chosenBlocks(arguments, *reading.set), &provenance);
   shown.lines = provenance.linesRead();
   shown.ranks = reading.ranks;
+  shown.refusal = provenance.refusal();
   if (arguments.changedOnly) {
     for (zeb::BlockSettings& block : shown.blocks) {
       std::erase_if(block.settings, [](const zeb::Setting& setting) { return !setting.isChanged(); });
