@@ -23,9 +23,7 @@ constexpr int kIdOutOfRange = 2;
 constexpr int kNotAscending = 3;
 constexpr int kNoSuchEntry = 4;
 
-std::size_t index(int id) {
-  return static_cast<std::size_t>(id);
-}
+std::size_t index(int id) { return static_cast<std::size_t>(id); }
 
 void printLine(bool wanted, const std::string& text) {
   if (wanted) zeb::writeOut(text + "\n");

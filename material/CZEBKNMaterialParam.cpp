@@ -20,9 +20,7 @@ constexpr std::size_t kTextSize = 255;
 
 using Text = std::array<char, kTextSize>;
 
-std::size_t at(int i) {
-  return static_cast<std::size_t>(i);
-}
+std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 // Characters after the terminator are zeroed, so that equal texts are equal buffers.
 void copyText(const char* source, Text& target) {
@@ -127,9 +125,7 @@ int CZEBKNMaterialParam::SetInput(std::string name, CZEBCom* communicator) {
   return 1;
 }
 
-ZebMaterial* CZEBKNMaterialParam::GetZebMaterial() const {
-  return m_record == nullptr ? nullptr : &m_record->material;
-}
+ZebMaterial* CZEBKNMaterialParam::GetZebMaterial() const { return m_record == nullptr ? nullptr : &m_record->material; }
 
 const ZEB_MTC* CZEBKNMaterialParam::GetMtcData(int i) const {
   if (i >= m_nMtcCount) {

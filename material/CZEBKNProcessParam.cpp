@@ -29,9 +29,7 @@ int CZEBKNProcessParam::SetInput([[maybe_unused]] std::string fileName, CZEBCom*
   return 1;
 }
 
-ZEBG_SimulatorProcess* CZEBKNProcessParam::GetZebProcess() const {
-  return m_process.get();
-}
+ZEBG_SimulatorProcess* CZEBKNProcessParam::GetZebProcess() const { return m_process.get(); }
 
 void CZEBKNProcessParam::replaceProcess(std::shared_ptr<ZEBG_SimulatorProcess> next) {
   if (m_process != nullptr && m_process != next) m_earlierProcesses.push_back(m_process);

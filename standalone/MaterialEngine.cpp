@@ -138,6 +138,4 @@ const ZEB_MTC* ZebGetMTCData(ZebMaterial* material, int index) {
   return &record->testCurves[static_cast<std::size_t>(index)].record;
 }
 
-void ZebReleaseMaterial(ZebMaterial* material) {
-  delete zeb::recordOf(material);
-}
+void ZebReleaseMaterial(ZebMaterial* material) { delete zeb::recordOf(material); }

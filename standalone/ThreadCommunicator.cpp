@@ -27,9 +27,7 @@ constexpr std::uint32_t kPoisoned = 1;
 constexpr std::uint32_t kClosed = 2;  // rank 0 has ended, nothing more will be published
 constexpr std::uint32_t kOneCall = 4;
 
-constexpr std::uint32_t counterOf(std::uint32_t word) {
-  return word / kOneCall;
-}
+constexpr std::uint32_t counterOf(std::uint32_t word) { return word / kOneCall; }
 constexpr std::uint32_t counterOfCalls(std::uint64_t calls) {
   return counterOf(static_cast<std::uint32_t>(calls * kOneCall));
 }
@@ -114,9 +112,7 @@ class ThreadTeam::Meeting {
   std::exception_ptr firstError_;
 };
 
-int ThreadTeam::Rank::GetNCPU() {
-  return meeting_.size();
-}
+int ThreadTeam::Rank::GetNCPU() { return meeting_.size(); }
 
 void ThreadTeam::Rank::makeRoomInRing() {
   if (sinceMeeting_ < kRingSize) return;
@@ -259,13 +255,9 @@ ThreadTeam::ThreadTeam(int ranks) {
 
 ThreadTeam::~ThreadTeam() = default;
 
-int ThreadTeam::size() const {
-  return meeting_->size();
-}
+int ThreadTeam::size() const { return meeting_->size(); }
 
-CZEBCom& ThreadTeam::rank(int index) {
-  return meeting_->rank(index);
-}
+CZEBCom& ThreadTeam::rank(int index) { return meeting_->rank(index); }
 
 void ThreadTeam::run(const std::function<void(int rank, CZEBCom& com)>& work) {
   meeting_->reset();

@@ -67,21 +67,13 @@ MpiCommunicator::MpiCommunicator(int fortranHandle) : handle_(pack(MPI_Comm_f2c(
   MPI_Comm_size(unpack(handle_), &ranks_);
 }
 
-void MpiCommunicator::Barrier() {
-  MPI_Barrier(unpack(handle_));
-}
+void MpiCommunicator::Barrier() { MPI_Barrier(unpack(handle_)); }
 
-void MpiCommunicator::Broadi(int& value) {
-  MPI_Bcast(&value, 1, MPI_INT, 0, unpack(handle_));
-}
+void MpiCommunicator::Broadi(int& value) { MPI_Bcast(&value, 1, MPI_INT, 0, unpack(handle_)); }
 
-void MpiCommunicator::Broadd(double& value) {
-  MPI_Bcast(&value, 1, MPI_DOUBLE, 0, unpack(handle_));
-}
+void MpiCommunicator::Broadd(double& value) { MPI_Bcast(&value, 1, MPI_DOUBLE, 0, unpack(handle_)); }
 
-void MpiCommunicator::Broadc(char (&buffer)[255]) {
-  MPI_Bcast(buffer, 255, MPI_CHAR, 0, unpack(handle_));
-}
+void MpiCommunicator::Broadc(char (&buffer)[255]) { MPI_Bcast(buffer, 255, MPI_CHAR, 0, unpack(handle_)); }
 
 }  // namespace zeb
 

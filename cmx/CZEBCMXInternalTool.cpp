@@ -1,0 +1,86 @@
+#include "cmx/CZEBCMXInternalTool.hpp"
+
+#include <fstream>
+
+#include "frame/ReadObserver.hpp"
+#include "frame/TableBuilder.hpp"
+#include "frame/TextOutput.hpp"
+
+namespace {
+
+// The blocks behind <SUMMARY>, which is the tool's own.
+template <class... Blocks>
+struct BlockList {
+  static constexpr std::size_t kCount = 1 + sizeof...(Blocks);
+
+  static std::array<zeb::DispatchEntry, kCount> sections(CZEBCMXInternalTool& tool) {
+    return {entry(tool), entry(tool.block<Blocks>())...};
+  }
+  static const std::array<const zeb::BlockTable*, kCount>& tables() {
+    static const std::array<const zeb::BlockTable*, kCount> kTables{&zeb::tableOf<CZEBCMXInternalTool>(),
+                                                                    &zeb::tableOf<Blocks>()...};
+    return kTables;
+  }
+
+ private:
+  template <class Block>
+  static zeb::DispatchEntry entry(Block& block) {
+    return {&zeb::tableOf<Block>().sections.front(), &block};
+  }
+};
+
+using TagOrder =
+    BlockList<CZEBCMX_SOLID_FILL, CZEBCMX_FILL_ADVANCED_SlipBC, CZEBCMX_SOLID_COOL, CZEBCMX_SOLID_VE,
+              CZEBCMX_SOLID_PACK, CZEBCMX_FILL_ADVANCED_LONGFIBER, CZEBCMX_FILL_ADVANCED_HRSteady, CZEBCMX_TASKMANAGER,
+              CZEBCMX_Dyna_Forming, CZEBCMX_FILL_ADVANCED_MCIM, CZEBCMX_FILL_OUTPUT_TIMES, CZEBCMX_PACK_OUTPUT_TIMES>;
+
+}  // namespace
+
+CZEBCMXInternalTool::CZEBCMXInternalTool() : m_sections(TagOrder::sections(*this)) {}
+
+CZEBCMXInternalTool::~CZEBCMXInternalTool() = default;
+
+std::span<const zeb::BlockTable* const> CZEBCMXInternalTool::tables() { return TagOrder::tables(); }
+
+int CZEBCMXInternalTool::setZEBCom(CZEBCom* com) {
+  if (com == nullptr) return -1;
+  m_pCom = com;
+  return 1;
+}
+
+void CZEBCMXInternalTool::setPrintLevel(int level) { m_nPrintLevel = level; }
+
+int CZEBCMXInternalTool::nCMXVersion() const { return m_nCMXVersion; }
+
+zeb::LineSource CZEBCMXInternalTool::lineSource() const {
+  return {.com = m_pCom, .printLevel = m_nPrintLevel, .barrier = false};
+}
+
+int CZEBCMXInternalTool::setSolidFillBlock(const std::string& fileName) {
+  std::ifstream stream;
+  if (lineSource().reads()) {
+    if (m_nPrintLevel > 0) zeb::writeOut(" CMX file name = " + fileName + "\n");
+    zeb::openFile(stream, fileName);
+  }
+  if (observer != nullptr) observer->fileStarted(fileName);
+  readBlocks(stream);
+  return 1;
+}
+
+void CZEBCMXInternalTool::readBlocks(std::istream& stream) {
+  const zeb::LineSource source = lineSource();
+  zeb::LineReader lines(stream, source, observer);
+  std::string line;
+  while (lines.next(line)) zeb::dispatchLine(m_sections, line, lines);
+}
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMXInternalTool>() {
+  using T = CZEBCMXInternalTool;
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_nCMXVersion, &T::nCMXVersion>(), .key = "Version", .doc = "Version of the file."},
+  };
+  static constexpr Section kSections[] = {taggedSection<"SUMMARY", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("");
+  return kTable;
+}

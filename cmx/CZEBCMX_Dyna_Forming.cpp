@@ -1,0 +1,27 @@
+#include "cmx/CZEBCMX_Dyna_Forming.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMX_Dyna_Forming::CZEBCMX_Dyna_Forming() = default;
+CZEBCMX_Dyna_Forming::CZEBCMX_Dyna_Forming(const CZEBCMX_Dyna_Forming& other) = default;
+CZEBCMX_Dyna_Forming::~CZEBCMX_Dyna_Forming() = default;
+CZEBCMX_Dyna_Forming& CZEBCMX_Dyna_Forming::operator=(const CZEBCMX_Dyna_Forming& other) = default;
+
+int CZEBCMX_Dyna_Forming::iIsRunIBFSIforfibermat() const { return m_iIsRunIBFSIforfibermat; }
+int CZEBCMX_Dyna_Forming::iRunfibermatCycle() const { return m_iRunfibermatCycle; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMX_Dyna_Forming>() {
+  using T = CZEBCMX_Dyna_Forming;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iIsRunIBFSIforfibermat, &T::iIsRunIBFSIforfibermat>(), .key = "RunIBFSIforfibermat",
+       .doc = "Switch: the IBFSI calculation runs for fiber mats."},
+      {.field = field<&T::m_iRunfibermatCycle, &T::iRunfibermatCycle>(), .key = "RunfibermatCycle",
+       .doc = "Number of cycles of the fiber mat calculation."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {taggedSection<"Dyna_Forming", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("");
+  return kTable;
+}

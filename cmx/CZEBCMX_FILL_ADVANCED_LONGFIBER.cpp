@@ -1,0 +1,123 @@
+#include "cmx/CZEBCMX_FILL_ADVANCED_LONGFIBER.h"
+
+#include <span>
+#include <string>
+
+#include "frame/SectionEngine.hpp"
+#include "frame/TableBuilder.hpp"
+#include "frame/ValueText.hpp"
+
+CZEBCMX_FILL_ADVANCED_LONGFIBER::CZEBCMX_FILL_ADVANCED_LONGFIBER() = default;
+CZEBCMX_FILL_ADVANCED_LONGFIBER::CZEBCMX_FILL_ADVANCED_LONGFIBER(const CZEBCMX_FILL_ADVANCED_LONGFIBER& other) =
+    default;
+CZEBCMX_FILL_ADVANCED_LONGFIBER::~CZEBCMX_FILL_ADVANCED_LONGFIBER() = default;
+CZEBCMX_FILL_ADVANCED_LONGFIBER& CZEBCMX_FILL_ADVANCED_LONGFIBER::operator=(
+    const CZEBCMX_FILL_ADVANCED_LONGFIBER& other) = default;
+
+int CZEBCMX_FILL_ADVANCED_LONGFIBER::iVersion() const { return m_iVersion; }
+int CZEBCMX_FILL_ADVANCED_LONGFIBER::iOrthotropicClosureMethod() const { return m_iOrthotropicClosureMethod; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dModifiedFactor() const { return m_dModifiedFactor; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dAspectRatio() const { return m_dAspectRatio; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dWeightPercent() const { return m_dWeightPercent; }
+int CZEBCMX_FILL_ADVANCED_LONGFIBER::iDiffusionModelType() const { return m_iDiffusionModelType; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_b1() const { return m_dARD_b1; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_b2() const { return m_dARD_b2; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_b3() const { return m_dARD_b3; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_b4() const { return m_dARD_b4; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_b5() const { return m_dARD_b5; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_Cf() const { return m_dARD_Cf; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_Cm() const { return m_dARD_Cm; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dFiber_CI() const { return m_dFiber_CI; }
+int CZEBCMX_FILL_ADVANCED_LONGFIBER::iFiberBreakage() const { return m_iFiberBreakage; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dFiberDiamemter() const { return m_dFiberDiamemter; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dParticleDiameter() const { return m_dParticleDiameter; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::DragCoe() const { return m_dDragCoe; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::CB() const { return m_dCB; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::S() const { return m_dS; }
+int CZEBCMX_FILL_ADVANCED_LONGFIBER::isBreakInScrewAndNozzle() const { return m_isBreakInScrewAndNozzle; }
+int CZEBCMX_FILL_ADVANCED_LONGFIBER::iFiberConcen() const { return m_iFiberConcen; }
+int CZEBCMX_FILL_ADVANCED_LONGFIBER::iFiberType() const { return m_iFiberType; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dAverageWeightConcen() const { return m_dAverageWeightConcen; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dMaxWeightConcen() const { return m_dMaxWeightConcen; }
+double CZEBCMX_FILL_ADVANCED_LONGFIBER::dResisAlpha() const { return m_dResisAlpha; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_LONGFIBER>() {
+  using T = CZEBCMX_FILL_ADVANCED_LONGFIBER;
+  // The names on the coefficients' lines mean nothing, their order does.
+  static constexpr ListReader kReadCoefficients = [](ListContext& context) {
+    T& block = *static_cast<T*>(context.block);
+    double* const model0[] = {&block.m_dFiber_CI};
+    double* const model1[] = {&block.m_dARD_Cf, &block.m_dARD_Cm};
+    double* const model2[] = {&block.m_dARD_b1, &block.m_dARD_b2, &block.m_dARD_b3, &block.m_dARD_b4, &block.m_dARD_b5};
+    std::span<double* const> coefficients;
+    if (block.m_iDiffusionModelType == 0) coefficients = model0;
+    if (block.m_iDiffusionModelType == 1) coefficients = model1;
+    if (block.m_iDiffusionModelType == 2) coefficients = model2;
+    std::string line;
+    for (double* coefficient : coefficients) {
+      if (!nextLineOfList(context, line)) break;
+      FieldScanner scanner(line);
+      std::string_view name, equals;
+      reportLineOfList(context, line, scanner.next(name) && scanner.next(equals) && scanner.next(*coefficient));
+    }
+    return ListResult::kSameLine;
+  };
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iVersion, &T::iVersion>(), .key = "Version", .doc = "Version of the block."},
+      {.field = field<&T::m_iOrthotropicClosureMethod, &T::iOrthotropicClosureMethod>(),
+       .key = "OrthotropicClosureMethod", .doc = "Orthotropic closure method. Meaning defined by the solver."},
+      {.field = field<&T::m_dModifiedFactor, &T::dModifiedFactor>(), .key = "ModifiedFactor",
+       .doc = "Modifying factor of the fiber orientation. Meaning defined by the solver."},
+      {.field = field<&T::m_dAspectRatio, &T::dAspectRatio>(), .key = "AspectRatio",
+       .doc = "Aspect ratio of the fibers."},
+      {.field = field<&T::m_dWeightPercent, &T::dWeightPercent>(), .key = "Weight",
+       .doc = "Weight percentage of the fibers."},
+      {.field = field<&T::m_iDiffusionModelType, &T::iDiffusionModelType>(), .key = "DiffusionModelType",
+       .list = kReadCoefficients,
+       .fills = "m_dARD_b1 m_dARD_b2 m_dARD_b3 m_dARD_b4 m_dARD_b5 m_dARD_Cf m_dARD_Cm m_dFiber_CI",
+       .doc = "Fiber diffusion model, 0, 1 or 2; the lines of its coefficients follow."},
+      {.field = field<&T::m_dARD_b1, &T::dARD_b1>(), .doc = "Coefficient b1 of fiber diffusion model 2."},
+      {.field = field<&T::m_dARD_b2, &T::dARD_b2>(), .doc = "Coefficient b2 of fiber diffusion model 2."},
+      {.field = field<&T::m_dARD_b3, &T::dARD_b3>(), .doc = "Coefficient b3 of fiber diffusion model 2."},
+      {.field = field<&T::m_dARD_b4, &T::dARD_b4>(), .doc = "Coefficient b4 of fiber diffusion model 2."},
+      {.field = field<&T::m_dARD_b5, &T::dARD_b5>(), .doc = "Coefficient b5 of fiber diffusion model 2."},
+      {.field = field<&T::m_dARD_Cf, &T::dARD_Cf>(), .doc = "Coefficient Cf of fiber diffusion model 1."},
+      {.field = field<&T::m_dARD_Cm, &T::dARD_Cm>(), .doc = "Coefficient Cm of fiber diffusion model 1."},
+      {.field = field<&T::m_dFiber_CI, &T::dFiber_CI>(), .doc = "Coefficient CI of fiber diffusion model 0."},
+      {.field = field<&T::m_iFiberBreakage, &T::iFiberBreakage>(), .key = "FlagFiberBreakage",
+       .doc = "Switch: fiber breakage is calculated."},
+      {.field = field<&T::m_dFiberDiamemter, &T::dFiberDiamemter>(), .key = "ValueFiberDiameter",
+       .doc = "Diameter of the fibers."},
+      {.field = field<&T::m_dParticleDiameter, &T::dParticleDiameter>(), .key = "ValueParticleDiameter",
+       .doc = "Diameter of the particles."},
+      {.field = field<&T::m_dDragCoe, &T::DragCoe>(), .key = "ValueFiberBreakageCD",
+       .doc = "Drag coefficient of the fiber breakage."},
+      {.field = field<&T::m_dCB, &T::CB>(), .key = "ValueFiberBreakageCB",
+       .doc = "Coefficient CB of the fiber breakage. Meaning defined by the solver."},
+      {.field = field<&T::m_dS, &T::S>(), .key = "ValueFiberBreakageS",
+       .doc = "Coefficient S of the fiber breakage. Meaning defined by the solver."},
+      {.field = field<&T::m_isBreakInScrewAndNozzle, &T::isBreakInScrewAndNozzle>(), .key = "FlagScrewFiberBreakage",
+       .doc = "Switch: fibers break in screw and nozzle."},
+      {.field = field<&T::m_iFiberConcen, &T::iFiberConcen>(), .key = "FlagConcertration",
+       .doc = "Switch: the fiber concentration is calculated."},
+      {.field = field<&T::m_iFiberType, &T::iFiberType>(), .key = "FiberType",
+       .doc = "Type of the fibers. Meaning defined by the solver."},
+      {.field = field<&T::m_dAverageWeightConcen, &T::dAverageWeightConcen>(), .key = "ValueAverageConcentration",
+       .doc = "Average weight concentration."},
+      {.field = field<&T::m_dMaxWeightConcen, &T::dMaxWeightConcen>(), .key = "ValueMaximumConcentration",
+       .doc = "Maximum weight concentration."},
+      {.field = field<&T::m_dResisAlpha, &T::dResisAlpha>(), .key = "ValueParticleFrictionIndex",
+       .doc = "Friction index of the particles. Meaning defined by the solver."},
+  };
+  static constexpr Order<18> kReadingOrder{
+      "Version", "OrthotropicClosureMethod", "ModifiedFactor", "AspectRatio", "Weight", "FiberType",
+      "DiffusionModelType", "FlagFiberBreakage", "ValueFiberDiameter", "ValueParticleDiameter", "ValueFiberBreakageCD",
+      "ValueFiberBreakageCB", "ValueFiberBreakageS", "ValueAverageConcentration", "ValueMaximumConcentration",
+      "ValueParticleFrictionIndex", "FlagScrewFiberBreakage", "FlagConcertration"};
+  // clang-format on
+  static constexpr Section kSections[] = {taggedSection<"FILL_ADVANCED_LONGFIBER", kRows, kReadingOrder>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("");
+  return kTable;
+}

@@ -1,0 +1,39 @@
+#include "cmx/CZEBCMX_FILL_OUTPUT_TIMES.h"
+
+#include "cmx/OutputMoments.hpp"
+#include "frame/TableBuilder.hpp"
+
+CZEBCMX_FILL_OUTPUT_TIMES::CZEBCMX_FILL_OUTPUT_TIMES() = default;
+CZEBCMX_FILL_OUTPUT_TIMES::CZEBCMX_FILL_OUTPUT_TIMES(const CZEBCMX_FILL_OUTPUT_TIMES& other) = default;
+CZEBCMX_FILL_OUTPUT_TIMES::~CZEBCMX_FILL_OUTPUT_TIMES() = default;
+CZEBCMX_FILL_OUTPUT_TIMES& CZEBCMX_FILL_OUTPUT_TIMES::operator=(const CZEBCMX_FILL_OUTPUT_TIMES& other) = default;
+
+int CZEBCMX_FILL_OUTPUT_TIMES::MultiOutputType() const { return m_iMultiOutputType; }
+int CZEBCMX_FILL_OUTPUT_TIMES::NoOutTimeStep() const { return m_iNoOutTimeStep; }
+const double* CZEBCMX_FILL_OUTPUT_TIMES::pOutTimeStep() const { return m_pOutTimeStep.get(); }
+
+int CZEBCMX_FILL_OUTPUT_TIMES::setMultiOutputType(int type) {
+  m_iMultiOutputType = type;
+  return 1;
+}
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_OUTPUT_TIMES>() {
+  using T = CZEBCMX_FILL_OUTPUT_TIMES;
+  static constexpr ListReader kReadMoments = [](ListContext& context) {
+    return readOutputMoments(context, static_cast<T*>(context.block)->m_pOutTimeStep);
+  };
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iMultiOutputType, &T::MultiOutputType>(), .key = "FlagFillMultiOutputType",
+       .rule = {.replace = {equal(3, 2)}},
+       .doc = "Scale of the moments, 1 seconds, 2 percent; a 3 in the file becomes 2."},
+      {.field = field<&T::m_iNoOutTimeStep, &T::NoOutTimeStep>(), .key = "ValueNoFillOutputTime", .count = true,
+       .list = kReadMoments, .fills = "m_pOutTimeStep", .doc = "Number of output moments, 0 to 1,000,000."},
+      {.field = field<&T::m_pOutTimeStep, &T::pOutTimeStep>(), .doc = "Output moments in the order of their lines."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {taggedSection<"FILL_OUTPUT_TIMES", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("");
+  return kTable;
+}

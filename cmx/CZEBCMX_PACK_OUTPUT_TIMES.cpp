@@ -1,0 +1,30 @@
+#include "cmx/CZEBCMX_PACK_OUTPUT_TIMES.h"
+
+#include "cmx/OutputMoments.hpp"
+#include "frame/TableBuilder.hpp"
+
+CZEBCMX_PACK_OUTPUT_TIMES::CZEBCMX_PACK_OUTPUT_TIMES() = default;
+CZEBCMX_PACK_OUTPUT_TIMES::CZEBCMX_PACK_OUTPUT_TIMES(const CZEBCMX_PACK_OUTPUT_TIMES& other) = default;
+CZEBCMX_PACK_OUTPUT_TIMES::~CZEBCMX_PACK_OUTPUT_TIMES() = default;
+CZEBCMX_PACK_OUTPUT_TIMES& CZEBCMX_PACK_OUTPUT_TIMES::operator=(const CZEBCMX_PACK_OUTPUT_TIMES& other) = default;
+
+int CZEBCMX_PACK_OUTPUT_TIMES::iNoOutTimeStep() const { return m_iNoOutTimeStep; }
+const double* CZEBCMX_PACK_OUTPUT_TIMES::pOutTimeStep() const { return m_pOutTimeStep.get(); }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMX_PACK_OUTPUT_TIMES>() {
+  using T = CZEBCMX_PACK_OUTPUT_TIMES;
+  static constexpr ListReader kReadMoments = [](ListContext& context) {
+    return readOutputMoments(context, static_cast<T*>(context.block)->m_pOutTimeStep);
+  };
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iNoOutTimeStep, &T::iNoOutTimeStep>(), .key = "ValueNoPackOutputTime", .count = true,
+       .list = kReadMoments, .fills = "m_pOutTimeStep", .doc = "Number of output moments, 0 to 1,000,000."},
+      {.field = field<&T::m_pOutTimeStep, &T::pOutTimeStep>(), .doc = "Output moments in the order of their lines."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {taggedSection<"PACK_OUTPUT_TIMES", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("");
+  return kTable;
+}

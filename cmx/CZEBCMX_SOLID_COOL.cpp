@@ -1,0 +1,24 @@
+#include "cmx/CZEBCMX_SOLID_COOL.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMX_SOLID_COOL::CZEBCMX_SOLID_COOL() = default;
+CZEBCMX_SOLID_COOL::CZEBCMX_SOLID_COOL(const CZEBCMX_SOLID_COOL& other) = default;
+CZEBCMX_SOLID_COOL::~CZEBCMX_SOLID_COOL() = default;
+CZEBCMX_SOLID_COOL& CZEBCMX_SOLID_COOL::operator=(const CZEBCMX_SOLID_COOL& other) = default;
+
+int CZEBCMX_SOLID_COOL::iTransientCoolType() const { return m_iTransientCoolType; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMX_SOLID_COOL>() {
+  using T = CZEBCMX_SOLID_COOL;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iTransientCoolType, &T::iTransientCoolType>(), .key = "IDSolver",
+       .doc = "Type of the transient cooling solver. Meaning defined by the solver."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {taggedSection<"SOLID_COOL", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("");
+  return kTable;
+}

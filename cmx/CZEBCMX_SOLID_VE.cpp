@@ -1,0 +1,29 @@
+#include "cmx/CZEBCMX_SOLID_VE.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMX_SOLID_VE::CZEBCMX_SOLID_VE() = default;
+CZEBCMX_SOLID_VE::CZEBCMX_SOLID_VE(const CZEBCMX_SOLID_VE& other) = default;
+CZEBCMX_SOLID_VE::~CZEBCMX_SOLID_VE() = default;
+CZEBCMX_SOLID_VE& CZEBCMX_SOLID_VE::operator=(const CZEBCMX_SOLID_VE& other) = default;
+
+int CZEBCMX_SOLID_VE::iEstimateResidualStress() const { return m_iEstimateResidualStress; }
+
+int CZEBCMX_SOLID_VE::ResetResidualStressFlag(int flag) {
+  m_iEstimateResidualStress = flag != 0 ? 1 : 0;
+  return 1;
+}
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMX_SOLID_VE>() {
+  using T = CZEBCMX_SOLID_VE;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iEstimateResidualStress, &T::iEstimateResidualStress>(),
+       .key = "FlagEstimateFlowPackStage", .doc = "Switch: the residual stress of filling and packing is calculated."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {taggedSection<"SOLID_VE", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("");
+  return kTable;
+}

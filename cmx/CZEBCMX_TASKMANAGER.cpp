@@ -1,0 +1,24 @@
+#include "cmx/CZEBCMX_TASKMANAGER.h"
+
+#include "frame/TableBuilder.hpp"
+
+CZEBCMX_TASKMANAGER::CZEBCMX_TASKMANAGER() = default;
+CZEBCMX_TASKMANAGER::CZEBCMX_TASKMANAGER(const CZEBCMX_TASKMANAGER& other) = default;
+CZEBCMX_TASKMANAGER::~CZEBCMX_TASKMANAGER() = default;
+CZEBCMX_TASKMANAGER& CZEBCMX_TASKMANAGER::operator=(const CZEBCMX_TASKMANAGER& other) = default;
+
+int CZEBCMX_TASKMANAGER::iFlagAccelerationType() const { return m_iFlagAccelerationType; }
+
+template <>
+const zeb::BlockTable& zeb::tableOf<CZEBCMX_TASKMANAGER>() {
+  using T = CZEBCMX_TASKMANAGER;
+  // clang-format off
+  static constexpr Row kRows[] = {
+      {.field = field<&T::m_iFlagAccelerationType, &T::iFlagAccelerationType>(), .key = "flagAccelerationType",
+       .doc = "Type of the acceleration. Meaning defined by the solver."},
+  };
+  // clang-format on
+  static constexpr Section kSections[] = {taggedSection<"TASKMANAGER", kRows>()};
+  static constexpr BlockTable kTable = blockTable<T, kSections>("");
+  return kTable;
+}

@@ -1,0 +1,13 @@
+// The list of output moments that the blocks of filling and packing have in common.
+#pragma once
+
+#include "frame/SectionEngine.hpp"
+#include "frame/SharedArray.h"
+
+namespace zeb {
+
+/// Makes room for as many moments as the key of `context` says (and one more, at 0) and reads them, one line
+/// "id = moment" each. The id is not used; a line without a moment leaves 0.0.
+ListResult readOutputMoments(ListContext& context, SharedArray<double>& moments);
+
+}  // namespace zeb

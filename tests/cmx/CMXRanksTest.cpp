@@ -1,0 +1,105 @@
+// Every rank ends with what a serial run reads, and makes the collective calls that belong to it.
+#include <gtest/gtest.h>
+
+#include "cmx/CZEBCMXInternalTool.hpp"
+#include "standalone/ThreadCommunicator.h"
+#include "tests/cmx/Expectations.hpp"
+
+namespace {
+
+const char* const kFile =
+    "Some text\n"
+    "<SUMMARY>\nVersion = 2024\n</SUMMARY>\n"
+    "<SOLID_FILL>\nValueEOFPercent = 0.99\nValueGravityZ = -9.8\nValueInitChargeFiberExchangeName = charge.f2c\n"
+    "FlagInertia = 0\n</SOLID_FILL>\n"
+    "\n"
+    "<FILL_ADVANCED_LONGFIBER>\nDiffusionModelType = 1\nCf = 0.5\nCm = 0.25\nWeight = 30\n</FILL_ADVANCED_LONGFIBER>\n"
+    "<FILL_ADVANCED_HRSteady>\nValueNoHRGate = 2\nValueHRGateType = 1\nG1 = 1.5\nG2\n</FILL_ADVANCED_HRSteady>\n"
+    "<FILL_OUTPUT_TIMES>\nFlagFillMultiOutputType = 3\nValueNoFillOutputTime = 2\n1 = 0.5\n2 = 1.2\n"
+    "</FILL_OUTPUT_TIMES>\n"
+    "<PACK_OUTPUT_TIMES>\nValueNoPackOutputTime = 5\n1 = 2.5\n";  // cut by the end of the file
+
+class CMXRanks : public testing::Test {
+ protected:
+  std::string read(CZEBCom* com, int printLevel = 0) {
+    CZEBCMXInternalTool tool;
+    if (com != nullptr) {
+      EXPECT_EQ(tool.setZEBCom(com), 1);
+    }
+    tool.setPrintLevel(printLevel);
+    EXPECT_EQ(tool.setSolidFillBlock(m_file), 1);
+    return zebtest::exactValues(tool.sections());
+  }
+
+  zeb::test::TestFolder m_folder;
+  std::string m_file = m_folder.write("run.cmx", kFile);
+};
+
+TEST_F(CMXRanks, AllRanksHoldWhatASerialRunReads) {
+  const std::string serial = read(nullptr);
+  for (const int ranks : {2, 8, 64}) {
+    EXPECT_EQ(zebtest::readOnRanks(ranks, [this](CZEBCom& com) { return read(&com); }), serial) << ranks << " ranks";
+  }
+}
+
+TEST_F(CMXRanks, RanksInThreadsMeetInTheSameCalls) {
+  const std::string serial = read(nullptr);
+  zeb::ThreadTeam team(8);
+  std::vector<std::string> values(8);
+  team.run([&](int rank, CZEBCom& com) { values[static_cast<std::size_t>(rank)] = read(&com); });
+  EXPECT_EQ(values, std::vector<std::string>(8, serial));
+}
+
+TEST_F(CMXRanks, LineCostsTheEndFlagAndTheTextAndNoBarrier) {
+  m_file = m_folder.write("short.cmx", "<SOLID_COOL>\n\nIDSolver = 5");
+  zeb::CallLog log;
+  zebtest::readOnRanks(
+      2, [this](CZEBCom& com) { return read(&com); }, &log);
+  EXPECT_EQ(log.calls(), (std::vector<std::string>{"Broadi 0", "Broadc \"<SOLID_COOL>\"", "Broadi 0", "Broadc \"\"",
+                                                   "Broadi 0", "Broadc \"IDSolver = 5\"",
+                                                   "Broadi -1",     // the block's loop
+                                                   "Broadi -1"}));  // the file's
+}
+
+TEST_F(CMXRanks, NoBarrierInAWholeFile) {
+  zeb::CallLog log;
+  zebtest::readOnRanks(
+      2, [this](CZEBCom& com) { return read(&com); }, &log);
+  EXPECT_GT(log.size(), 0u);
+  for (const std::string& call : log.calls()) EXPECT_NE(call, "Barrier");
+}
+
+TEST_F(CMXRanks, MissingFileEndsAllRanksAtTheFirstLine) {
+  m_file = m_folder.path("none.cmx");
+  zeb::CallLog log;
+  zebtest::readOnRanks(
+      4, [this](CZEBCom& com) { return read(&com); }, &log);
+  EXPECT_EQ(log.calls(), std::vector<std::string>{"Broadi -1"});
+}
+
+TEST_F(CMXRanks, LongLineIsCutInParallelModeOnly) {
+  m_file =
+      m_folder.write("long.cmx", "<SOLID_COOL>\n" + std::string(240, ' ') + "IDSolver =        5\n</SOLID_COOL>\n");
+  EXPECT_NE(read(nullptr).find("SOLID_COOL.m_iTransientCoolType 5\n"), std::string::npos);
+  const std::string cut = zebtest::readOnRanks(2, [this](CZEBCom& com) { return read(&com); });
+  EXPECT_NE(cut.find("SOLID_COOL.m_iTransientCoolType 1\n"), std::string::npos);
+}
+
+TEST_F(CMXRanks, NothingIsPrintedUnlessThePrintLevelIsRaised) {
+  EXPECT_EQ(zebtest::outputOf([this] {
+              read(nullptr);
+              zebtest::readOnRanks(2, [this](CZEBCom& com) { return read(&com); });
+            }),
+            "");
+}
+
+TEST_F(CMXRanks, RaisedPrintLevelTracesNameAndLinesOnRank0) {
+  m_file = m_folder.write("short.cmx", "<SOLID_COOL>\n IDSolver = 5\n");
+  const std::string nameLine = " CMX file name = " + m_file + "\n";
+  EXPECT_EQ(zebtest::outputOf([this] { read(nullptr, 1); }), nameLine);
+  const auto traced = [this](CZEBCom& com) { return read(&com, 1); };
+  EXPECT_EQ(zebtest::outputOf([&] { zebtest::readOnRanks(3, traced); }),
+            nameLine + " - CPUID:0 string: <SOLID_COOL>\n - CPUID:0 string:  IDSolver = 5\n");
+}
+
+}  // namespace

@@ -1,0 +1,111 @@
+// What the tests of the CMX and of the standard solver's reader share: expectation tables, values of all members,
+// ranks.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cstdint>
+#include <fstream>
+#include <functional>
+#include <map>
+#include <span>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "frame/SectionDispatch.hpp"
+#include "standalone/RecordingCommunicator.h"
+#include "tests/standalone/TestFolder.h"
+
+namespace zebtest {
+
+/// A line of an expectation table, by column name.
+using Expected = std::map<std::string, std::string>;
+
+inline std::vector<std::string> cellsOf(const std::string& line) {
+  std::vector<std::string> cells;
+  std::istringstream stream(line);
+  for (std::string cell; std::getline(stream, cell, '\t');) cells.push_back(cell);
+  return cells;
+}
+
+/// All lines of a table in tests/data.
+inline std::vector<Expected> expectations(const std::string& fileName) {
+  std::ifstream file(std::string(ZEB_TEST_DATA_DIR) + "/" + fileName);
+  std::string line;
+  EXPECT_TRUE(std::getline(file, line)) << fileName;
+  const std::vector<std::string> names = cellsOf(line.substr(1));
+  std::vector<Expected> rows;
+  while (std::getline(file, line)) {
+    const std::vector<std::string> cells = cellsOf(line);
+    EXPECT_EQ(cells.size(), names.size()) << fileName << ": " << line;
+    Expected row;
+    for (std::size_t c = 0; c < names.size() && c < cells.size(); ++c) row[names[c]] = cells[c];
+    rows.push_back(row);
+  }
+  EXPECT_FALSE(rows.empty()) << fileName;
+  return rows;
+}
+
+inline std::string unquoted(const std::string& text) { return text.substr(1, text.size() - 2); }
+
+inline const zeb::Row* rowOfGetter(std::span<const zeb::Row> rows, const std::string& getter) {
+  for (const zeb::Row& row : rows) {
+    if (row.field.getter == getter || row.field.member == getter) return &row;
+  }
+  return nullptr;
+}
+
+/// Every member with its exact value, arrays with all their entries: equal texts are identical blocks.
+inline std::string exactValues(std::span<const zeb::DispatchEntry> entries) {
+  std::string text;
+  const auto addBits = [&text](double value) { text += std::to_string(std::bit_cast<std::uint64_t>(value)) + ' '; };
+  for (const zeb::DispatchEntry& entry : entries) {
+    int count = 0;
+    for (const zeb::Row& row : entry.section->rows) {
+      void* member = row.field.locate(entry.block);
+      text += std::string(entry.section->name) + '.' + std::string(row.field.member) + ' ';
+      if (row.field.type == zeb::FieldType::kInt) {
+        text += std::to_string(*static_cast<int*>(member));
+        if (row.count) count = *static_cast<int*>(member);
+      } else if (row.field.type == zeb::FieldType::kDouble) {
+        addBits(*static_cast<double*>(member));
+      } else if (row.field.type == zeb::FieldType::kText) {
+        const char* value = static_cast<zeb::OwnedText*>(member)->get();
+        text += value == nullptr ? "null" : '"' + std::string(value) + '"';
+      } else {
+        const double* values = static_cast<zeb::SharedArray<double>*>(member)->get();
+        if (values == nullptr) text += "null";
+        for (int i = 0; values != nullptr && i <= count; ++i) addBits(values[i]);
+      }
+      text += '\n';
+    }
+  }
+  return text;
+}
+
+/// Reads once as rank 0 of `ranks` and once as every other rank with what rank 0 sent. `read` gets a communicator and
+/// returns what that rank holds afterwards; all must be the same. Returns rank 0's, its calls in `log`.
+inline std::string readOnRanks(int ranks, const std::function<std::string(CZEBCom&)>& read,
+                               zeb::CallLog* log = nullptr) {
+  zeb::RecordingCommunicator first(ranks);
+  const std::string values = read(first);
+  for (int rank = 1; rank < ranks; ++rank) {
+    zeb::ReplayingCommunicator other(first.log(), rank, ranks);
+    EXPECT_EQ(read(other), values) << "rank " << rank << " of " << ranks;
+    EXPECT_TRUE(other.finished()) << "rank " << rank << " of " << ranks << " stopped early";
+  }
+  if (log != nullptr) *log = first.log();
+  return values;
+}
+
+/// What `action` writes to standard output.
+template <class Action>
+std::string outputOf(Action action) {
+  testing::internal::CaptureStdout();
+  action();
+  return testing::internal::GetCapturedStdout();
+}
+
+}  // namespace zebtest
