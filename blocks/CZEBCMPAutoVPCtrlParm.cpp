@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPAutoVPCtrlParm::CZEBCMPAutoVPCtrlParm() = default;
+CZEBCMPAutoVPCtrlParm::CZEBCMPAutoVPCtrlParm(const CZEBCMPAutoVPCtrlParm& other) = default;
 CZEBCMPAutoVPCtrlParm::~CZEBCMPAutoVPCtrlParm() = default;
 CZEBCMPAutoVPCtrlParm& CZEBCMPAutoVPCtrlParm::operator=(const CZEBCMPAutoVPCtrlParm& other) = default;
 

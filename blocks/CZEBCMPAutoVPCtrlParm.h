@@ -10,7 +10,7 @@
 class CZEBCMPAutoVPCtrlParm {
  public:
   CZEBCMPAutoVPCtrlParm();
-  CZEBCMPAutoVPCtrlParm(const CZEBCMPAutoVPCtrlParm&) = default;
+  CZEBCMPAutoVPCtrlParm(const CZEBCMPAutoVPCtrlParm& other);
   ~CZEBCMPAutoVPCtrlParm();
   CZEBCMPAutoVPCtrlParm& operator=(const CZEBCMPAutoVPCtrlParm& other);
 

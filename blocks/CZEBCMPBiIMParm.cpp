@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPBiIMParm::CZEBCMPBiIMParm() = default;
+CZEBCMPBiIMParm::CZEBCMPBiIMParm(const CZEBCMPBiIMParm& other) = default;
 CZEBCMPBiIMParm::~CZEBCMPBiIMParm() = default;
 CZEBCMPBiIMParm& CZEBCMPBiIMParm::operator=(const CZEBCMPBiIMParm& other) = default;
 

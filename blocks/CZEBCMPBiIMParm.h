@@ -7,7 +7,7 @@
 class CZEBCMPBiIMParm {
  public:
   CZEBCMPBiIMParm();
-  CZEBCMPBiIMParm(const CZEBCMPBiIMParm&) = default;
+  CZEBCMPBiIMParm(const CZEBCMPBiIMParm& other);
   ~CZEBCMPBiIMParm();
   CZEBCMPBiIMParm& operator=(const CZEBCMPBiIMParm& other);
 

@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPCompressibleFlowParm::CZEBCMPCompressibleFlowParm() = default;
+CZEBCMPCompressibleFlowParm::CZEBCMPCompressibleFlowParm(const CZEBCMPCompressibleFlowParm& other) = default;
 CZEBCMPCompressibleFlowParm::~CZEBCMPCompressibleFlowParm() = default;
 CZEBCMPCompressibleFlowParm& CZEBCMPCompressibleFlowParm::operator=(const CZEBCMPCompressibleFlowParm& other) = default;
 

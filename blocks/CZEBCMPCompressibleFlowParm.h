@@ -9,7 +9,7 @@
 class CZEBCMPCompressibleFlowParm {
  public:
   CZEBCMPCompressibleFlowParm();
-  CZEBCMPCompressibleFlowParm(const CZEBCMPCompressibleFlowParm&) = default;
+  CZEBCMPCompressibleFlowParm(const CZEBCMPCompressibleFlowParm& other);
   ~CZEBCMPCompressibleFlowParm();
   CZEBCMPCompressibleFlowParm& operator=(const CZEBCMPCompressibleFlowParm& other);
 

@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPCompressionParm::CZEBCMPCompressionParm() = default;
+CZEBCMPCompressionParm::CZEBCMPCompressionParm(const CZEBCMPCompressionParm& other) = default;
 CZEBCMPCompressionParm::~CZEBCMPCompressionParm() = default;
 CZEBCMPCompressionParm& CZEBCMPCompressionParm::operator=(const CZEBCMPCompressionParm& other) = default;
 

@@ -10,7 +10,7 @@
 class CZEBCMPCompressionParm {
  public:
   CZEBCMPCompressionParm();
-  CZEBCMPCompressionParm(const CZEBCMPCompressionParm&) = default;
+  CZEBCMPCompressionParm(const CZEBCMPCompressionParm& other);
   ~CZEBCMPCompressionParm();
   CZEBCMPCompressionParm& operator=(const CZEBCMPCompressionParm& other);
 

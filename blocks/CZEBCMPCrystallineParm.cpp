@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPCrystallineParm::CZEBCMPCrystallineParm() = default;
+CZEBCMPCrystallineParm::CZEBCMPCrystallineParm(const CZEBCMPCrystallineParm& other) = default;
 CZEBCMPCrystallineParm::~CZEBCMPCrystallineParm() = default;
 CZEBCMPCrystallineParm& CZEBCMPCrystallineParm::operator=(const CZEBCMPCrystallineParm& other) = default;
 

@@ -9,7 +9,7 @@
 class CZEBCMPCrystallineParm {
  public:
   CZEBCMPCrystallineParm();
-  CZEBCMPCrystallineParm(const CZEBCMPCrystallineParm&) = default;
+  CZEBCMPCrystallineParm(const CZEBCMPCrystallineParm& other);
   ~CZEBCMPCrystallineParm();
   CZEBCMPCrystallineParm& operator=(const CZEBCMPCrystallineParm& other);
 

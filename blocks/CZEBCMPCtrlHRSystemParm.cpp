@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPCtrlHRSystemParm::CZEBCMPCtrlHRSystemParm() = default;
+CZEBCMPCtrlHRSystemParm::CZEBCMPCtrlHRSystemParm(const CZEBCMPCtrlHRSystemParm& other) = default;
 CZEBCMPCtrlHRSystemParm::~CZEBCMPCtrlHRSystemParm() = default;
 CZEBCMPCtrlHRSystemParm& CZEBCMPCtrlHRSystemParm::operator=(const CZEBCMPCtrlHRSystemParm& other) = default;
 

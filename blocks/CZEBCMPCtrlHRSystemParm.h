@@ -8,7 +8,7 @@
 class CZEBCMPCtrlHRSystemParm {
  public:
   CZEBCMPCtrlHRSystemParm();
-  CZEBCMPCtrlHRSystemParm(const CZEBCMPCtrlHRSystemParm&) = default;
+  CZEBCMPCtrlHRSystemParm(const CZEBCMPCtrlHRSystemParm& other);
   ~CZEBCMPCtrlHRSystemParm();
   CZEBCMPCtrlHRSystemParm& operator=(const CZEBCMPCtrlHRSystemParm& other);
 

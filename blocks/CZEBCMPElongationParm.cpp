@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPElongationParm::CZEBCMPElongationParm() = default;
+CZEBCMPElongationParm::CZEBCMPElongationParm(const CZEBCMPElongationParm& other) = default;
 CZEBCMPElongationParm::~CZEBCMPElongationParm() = default;
 CZEBCMPElongationParm& CZEBCMPElongationParm::operator=(const CZEBCMPElongationParm& other) = default;
 

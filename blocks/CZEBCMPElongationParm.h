@@ -8,7 +8,7 @@
 class CZEBCMPElongationParm {
  public:
   CZEBCMPElongationParm();
-  CZEBCMPElongationParm(const CZEBCMPElongationParm&) = default;
+  CZEBCMPElongationParm(const CZEBCMPElongationParm& other);
   ~CZEBCMPElongationParm();
   CZEBCMPElongationParm& operator=(const CZEBCMPElongationParm& other);
 

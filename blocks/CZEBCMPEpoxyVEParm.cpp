@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPEpoxyVEParm::CZEBCMPEpoxyVEParm() = default;
+CZEBCMPEpoxyVEParm::CZEBCMPEpoxyVEParm(const CZEBCMPEpoxyVEParm& other) = default;
 CZEBCMPEpoxyVEParm::~CZEBCMPEpoxyVEParm() = default;
 CZEBCMPEpoxyVEParm& CZEBCMPEpoxyVEParm::operator=(const CZEBCMPEpoxyVEParm& other) = default;
 

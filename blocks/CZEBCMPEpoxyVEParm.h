@@ -8,7 +8,7 @@
 class CZEBCMPEpoxyVEParm {
  public:
   CZEBCMPEpoxyVEParm();
-  CZEBCMPEpoxyVEParm(const CZEBCMPEpoxyVEParm&) = default;
+  CZEBCMPEpoxyVEParm(const CZEBCMPEpoxyVEParm& other);
   ~CZEBCMPEpoxyVEParm();
   CZEBCMPEpoxyVEParm& operator=(const CZEBCMPEpoxyVEParm& other);
 

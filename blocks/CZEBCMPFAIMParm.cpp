@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPFAIMParm::CZEBCMPFAIMParm() = default;
+CZEBCMPFAIMParm::CZEBCMPFAIMParm(const CZEBCMPFAIMParm& other) = default;
 CZEBCMPFAIMParm::~CZEBCMPFAIMParm() = default;
 CZEBCMPFAIMParm& CZEBCMPFAIMParm::operator=(const CZEBCMPFAIMParm& other) = default;
 

@@ -11,7 +11,7 @@
 class CZEBCMPFAIMParm {
  public:
   CZEBCMPFAIMParm();
-  CZEBCMPFAIMParm(const CZEBCMPFAIMParm&) = default;
+  CZEBCMPFAIMParm(const CZEBCMPFAIMParm& other);
   ~CZEBCMPFAIMParm();
   CZEBCMPFAIMParm& operator=(const CZEBCMPFAIMParm& other);
 

@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPFEMParm::CZEBCMPFEMParm() = default;
+CZEBCMPFEMParm::CZEBCMPFEMParm(const CZEBCMPFEMParm& other) = default;
 CZEBCMPFEMParm::~CZEBCMPFEMParm() = default;
 CZEBCMPFEMParm& CZEBCMPFEMParm::operator=(const CZEBCMPFEMParm& other) = default;
 

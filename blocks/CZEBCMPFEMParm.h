@@ -7,7 +7,7 @@
 class CZEBCMPFEMParm {
  public:
   CZEBCMPFEMParm();
-  CZEBCMPFEMParm(const CZEBCMPFEMParm&) = default;
+  CZEBCMPFEMParm(const CZEBCMPFEMParm& other);
   ~CZEBCMPFEMParm();
   CZEBCMPFEMParm& operator=(const CZEBCMPFEMParm& other);
 

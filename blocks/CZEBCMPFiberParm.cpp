@@ -5,6 +5,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPFiberParm::CZEBCMPFiberParm() = default;
+CZEBCMPFiberParm::CZEBCMPFiberParm(const CZEBCMPFiberParm& other) = default;
 CZEBCMPFiberParm::~CZEBCMPFiberParm() = default;
 CZEBCMPFiberParm& CZEBCMPFiberParm::operator=(const CZEBCMPFiberParm& other) = default;
 

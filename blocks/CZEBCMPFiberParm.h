@@ -11,7 +11,7 @@
 class CZEBCMPFiberParm {
  public:
   CZEBCMPFiberParm();
-  CZEBCMPFiberParm(const CZEBCMPFiberParm&) = default;
+  CZEBCMPFiberParm(const CZEBCMPFiberParm& other);
   ~CZEBCMPFiberParm();
   CZEBCMPFiberParm& operator=(const CZEBCMPFiberParm& other);
 

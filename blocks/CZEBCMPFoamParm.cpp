@@ -4,6 +4,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPFoamParm::CZEBCMPFoamParm() = default;
+CZEBCMPFoamParm::CZEBCMPFoamParm(const CZEBCMPFoamParm& other) = default;
 CZEBCMPFoamParm::~CZEBCMPFoamParm() = default;
 CZEBCMPFoamParm& CZEBCMPFoamParm::operator=(const CZEBCMPFoamParm& other) = default;
 

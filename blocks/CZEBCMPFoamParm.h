@@ -12,7 +12,7 @@
 class CZEBCMPFoamParm {
  public:
   CZEBCMPFoamParm();
-  CZEBCMPFoamParm(const CZEBCMPFoamParm&) = default;
+  CZEBCMPFoamParm(const CZEBCMPFoamParm& other);
   ~CZEBCMPFoamParm();
   CZEBCMPFoamParm& operator=(const CZEBCMPFoamParm& other);
 

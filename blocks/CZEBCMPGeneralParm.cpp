@@ -2,6 +2,7 @@
 #include "blocks/CZEBCMPGeneralParm.h"
 
 CZEBCMPGeneralParm::CZEBCMPGeneralParm() = default;
+CZEBCMPGeneralParm::CZEBCMPGeneralParm(const CZEBCMPGeneralParm& other) = default;
 CZEBCMPGeneralParm::~CZEBCMPGeneralParm() = default;
 CZEBCMPGeneralParm& CZEBCMPGeneralParm::operator=(const CZEBCMPGeneralParm& other) = default;
 

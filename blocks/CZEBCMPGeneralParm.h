@@ -18,7 +18,7 @@
 class CZEBCMPGeneralParm {
  public:
   CZEBCMPGeneralParm();
-  CZEBCMPGeneralParm(const CZEBCMPGeneralParm&) = default;
+  CZEBCMPGeneralParm(const CZEBCMPGeneralParm& other);
   ~CZEBCMPGeneralParm();
   CZEBCMPGeneralParm& operator=(const CZEBCMPGeneralParm& other);
 

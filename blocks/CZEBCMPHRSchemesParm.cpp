@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPHRSchemesParm::CZEBCMPHRSchemesParm() = default;
+CZEBCMPHRSchemesParm::CZEBCMPHRSchemesParm(const CZEBCMPHRSchemesParm& other) = default;
 CZEBCMPHRSchemesParm::~CZEBCMPHRSchemesParm() = default;
 CZEBCMPHRSchemesParm& CZEBCMPHRSchemesParm::operator=(const CZEBCMPHRSchemesParm& other) = default;
 

@@ -8,7 +8,7 @@
 class CZEBCMPHRSchemesParm {
  public:
   CZEBCMPHRSchemesParm();
-  CZEBCMPHRSchemesParm(const CZEBCMPHRSchemesParm&) = default;
+  CZEBCMPHRSchemesParm(const CZEBCMPHRSchemesParm& other);
   ~CZEBCMPHRSchemesParm();
   CZEBCMPHRSchemesParm& operator=(const CZEBCMPHRSchemesParm& other);
 

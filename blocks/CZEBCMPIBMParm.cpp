@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPIBMParm::CZEBCMPIBMParm() = default;
+CZEBCMPIBMParm::CZEBCMPIBMParm(const CZEBCMPIBMParm& other) = default;
 CZEBCMPIBMParm::~CZEBCMPIBMParm() = default;
 CZEBCMPIBMParm& CZEBCMPIBMParm::operator=(const CZEBCMPIBMParm& other) = default;
 

@@ -7,7 +7,7 @@
 class CZEBCMPIBMParm {
  public:
   CZEBCMPIBMParm();
-  CZEBCMPIBMParm(const CZEBCMPIBMParm&) = default;
+  CZEBCMPIBMParm(const CZEBCMPIBMParm& other);
   ~CZEBCMPIBMParm();
   CZEBCMPIBMParm& operator=(const CZEBCMPIBMParm& other);
 

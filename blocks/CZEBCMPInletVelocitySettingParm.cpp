@@ -3,6 +3,8 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPInletVelocitySettingParm::CZEBCMPInletVelocitySettingParm() = default;
+CZEBCMPInletVelocitySettingParm::CZEBCMPInletVelocitySettingParm(const CZEBCMPInletVelocitySettingParm& other) =
+    default;
 CZEBCMPInletVelocitySettingParm::~CZEBCMPInletVelocitySettingParm() = default;
 CZEBCMPInletVelocitySettingParm& CZEBCMPInletVelocitySettingParm::operator=(
     const CZEBCMPInletVelocitySettingParm& other) = default;

@@ -7,7 +7,7 @@
 class CZEBCMPInletVelocitySettingParm {
  public:
   CZEBCMPInletVelocitySettingParm();
-  CZEBCMPInletVelocitySettingParm(const CZEBCMPInletVelocitySettingParm&) = default;
+  CZEBCMPInletVelocitySettingParm(const CZEBCMPInletVelocitySettingParm& other);
   ~CZEBCMPInletVelocitySettingParm();
   CZEBCMPInletVelocitySettingParm& operator=(const CZEBCMPInletVelocitySettingParm& other);
 

@@ -4,6 +4,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPIteratParm::CZEBCMPIteratParm() = default;
+CZEBCMPIteratParm::CZEBCMPIteratParm(const CZEBCMPIteratParm& other) = default;
 CZEBCMPIteratParm::~CZEBCMPIteratParm() = default;
 CZEBCMPIteratParm& CZEBCMPIteratParm::operator=(const CZEBCMPIteratParm& other) = default;
 

@@ -13,7 +13,7 @@
 class CZEBCMPIteratParm {
  public:
   CZEBCMPIteratParm();
-  CZEBCMPIteratParm(const CZEBCMPIteratParm&) = default;
+  CZEBCMPIteratParm(const CZEBCMPIteratParm& other);
   ~CZEBCMPIteratParm();
   CZEBCMPIteratParm& operator=(const CZEBCMPIteratParm& other);
 

@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPMAFVMParm::CZEBCMPMAFVMParm() = default;
+CZEBCMPMAFVMParm::CZEBCMPMAFVMParm(const CZEBCMPMAFVMParm& other) = default;
 CZEBCMPMAFVMParm::~CZEBCMPMAFVMParm() = default;
 CZEBCMPMAFVMParm& CZEBCMPMAFVMParm::operator=(const CZEBCMPMAFVMParm& other) = default;
 

@@ -8,7 +8,7 @@
 class CZEBCMPMAFVMParm {
  public:
   CZEBCMPMAFVMParm();
-  CZEBCMPMAFVMParm(const CZEBCMPMAFVMParm&) = default;
+  CZEBCMPMAFVMParm(const CZEBCMPMAFVMParm& other);
   ~CZEBCMPMAFVMParm();
   CZEBCMPMAFVMParm& operator=(const CZEBCMPMAFVMParm& other);
 

@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPMicroMoldingParm::CZEBCMPMicroMoldingParm() = default;
+CZEBCMPMicroMoldingParm::CZEBCMPMicroMoldingParm(const CZEBCMPMicroMoldingParm& other) = default;
 CZEBCMPMicroMoldingParm::~CZEBCMPMicroMoldingParm() = default;
 CZEBCMPMicroMoldingParm& CZEBCMPMicroMoldingParm::operator=(const CZEBCMPMicroMoldingParm& other) = default;
 

@@ -10,7 +10,7 @@
 class CZEBCMPMicroMoldingParm {
  public:
   CZEBCMPMicroMoldingParm();
-  CZEBCMPMicroMoldingParm(const CZEBCMPMicroMoldingParm&) = default;
+  CZEBCMPMicroMoldingParm(const CZEBCMPMicroMoldingParm& other);
   ~CZEBCMPMicroMoldingParm();
   CZEBCMPMicroMoldingParm& operator=(const CZEBCMPMicroMoldingParm& other);
 

@@ -4,6 +4,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPMuCellParm::CZEBCMPMuCellParm() = default;
+CZEBCMPMuCellParm::CZEBCMPMuCellParm(const CZEBCMPMuCellParm& other) = default;
 CZEBCMPMuCellParm::~CZEBCMPMuCellParm() = default;
 CZEBCMPMuCellParm& CZEBCMPMuCellParm::operator=(const CZEBCMPMuCellParm& other) = default;
 

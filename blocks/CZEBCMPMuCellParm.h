@@ -7,7 +7,7 @@
 class CZEBCMPMuCellParm {
  public:
   CZEBCMPMuCellParm();
-  CZEBCMPMuCellParm(const CZEBCMPMuCellParm&) = default;
+  CZEBCMPMuCellParm(const CZEBCMPMuCellParm& other);
   ~CZEBCMPMuCellParm();
   CZEBCMPMuCellParm& operator=(const CZEBCMPMuCellParm& other);
 

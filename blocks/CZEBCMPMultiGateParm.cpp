@@ -27,6 +27,7 @@ void reportMissingWeights(int groups) {
 }  // namespace
 
 CZEBCMPMultiGateParm::CZEBCMPMultiGateParm() = default;
+CZEBCMPMultiGateParm::CZEBCMPMultiGateParm(const CZEBCMPMultiGateParm& other) = default;
 CZEBCMPMultiGateParm::~CZEBCMPMultiGateParm() = default;
 CZEBCMPMultiGateParm& CZEBCMPMultiGateParm::operator=(const CZEBCMPMultiGateParm& other) = default;
 

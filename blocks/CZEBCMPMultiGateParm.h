@@ -13,7 +13,7 @@
 class CZEBCMPMultiGateParm {
  public:
   CZEBCMPMultiGateParm();
-  CZEBCMPMultiGateParm(const CZEBCMPMultiGateParm&) = default;
+  CZEBCMPMultiGateParm(const CZEBCMPMultiGateParm& other);
   ~CZEBCMPMultiGateParm();
   CZEBCMPMultiGateParm& operator=(const CZEBCMPMultiGateParm& other);
 

@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPOutletParm::CZEBCMPOutletParm() = default;
+CZEBCMPOutletParm::CZEBCMPOutletParm(const CZEBCMPOutletParm& other) = default;
 CZEBCMPOutletParm::~CZEBCMPOutletParm() = default;
 CZEBCMPOutletParm& CZEBCMPOutletParm::operator=(const CZEBCMPOutletParm& other) = default;
 

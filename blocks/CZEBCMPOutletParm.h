@@ -7,7 +7,7 @@
 class CZEBCMPOutletParm {
  public:
   CZEBCMPOutletParm();
-  CZEBCMPOutletParm(const CZEBCMPOutletParm&) = default;
+  CZEBCMPOutletParm(const CZEBCMPOutletParm& other);
   ~CZEBCMPOutletParm();
   CZEBCMPOutletParm& operator=(const CZEBCMPOutletParm& other);
 

@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPPIMParm::CZEBCMPPIMParm() = default;
+CZEBCMPPIMParm::CZEBCMPPIMParm(const CZEBCMPPIMParm& other) = default;
 CZEBCMPPIMParm::~CZEBCMPPIMParm() = default;
 CZEBCMPPIMParm& CZEBCMPPIMParm::operator=(const CZEBCMPPIMParm& other) = default;
 

@@ -9,7 +9,7 @@
 class CZEBCMPPIMParm {
  public:
   CZEBCMPPIMParm();
-  CZEBCMPPIMParm(const CZEBCMPPIMParm&) = default;
+  CZEBCMPPIMParm(const CZEBCMPPIMParm& other);
   ~CZEBCMPPIMParm();
   CZEBCMPPIMParm& operator=(const CZEBCMPPIMParm& other);
 

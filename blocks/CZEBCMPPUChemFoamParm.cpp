@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPPUChemFoamParm::CZEBCMPPUChemFoamParm() = default;
+CZEBCMPPUChemFoamParm::CZEBCMPPUChemFoamParm(const CZEBCMPPUChemFoamParm& other) = default;
 CZEBCMPPUChemFoamParm::~CZEBCMPPUChemFoamParm() = default;
 CZEBCMPPUChemFoamParm& CZEBCMPPUChemFoamParm::operator=(const CZEBCMPPUChemFoamParm& other) = default;
 

@@ -7,7 +7,7 @@
 class CZEBCMPPUChemFoamParm {
  public:
   CZEBCMPPUChemFoamParm();
-  CZEBCMPPUChemFoamParm(const CZEBCMPPUChemFoamParm&) = default;
+  CZEBCMPPUChemFoamParm(const CZEBCMPPUChemFoamParm& other);
   ~CZEBCMPPUChemFoamParm();
   CZEBCMPPUChemFoamParm& operator=(const CZEBCMPPUChemFoamParm& other);
 

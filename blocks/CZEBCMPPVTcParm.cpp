@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPPVTcParm::CZEBCMPPVTcParm() = default;
+CZEBCMPPVTcParm::CZEBCMPPVTcParm(const CZEBCMPPVTcParm& other) = default;
 CZEBCMPPVTcParm::~CZEBCMPPVTcParm() = default;
 CZEBCMPPVTcParm& CZEBCMPPVTcParm::operator=(const CZEBCMPPVTcParm& other) = default;
 

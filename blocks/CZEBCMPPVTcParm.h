@@ -8,7 +8,7 @@
 class CZEBCMPPVTcParm {
  public:
   CZEBCMPPVTcParm();
-  CZEBCMPPVTcParm(const CZEBCMPPVTcParm&) = default;
+  CZEBCMPPVTcParm(const CZEBCMPPVTcParm& other);
   ~CZEBCMPPVTcParm();
   CZEBCMPPVTcParm& operator=(const CZEBCMPPVTcParm& other);
 

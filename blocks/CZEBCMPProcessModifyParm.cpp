@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPProcessModifyParm::CZEBCMPProcessModifyParm() = default;
+CZEBCMPProcessModifyParm::CZEBCMPProcessModifyParm(const CZEBCMPProcessModifyParm& other) = default;
 CZEBCMPProcessModifyParm::~CZEBCMPProcessModifyParm() = default;
 CZEBCMPProcessModifyParm& CZEBCMPProcessModifyParm::operator=(const CZEBCMPProcessModifyParm& other) = default;
 

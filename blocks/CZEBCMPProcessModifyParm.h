@@ -9,7 +9,7 @@
 class CZEBCMPProcessModifyParm {
  public:
   CZEBCMPProcessModifyParm();
-  CZEBCMPProcessModifyParm(const CZEBCMPProcessModifyParm&) = default;
+  CZEBCMPProcessModifyParm(const CZEBCMPProcessModifyParm& other);
   ~CZEBCMPProcessModifyParm();
   CZEBCMPProcessModifyParm& operator=(const CZEBCMPProcessModifyParm& other);
 

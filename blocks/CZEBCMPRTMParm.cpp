@@ -15,6 +15,7 @@ bool readInt(const std::string& line, std::string_view key, int& value) {
 }  // namespace
 
 CZEBCMPRTMParm::CZEBCMPRTMParm() = default;
+CZEBCMPRTMParm::CZEBCMPRTMParm(const CZEBCMPRTMParm& other) = default;
 CZEBCMPRTMParm::~CZEBCMPRTMParm() = default;
 CZEBCMPRTMParm& CZEBCMPRTMParm::operator=(const CZEBCMPRTMParm& other) = default;
 

@@ -12,7 +12,7 @@
 class CZEBCMPRTMParm {
  public:
   CZEBCMPRTMParm();
-  CZEBCMPRTMParm(const CZEBCMPRTMParm&) = default;
+  CZEBCMPRTMParm(const CZEBCMPRTMParm& other);
   ~CZEBCMPRTMParm();
   CZEBCMPRTMParm& operator=(const CZEBCMPRTMParm& other);
 

@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPRegionVersionParm::CZEBCMPRegionVersionParm() = default;
+CZEBCMPRegionVersionParm::CZEBCMPRegionVersionParm(const CZEBCMPRegionVersionParm& other) = default;
 CZEBCMPRegionVersionParm::~CZEBCMPRegionVersionParm() = default;
 CZEBCMPRegionVersionParm& CZEBCMPRegionVersionParm::operator=(const CZEBCMPRegionVersionParm& other) = default;
 

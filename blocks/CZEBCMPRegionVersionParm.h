@@ -7,7 +7,7 @@
 class CZEBCMPRegionVersionParm {
  public:
   CZEBCMPRegionVersionParm();
-  CZEBCMPRegionVersionParm(const CZEBCMPRegionVersionParm&) = default;
+  CZEBCMPRegionVersionParm(const CZEBCMPRegionVersionParm& other);
   ~CZEBCMPRegionVersionParm();
   CZEBCMPRegionVersionParm& operator=(const CZEBCMPRegionVersionParm& other);
 

@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPSAMGCtrlParm::CZEBCMPSAMGCtrlParm() = default;
+CZEBCMPSAMGCtrlParm::CZEBCMPSAMGCtrlParm(const CZEBCMPSAMGCtrlParm& other) = default;
 CZEBCMPSAMGCtrlParm::~CZEBCMPSAMGCtrlParm() = default;
 CZEBCMPSAMGCtrlParm& CZEBCMPSAMGCtrlParm::operator=(const CZEBCMPSAMGCtrlParm& other) = default;
 

@@ -8,7 +8,7 @@
 class CZEBCMPSAMGCtrlParm {
  public:
   CZEBCMPSAMGCtrlParm();
-  CZEBCMPSAMGCtrlParm(const CZEBCMPSAMGCtrlParm&) = default;
+  CZEBCMPSAMGCtrlParm(const CZEBCMPSAMGCtrlParm& other);
   ~CZEBCMPSAMGCtrlParm();
   CZEBCMPSAMGCtrlParm& operator=(const CZEBCMPSAMGCtrlParm& other);
 

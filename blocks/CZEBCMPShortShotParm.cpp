@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPShortShotParm::CZEBCMPShortShotParm() = default;
+CZEBCMPShortShotParm::CZEBCMPShortShotParm(const CZEBCMPShortShotParm& other) = default;
 CZEBCMPShortShotParm::~CZEBCMPShortShotParm() = default;
 CZEBCMPShortShotParm& CZEBCMPShortShotParm::operator=(const CZEBCMPShortShotParm& other) = default;
 

@@ -9,7 +9,7 @@
 class CZEBCMPShortShotParm {
  public:
   CZEBCMPShortShotParm();
-  CZEBCMPShortShotParm(const CZEBCMPShortShotParm&) = default;
+  CZEBCMPShortShotParm(const CZEBCMPShortShotParm& other);
   ~CZEBCMPShortShotParm();
   CZEBCMPShortShotParm& operator=(const CZEBCMPShortShotParm& other);
 

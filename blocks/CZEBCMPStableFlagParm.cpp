@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPStableFlagParm::CZEBCMPStableFlagParm() = default;
+CZEBCMPStableFlagParm::CZEBCMPStableFlagParm(const CZEBCMPStableFlagParm& other) = default;
 CZEBCMPStableFlagParm::~CZEBCMPStableFlagParm() = default;
 CZEBCMPStableFlagParm& CZEBCMPStableFlagParm::operator=(const CZEBCMPStableFlagParm& other) = default;
 

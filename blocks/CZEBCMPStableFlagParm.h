@@ -7,7 +7,7 @@
 class CZEBCMPStableFlagParm {
  public:
   CZEBCMPStableFlagParm();
-  CZEBCMPStableFlagParm(const CZEBCMPStableFlagParm&) = default;
+  CZEBCMPStableFlagParm(const CZEBCMPStableFlagParm& other);
   ~CZEBCMPStableFlagParm();
   CZEBCMPStableFlagParm& operator=(const CZEBCMPStableFlagParm& other);
 

@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPTimeStepSizeCtrlParm::CZEBCMPTimeStepSizeCtrlParm() = default;
+CZEBCMPTimeStepSizeCtrlParm::CZEBCMPTimeStepSizeCtrlParm(const CZEBCMPTimeStepSizeCtrlParm& other) = default;
 CZEBCMPTimeStepSizeCtrlParm::~CZEBCMPTimeStepSizeCtrlParm() = default;
 CZEBCMPTimeStepSizeCtrlParm& CZEBCMPTimeStepSizeCtrlParm::operator=(const CZEBCMPTimeStepSizeCtrlParm& other) = default;
 

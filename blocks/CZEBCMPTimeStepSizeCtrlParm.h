@@ -8,7 +8,7 @@
 class CZEBCMPTimeStepSizeCtrlParm {
  public:
   CZEBCMPTimeStepSizeCtrlParm();
-  CZEBCMPTimeStepSizeCtrlParm(const CZEBCMPTimeStepSizeCtrlParm&) = default;
+  CZEBCMPTimeStepSizeCtrlParm(const CZEBCMPTimeStepSizeCtrlParm& other);
   ~CZEBCMPTimeStepSizeCtrlParm();
   CZEBCMPTimeStepSizeCtrlParm& operator=(const CZEBCMPTimeStepSizeCtrlParm& other);
 

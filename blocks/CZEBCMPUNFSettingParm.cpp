@@ -34,6 +34,7 @@ struct CZEBCMPUNFSettingParm::Points {
 };
 
 CZEBCMPUNFSettingParm::CZEBCMPUNFSettingParm() = default;
+CZEBCMPUNFSettingParm::CZEBCMPUNFSettingParm(const CZEBCMPUNFSettingParm& other) = default;
 CZEBCMPUNFSettingParm::~CZEBCMPUNFSettingParm() = default;
 CZEBCMPUNFSettingParm& CZEBCMPUNFSettingParm::operator=(const CZEBCMPUNFSettingParm& other) = default;
 

@@ -12,7 +12,7 @@
 class CZEBCMPUNFSettingParm {
  public:
   CZEBCMPUNFSettingParm();
-  CZEBCMPUNFSettingParm(const CZEBCMPUNFSettingParm&) = default;
+  CZEBCMPUNFSettingParm(const CZEBCMPUNFSettingParm& other);
   ~CZEBCMPUNFSettingParm();
   CZEBCMPUNFSettingParm& operator=(const CZEBCMPUNFSettingParm& other);
 

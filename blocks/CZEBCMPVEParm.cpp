@@ -8,6 +8,7 @@
 #include "frame/TextOutput.hpp"
 
 CZEBCMPVEParm::CZEBCMPVEParm() { InitBoundingParameters(); }
+CZEBCMPVEParm::CZEBCMPVEParm(const CZEBCMPVEParm& other) = default;
 CZEBCMPVEParm::~CZEBCMPVEParm() = default;
 CZEBCMPVEParm& CZEBCMPVEParm::operator=(const CZEBCMPVEParm& other) = default;
 

@@ -11,7 +11,7 @@
 class CZEBCMPVEParm {
  public:
   CZEBCMPVEParm();
-  CZEBCMPVEParm(const CZEBCMPVEParm&) = default;
+  CZEBCMPVEParm(const CZEBCMPVEParm& other);
   ~CZEBCMPVEParm();
   CZEBCMPVEParm& operator=(const CZEBCMPVEParm& other);
 

@@ -3,6 +3,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMPViscositySetting2Parm::CZEBCMPViscositySetting2Parm() = default;
+CZEBCMPViscositySetting2Parm::CZEBCMPViscositySetting2Parm(const CZEBCMPViscositySetting2Parm& other) = default;
 CZEBCMPViscositySetting2Parm::~CZEBCMPViscositySetting2Parm() = default;
 CZEBCMPViscositySetting2Parm& CZEBCMPViscositySetting2Parm::operator=(const CZEBCMPViscositySetting2Parm& other) =
     default;

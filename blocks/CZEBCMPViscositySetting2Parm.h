@@ -9,7 +9,7 @@
 class CZEBCMPViscositySetting2Parm {
  public:
   CZEBCMPViscositySetting2Parm();
-  CZEBCMPViscositySetting2Parm(const CZEBCMPViscositySetting2Parm&) = default;
+  CZEBCMPViscositySetting2Parm(const CZEBCMPViscositySetting2Parm& other);
   ~CZEBCMPViscositySetting2Parm();
   CZEBCMPViscositySetting2Parm& operator=(const CZEBCMPViscositySetting2Parm& other);
 

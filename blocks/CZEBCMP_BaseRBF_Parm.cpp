@@ -4,6 +4,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMP_BaseRBF_Parm::CZEBCMP_BaseRBF_Parm() = default;
+CZEBCMP_BaseRBF_Parm::CZEBCMP_BaseRBF_Parm(const CZEBCMP_BaseRBF_Parm& other) = default;
 CZEBCMP_BaseRBF_Parm::~CZEBCMP_BaseRBF_Parm() = default;
 CZEBCMP_BaseRBF_Parm& CZEBCMP_BaseRBF_Parm::operator=(const CZEBCMP_BaseRBF_Parm& other) = default;
 

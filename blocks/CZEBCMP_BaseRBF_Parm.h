@@ -8,7 +8,7 @@
 class CZEBCMP_BaseRBF_Parm {
  public:
   CZEBCMP_BaseRBF_Parm();
-  CZEBCMP_BaseRBF_Parm(const CZEBCMP_BaseRBF_Parm&) = default;
+  CZEBCMP_BaseRBF_Parm(const CZEBCMP_BaseRBF_Parm& other);
   ~CZEBCMP_BaseRBF_Parm();
   CZEBCMP_BaseRBF_Parm& operator=(const CZEBCMP_BaseRBF_Parm& other);
 

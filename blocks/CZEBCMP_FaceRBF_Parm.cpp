@@ -4,6 +4,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMP_FaceRBF_Parm::CZEBCMP_FaceRBF_Parm() = default;
+CZEBCMP_FaceRBF_Parm::CZEBCMP_FaceRBF_Parm(const CZEBCMP_FaceRBF_Parm& other) = default;
 CZEBCMP_FaceRBF_Parm::~CZEBCMP_FaceRBF_Parm() = default;
 CZEBCMP_FaceRBF_Parm& CZEBCMP_FaceRBF_Parm::operator=(const CZEBCMP_FaceRBF_Parm& other) = default;
 

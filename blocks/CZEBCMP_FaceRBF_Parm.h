@@ -8,7 +8,7 @@
 class CZEBCMP_FaceRBF_Parm {
  public:
   CZEBCMP_FaceRBF_Parm();
-  CZEBCMP_FaceRBF_Parm(const CZEBCMP_FaceRBF_Parm&) = default;
+  CZEBCMP_FaceRBF_Parm(const CZEBCMP_FaceRBF_Parm& other);
   ~CZEBCMP_FaceRBF_Parm();
   CZEBCMP_FaceRBF_Parm& operator=(const CZEBCMP_FaceRBF_Parm& other);
 

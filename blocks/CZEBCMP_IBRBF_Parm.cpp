@@ -4,6 +4,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCMP_IBRBF_Parm::CZEBCMP_IBRBF_Parm() = default;
+CZEBCMP_IBRBF_Parm::CZEBCMP_IBRBF_Parm(const CZEBCMP_IBRBF_Parm& other) = default;
 CZEBCMP_IBRBF_Parm::~CZEBCMP_IBRBF_Parm() = default;
 CZEBCMP_IBRBF_Parm& CZEBCMP_IBRBF_Parm::operator=(const CZEBCMP_IBRBF_Parm& other) = default;
 

@@ -8,7 +8,7 @@
 class CZEBCMP_IBRBF_Parm {
  public:
   CZEBCMP_IBRBF_Parm();
-  CZEBCMP_IBRBF_Parm(const CZEBCMP_IBRBF_Parm&) = default;
+  CZEBCMP_IBRBF_Parm(const CZEBCMP_IBRBF_Parm& other);
   ~CZEBCMP_IBRBF_Parm();
   CZEBCMP_IBRBF_Parm& operator=(const CZEBCMP_IBRBF_Parm& other);
 

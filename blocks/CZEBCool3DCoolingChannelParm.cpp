@@ -4,6 +4,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCool3DCoolingChannelParm::CZEBCool3DCoolingChannelParm() = default;
+CZEBCool3DCoolingChannelParm::CZEBCool3DCoolingChannelParm(const CZEBCool3DCoolingChannelParm& other) = default;
 CZEBCool3DCoolingChannelParm::~CZEBCool3DCoolingChannelParm() = default;
 CZEBCool3DCoolingChannelParm& CZEBCool3DCoolingChannelParm::operator=(const CZEBCool3DCoolingChannelParm& other) =
     default;

@@ -11,7 +11,7 @@
 class CZEBCool3DCoolingChannelParm {
  public:
   CZEBCool3DCoolingChannelParm();
-  CZEBCool3DCoolingChannelParm(const CZEBCool3DCoolingChannelParm&) = default;
+  CZEBCool3DCoolingChannelParm(const CZEBCool3DCoolingChannelParm& other);
   ~CZEBCool3DCoolingChannelParm();
   CZEBCool3DCoolingChannelParm& operator=(const CZEBCool3DCoolingChannelParm& other);
 

@@ -7,6 +7,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCoolBackDoorParm::CZEBCoolBackDoorParm() = default;
+CZEBCoolBackDoorParm::CZEBCoolBackDoorParm(const CZEBCoolBackDoorParm& other) = default;
 CZEBCoolBackDoorParm::~CZEBCoolBackDoorParm() = default;
 CZEBCoolBackDoorParm& CZEBCoolBackDoorParm::operator=(const CZEBCoolBackDoorParm& other) = default;
 

@@ -14,7 +14,7 @@
 class CZEBCoolBackDoorParm {
  public:
   CZEBCoolBackDoorParm();
-  CZEBCoolBackDoorParm(const CZEBCoolBackDoorParm&) = default;
+  CZEBCoolBackDoorParm(const CZEBCoolBackDoorParm& other);
   ~CZEBCoolBackDoorParm();
   CZEBCoolBackDoorParm& operator=(const CZEBCoolBackDoorParm& other);
 

@@ -4,6 +4,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCoolFastCoolParm::CZEBCoolFastCoolParm() = default;
+CZEBCoolFastCoolParm::CZEBCoolFastCoolParm(const CZEBCoolFastCoolParm& other) = default;
 CZEBCoolFastCoolParm::~CZEBCoolFastCoolParm() = default;
 CZEBCoolFastCoolParm& CZEBCoolFastCoolParm::operator=(const CZEBCoolFastCoolParm& other) = default;
 

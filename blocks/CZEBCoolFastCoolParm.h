@@ -12,7 +12,7 @@
 class CZEBCoolFastCoolParm {
  public:
   CZEBCoolFastCoolParm();
-  CZEBCoolFastCoolParm(const CZEBCoolFastCoolParm&) = default;
+  CZEBCoolFastCoolParm(const CZEBCoolFastCoolParm& other);
   ~CZEBCoolFastCoolParm();
   CZEBCoolFastCoolParm& operator=(const CZEBCoolFastCoolParm& other);
 

@@ -4,6 +4,7 @@
 #include "frame/TableBuilder.hpp"
 
 CZEBCoolStdCoolParm::CZEBCoolStdCoolParm() = default;
+CZEBCoolStdCoolParm::CZEBCoolStdCoolParm(const CZEBCoolStdCoolParm& other) = default;
 CZEBCoolStdCoolParm::~CZEBCoolStdCoolParm() = default;
 CZEBCoolStdCoolParm& CZEBCoolStdCoolParm::operator=(const CZEBCoolStdCoolParm& other) = default;
 

@@ -13,7 +13,7 @@
 class CZEBCoolStdCoolParm {
  public:
   CZEBCoolStdCoolParm();
-  CZEBCoolStdCoolParm(const CZEBCoolStdCoolParm&) = default;
+  CZEBCoolStdCoolParm(const CZEBCoolStdCoolParm& other);
   ~CZEBCoolStdCoolParm();
   CZEBCoolStdCoolParm& operator=(const CZEBCoolStdCoolParm& other);
 
