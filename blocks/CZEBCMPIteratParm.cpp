@@ -284,7 +284,8 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPIteratParm>() {
       {{18, 5}, FieldType::kInt, nullptr},
   };
   // Lines 11, 13, 15 and 17 hold nothing that is kept.
-  static constexpr PositionalLayout kLayout{.lines = 19, .absentIsZero = 1u << 18 | 1u << 19, .discarded = kDiscarded};
+  static constexpr PositionalLayout kLayout{
+      .lines = 19, .absentIsZero = 1u << 18 | 1u << 19, .discarded = kDiscarded, .headVersion = 1023};
   static constexpr Section kSections[] = {positionalSection<"VER", kRows, kLayout>()};
   static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------Iterat Parameters---------");
   return kTable;

@@ -104,7 +104,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRTMParm>() {
     if (!counted) return ListResult::kNextLine;
     if (count < 0 || count > kLargestCount) {
       refuseCount(context, "NVentInlet", count);
-      block.m_iNVentInlet = 0;
+      block.m_iNVentInlet = 0;  // the list that an earlier line filled is gone with it
       return ListResult::kNextLine;
     }
     block.m_iNVentInlet = count;

@@ -90,7 +90,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPUNFSettingParm>() {
       {.field = field<&T::m_iFillType, &T::iFillType>(), .key = "FillType", .gateBelow = 2,
        .label = "m_iFillType\t\t\t= ", .doc = "Type of the filling; below 2 the dispenser's keys are ignored."},
       {.field = field<&T::m_iNDispenserPass, &T::iNDispenserPass>(),
-       .key = "nDispenserPoint", .count = true, .list = kMakePoints,
+       .key = "nDispenserPoint", .count = true, .list = kMakePoints, .fills = "m_pdDispenserPoint",
        .label = "m_iNDispenserPass\t\t= ",
        .doc = "Number of dispenser points (0 to 1000000); a new count sets all points to the origin."},
       {.field = field<&T::m_dDispenserSpeed>(), .key = "Speed_V",

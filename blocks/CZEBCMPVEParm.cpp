@@ -126,6 +126,7 @@ void refuseTooLarge(const zeb::ListContext& context, int& count) {
                   "); 0 is used\n");
   }
   count = 0;
+  zeb::releaseLists(context.section, context.row, context.block);
   if (context.lines.observer() != nullptr) {
     context.lines.observer()->keyFound({context.section,
                                         context.row,

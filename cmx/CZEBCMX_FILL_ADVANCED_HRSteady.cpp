@@ -41,6 +41,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_HRSteady>() {
       {.field = field<&T::m_dHRConvergenceCriteria, &T::dHRConvergenceCriteria>(), .key = "ValueConvergenceCriteria",
        .otherKey = "ValueFlowRateDiffRatio", .doc = "Convergence criterion: ratio of the flow rate difference."},
       {.field = field<&T::m_iNHRGate, &T::iNHRGate>(), .key = "ValueNoHRGate", .count = true, .list = kMakeGates,
+       .fills = "m_pHRGateBC",
        .doc = "Number of hot runner gates, 0 to 1,000,000."},
       {.field = field<&T::m_iHRGateType, &T::iHRGateType>(), .key = "ValueHRGateType", .list = kReadGates,
        .fills = "m_pHRGateBC",

@@ -6,15 +6,11 @@
 #include <stdexcept>
 
 #include "frame/ReadObserver.hpp"
-#include "frame/SectionEngine.hpp"
 #include "frame/TextOutput.hpp"
 
 namespace zeb {
 
 namespace {
-
-// The one version whose line is followed by a fixed-line head.
-constexpr int kHeadVersion = 1023;
 
 struct DispatchRow {
   BlockEntry block;
@@ -27,6 +23,7 @@ constexpr DispatchRow row(std::string_view section = {}) {
 }
 
 constexpr DispatchRow kRows[] = {
+    row<CZEBCMPIteratParm>(),  // the fixed-line head behind "[VER]"
     row<CZEBCMPViscositySetting2Parm>(),
     row<CZEBCMPShortShotParm>(),
     row<CZEBCMPInletVelocitySettingParm>(),
@@ -91,14 +88,6 @@ const Section& sectionOf(const DispatchRow& row) {
   throw std::logic_error("the dispatch names a section that no block has: " + std::string(row.section));
 }
 
-void readVersionLine(CZEBCMPInternalTool& tool, const std::string& line, LineReader& lines) {
-  int version = 0;
-  const bool parsed = scanVersion(line, version);
-  if (lines.observer() != nullptr) lines.observer()->versionRead(lines.lineNumber(), line, parsed, version);
-  if (version != kHeadVersion) return;
-  readPositional(tableOf<CZEBCMPIteratParm>().sections.front(), &tool.block<CZEBCMPIteratParm>(), lines);
-}
-
 }  // namespace
 
 std::vector<DispatchEntry> cmpSections(CZEBCMPInternalTool& tool) {
@@ -119,10 +108,7 @@ int readCMPFile(CZEBCMPInternalTool& tool, const std::string& fileName) {
   LineReader lines(stream, source, tool.m_observer);
   const std::vector<DispatchEntry> sections = cmpSections(tool);
   std::string line;
-  while (lines.next(line)) {
-    if (line.find("[VER]") != line.npos) readVersionLine(tool, line, lines);
-    dispatchLine(sections, line, lines);
-  }
+  while (lines.next(line)) dispatchLine(sections, line, lines);
   if (source.reads()) stream.close();
   return 1;
 }

@@ -9,8 +9,8 @@
 
 namespace zeb {
 
-/// The keyed and positional sections of a CMP file with the tool's blocks, in the order in which each line is tested
-/// for them.
+/// The head and the keyed and positional sections of a CMP file with the tool's blocks, in the order in which each line
+/// is tested for them.
 std::vector<DispatchEntry> cmpSections(CZEBCMPInternalTool& tool);
 
 /// Reads the whole file into the tool's blocks. Collective. Returns 1, also for a missing file: it reads as an empty

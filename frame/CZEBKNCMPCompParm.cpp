@@ -1,5 +1,7 @@
 #include "frame/CZEBKNCMPCompParm.h"
 
+#include <stdexcept>
+
 #include "frame/CMPReader.hpp"
 #include "frame/DumpEngine.hpp"
 #include "frame/MoldingTypes.hpp"
@@ -59,10 +61,9 @@ int CZEBKNCMPCompParm::setSolidFillBlock(const std::string& fileName) {
   zeb::readCMPFile(*m_tool, fileName);
   CZEBCMPVEParm& viscoelastic = m_tool->block<CZEBCMPVEParm>();
   if (!zeb::wantsViscoelasticFile(viscoelastic)) return 1;
-  // Without a '.' the cut is at npos, which std::string::erase refuses: such a name cannot have a companion file.
-  std::string companion = fileName;
-  companion.erase(companion.rfind('.'));
-  companion += ".vecmp";
+  const std::size_t extension = fileName.rfind('.');
+  if (extension == fileName.npos) throw std::out_of_range("invalid string position");
+  const std::string companion = fileName.substr(0, extension) + ".vecmp";
   zeb::readViscoelasticFile(companion, viscoelastic, m_tool->lineSource(), m_tool->m_observer, m_tool->m_writesFiles);
   return 1;
 }

@@ -56,6 +56,8 @@ class LineReader {
   const LineSource& source() const { return m_source; }
   /// Null in a solver.
   ReadObserver* observer() const { return m_observer; }
+  /// The line on which a section reader works: one buffer for all sections of a file. Lists use their own.
+  std::string& sectionLine() { return m_sectionLine; }
   /// Goes on where another reader of the same stream stopped.
   void continueAfter(const LineReader& other) { m_lineNumber = other.m_lineNumber; }
 
@@ -64,6 +66,7 @@ class LineReader {
   const LineSource& m_source;
   ReadObserver* m_observer;
   int m_lineNumber = 0;
+  std::string m_sectionLine;
 };
 
 }  // namespace zeb

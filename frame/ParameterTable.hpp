@@ -115,6 +115,9 @@ struct Row {
   std::string_view doc = {};
 };
 
+/// Whether the list that `announcing` opens sets the member of `row`.
+bool fills(const Row& announcing, const Row& row);
+
 constexpr int kLargestCount = 1'000'000;
 
 /// One field of a positional line. Without a row it is parsed and thrown away.
@@ -140,6 +143,7 @@ struct Section {
   KeyFilter filter = {};                            // numbers the keys in that order
   int gate = -1;                                    // number of the key whose member is the gate
   bool closingLineIsRead = false;                   // the closing line's keys count too
+  int headVersion = 0;                              // a head behind "[VER]": read only for this version number
   bool readByRank0 = false;                         // rank 0 reads the stream by itself and broadcasts the members
   PositionalLines positional = {};
 

@@ -84,7 +84,7 @@ bool readPositional(const Section& section, void* block, LineReader& lines) {
   }
   const PositionalReader reader{section, block, lines};
   const Slot* slot = section.positional.slots.data();
-  std::string line;
+  std::string& line = lines.sectionLine();
   int number = 1;
   if (section.positional.versioned) {
     if (!reader.versionMatches(*slot, line)) return false;

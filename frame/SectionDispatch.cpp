@@ -10,7 +10,16 @@ namespace zeb {
 
 namespace {
 
-void run(const DispatchEntry& entry, LineReader& lines) {
+// The version line of a head: any other number than the head's, or none, has no effect.
+bool isHeadWanted(const Section& head, const std::string& line, const LineReader& lines) {
+  int version = 0;
+  const bool parsed = scanVersion(line, version);
+  if (lines.observer() != nullptr) lines.observer()->versionRead(lines.lineNumber(), line, parsed, version);
+  return version == head.headVersion;
+}
+
+void run(const DispatchEntry& entry, const std::string& line, LineReader& lines) {
+  if (entry.section->headVersion != 0 && !isHeadWanted(*entry.section, line, lines)) return;
   if (entry.section->isPositional()) {
     readPositional(*entry.section, entry.block, lines);
   } else if (entry.section->readByRank0) {
@@ -39,7 +48,7 @@ bool dispatchLine(std::span<const DispatchEntry> entries, const std::string& lin
     const bool hasMore = candidates.find(bracket, 1) != candidates.npos;
     for (const DispatchEntry& entry : entries) {
       if (!opens(candidates, hasMore, entry.section->open)) continue;
-      run(entry, lines);
+      run(entry, line, lines);
       opened = true;
     }
   }

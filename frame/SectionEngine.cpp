@@ -34,7 +34,7 @@ bool isValidCount(int count) { return count >= 0 && count <= kLargestCount; }
 
 void sayCountIsRefused(const Section& section, std::string_view key, int count, const LineReader& lines) {
   if (!lines.source().reads()) return;
-  writeOut("[" + std::string(section.name) + "] " + std::string(key) + " = " + std::to_string(count) +
+  writeOut(std::string(section.open) + " " + std::string(key) + " = " + std::to_string(count) +
            " is no valid count (0 to " + std::to_string(kLargestCount) + "); 0 is used\n");
 }
 
@@ -55,6 +55,7 @@ KeyOutcome storeInt(const Found& found, int value) {
   const Row& row = found.row;
   if (row.count && !isValidCount(value)) {
     sayCountIsRefused(found.section, found.key, value, found.lines);
+    releaseLists(found.section, row, found.block);
     member<int>(found) = 0;
     return KeyOutcome::kRefused;
   }
@@ -128,6 +129,16 @@ void reportGated(const Found& found, std::string_view line) {
 
 }  // namespace
 
+bool fills(const Row& announcing, const Row& row) {
+  const std::string_view names = announcing.fills, name = row.field.member;
+  for (auto at = names.find(name); at != names.npos; at = names.find(name, at + 1)) {
+    const bool starts = at == 0 || names[at - 1] == ' ';
+    const auto end = at + name.size();
+    if (starts && (end == names.size() || names[end] == ' ')) return true;
+  }
+  return false;
+}
+
 double Rule::apply(double value) const {
   value *= scale;
   for (const Replacement& replacement : replace) {
@@ -173,8 +184,17 @@ void reportLineOfList(const ListContext& context, std::string_view line, bool us
   context.lines.observer()->lineOfList(context.section, context.lines.lineNumber(), line, used);
 }
 
+void releaseLists(const Section& section, const Row& announcing, void* block) {
+  for (const Row& row : section.rows) {
+    if (!fills(announcing, row)) continue;
+    if (row.field.type == FieldType::kInts) static_cast<SharedArray<int>*>(row.field.locate(block))->release();
+    if (row.field.type == FieldType::kDoubles) static_cast<SharedArray<double>*>(row.field.locate(block))->release();
+  }
+}
+
 void refuseCount(const ListContext& context, std::string_view key, int count) {
   sayCountIsRefused(context.section, key, count, context.lines);
+  releaseLists(context.section, context.row, context.block);
 }
 
 bool readKeys(const Section& section, void* block, LineReader& lines, std::string& line) {
@@ -215,7 +235,7 @@ void readSection(const Section& section, void* block, LineReader& lines) {
   if (lines.observer() != nullptr) [[unlikely]] {
     lines.observer()->sectionOpened(section, lines.lineNumber());
   }
-  std::string line;
+  std::string& line = lines.sectionLine();
   bool closed = false;
   while (!closed && lines.next(line)) {
     closed = isClosedBy(section, line);

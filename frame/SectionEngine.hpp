@@ -39,4 +39,8 @@ void reportLineOfList(const ListContext& context, std::string_view line, bool us
 /// kLargestCount. The list then stores 0 and takes no line for it.
 void refuseCount(const ListContext& context, std::string_view key, int count);
 
+/// Takes the arrays that the row's list fills away from the block, as a refused count demands. What was handed out
+/// stays valid.
+void releaseLists(const Section& section, const Row& announcing, void* block);
+
 }  // namespace zeb

@@ -39,11 +39,14 @@ class SharedArray {
   /// Number of elements of the current array, 0 while there is none.
   std::size_t size() const { return m_size; }
 
-  /// Copies elements 1 to size() - 1 to the same places of `out`: the entries of the library's 1-based lists. Nothing is
-  /// handed out.
+  /// Copies elements 1 to size() - 1 to the same places of `out`: the entries of the library's 1-based lists. Nothing
+  /// is handed out.
   void copyEntries(T* out) const {
     for (std::size_t i = 1; i < m_size; ++i) out[i] = m_current.get()[i];
   }
+
+  /// Makes this object empty.
+  void release() { replaceBy(std::shared_ptr<T>(), 0); }
 
   /// Makes a new array of `n` value-initialised elements the current one and returns it for filling; this pointer
   /// alone, without a get(), does not outlive the next replacement. The caller bounds `n`.

@@ -30,6 +30,7 @@ struct PositionalLayout {
   bool versioned = false;
   std::uint32_t absentIsZero = 0;
   std::span<const Slot> discarded = {};
+  int headVersion = 0;
 };
 
 namespace detail {
@@ -221,6 +222,7 @@ constexpr Section positionalSection() {
   section.open = detail::Tags<Name, '[', ']'>::kOpen;
   section.close = detail::Tags<Name, '[', ']'>::kClose;
   section.rows = Rows;
+  section.headVersion = Layout.headVersion;
   section.positional = {detail::Positions<Rows, Layout>::kSlots, Layout.lines, Layout.versioned, Layout.absentIsZero};
   return section;
 }

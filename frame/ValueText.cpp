@@ -1,7 +1,9 @@
 // Both grammars rest on std::from_chars, which knows no locale; the code here is what the two add to it or take away.
 #include "frame/ValueText.hpp"
 
+#include <cfloat>
 #include <charconv>
+#include <cstdint>
 #include <cstring>
 #include <limits>
 #include <system_error>
@@ -61,10 +63,52 @@ bool isTooSmall(const char* at, const char* end) {
   return position + exponent < 0;
 }
 
+// Most numbers in a parameter file are short. Up to 2^53 and a power of ten up to 22 are exact doubles, so that one
+// multiplication or division gives the correctly rounded value. Null where from_chars has to do it.
+const char* readShortDecimal(const char* at, const char* end, double& value) {
+  static_assert(FLT_EVAL_METHOD == 0, "the one rounding must be to double");
+  static constexpr double kPowers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                       1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+  constexpr int kLargestPower = 22;
+  constexpr std::ptrdiff_t kMostDigits = 18;
+  const bool negative = *at == '-';
+  if (isSign(*at)) ++at;
+  std::uint64_t digits = 0;
+  const char* const first = at;
+  const auto readDigits = [&] {
+    const char* const start = at;
+    for (; at != end && isDigit(*at); ++at) digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
+    return at - start;
+  };
+  readDigits();
+  std::ptrdiff_t power = 0;
+  if (at != end && *at == '.') {
+    ++at;
+    power = -readDigits();
+  }
+  if (at - first > kMostDigits || digits > std::uint64_t{1} << 53) return nullptr;
+  if (at != end && (*at | 0x20) == 'e') {
+    int exponent = 0;
+    const char* const number = skipPlus(at + 1, end);
+    const auto result = std::from_chars(number, end, exponent);
+    if (result.ec == std::errc::result_out_of_range || (number != at + 1 && *number == '-')) return nullptr;
+    if (result.ec == std::errc()) {
+      power += exponent;
+      at = result.ptr;
+    }
+  }
+  if (power < -kLargestPower || power > kLargestPower) return nullptr;
+  const auto whole = static_cast<double>(digits);
+  value = power < 0 ? whole / kPowers[-power] : whole * kPowers[power];
+  if (negative) value = -value;
+  return at;
+}
+
 // A whole decimal number without its optional exponent's mistakes; null when there is none. `tooLarge` replaces what
 // does not fit a double (what is too small becomes a signed zero, as with the C library).
 const char* readDecimal(const char* at, const char* end, double tooLarge, double& value) {
   if (!isDecimal(at, end)) return nullptr;
+  if (const char* after = readShortDecimal(at, end, value)) return after;
   const auto result = std::from_chars(skipPlus(at, end), end, value);
   if (result.ec == std::errc::invalid_argument) return nullptr;
   if (result.ec == std::errc::result_out_of_range) {

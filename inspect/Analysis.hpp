@@ -19,6 +19,8 @@ struct AnalysisOptions {
   bool wax = false;
   bool viscoelastic = false;
   bool repair = true;
+
+  bool operator==(const AnalysisOptions&) const = default;
 };
 
 /// The code of a molding type given by name (case does not matter) or number.

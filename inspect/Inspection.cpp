@@ -23,6 +23,27 @@ std::vector<BlockView> blocksOf(const CZEBKNCMPCompParm& set) {
   return views;
 }
 
+std::vector<BlockView> blocksOf(const CZEBKNCMXCompParm& set) {
+  const CZEBCMXInternalTool& tool = Inspection::tool(set);
+  std::vector<BlockView> views;
+  for (std::size_t i = 0; i < tool.sections().size(); ++i) {
+    const DispatchEntry& entry = tool.sections()[i];
+    views.push_back({std::string(entry.section->name), CZEBCMXInternalTool::tables()[i], entry.block});
+  }
+  return views;
+}
+
+std::vector<BlockView> blocksOf(const CZEBKNstdCMPCompParm& set) {
+  const StdParameters& parameters = Inspection::parameters(set);
+  const auto tables = StdParameters::tables();
+  std::vector<BlockView> views{{std::string(parameters.head().section->name), tables[0], parameters.head().block}};
+  for (std::size_t i = 0; i < parameters.sections().size(); ++i) {
+    const DispatchEntry& entry = parameters.sections()[i];
+    views.push_back({std::string(entry.section->name), tables[i + 1], entry.block});
+  }
+  return views;
+}
+
 std::string blockName(std::string_view className) {
   for (const std::string_view prefix : {"CZEBCMP_", "CZEBCMP", "CZEBCMX_", "CZEBCool", "CZEB"}) {
     if (!className.starts_with(prefix)) continue;

@@ -38,16 +38,6 @@ std::string Origin::text() const {
   return "default";
 }
 
-bool fills(const Row& announcing, const Row& row) {
-  const std::string_view names = announcing.fills, name = row.field.member;
-  for (auto at = names.find(name); at != names.npos; at = names.find(name, at + 1)) {
-    const bool starts = at == 0 || names[at - 1] == ' ';
-    const auto end = at + name.size();
-    if (starts && (end == names.size() || names[end] == ' ')) return true;
-  }
-  return false;
-}
-
 std::string valueOf(const Row& row, void* block) {
   const void* member = row.field.locate(block);
   switch (row.field.type) {

@@ -44,9 +44,6 @@ struct BlockSettings {
 /// The settings of the blocks, in the order of declaration. `provenance` may be null: then every origin is the default.
 std::vector<BlockSettings> settingsOf(const std::vector<BlockView>& blocks, const Provenance* provenance);
 
-/// Whether the list that `announcing` opens sets the member of `row`.
-bool fills(const Row& announcing, const Row& row);
-
 /// A member's value, exactly: doubles with as many digits as it takes to read them back unchanged.
 std::string valueOf(const Row& row, void* block);
 

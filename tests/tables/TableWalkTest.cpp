@@ -79,7 +79,8 @@ TEST_F(TableWalk, TheDumpVisitsTheBlocksInItsOwnOrder) {
 TEST_F(TableWalk, TheDispatchTestsTheOpeningsInTheirOrder) {
   std::vector<std::string> expected, actual;
   for (const TsvRow& row : zebtest::readTsv("dispatch.tsv")) {
-    if (row.at("row") != "1") expected.push_back(unquoted(row.at("opening")) + " " + row.at("class"));
+    const bool isHead = row.at("row") == "1";
+    expected.push_back(unquoted(row.at("opening")) + " " + (isHead ? "CZEBCMPIteratParm" : row.at("class")));
   }
   for (const zeb::DispatchEntry& entry : zeb::cmpSections(*zeb::Inspection::tool(set))) {
     const auto filled = [&](const BlockView& view) { return view.block == entry.block; };
@@ -347,6 +348,39 @@ TEST_F(TableWalk, EveryPositionalFieldStandsInItsPlace) {
       EXPECT_EQ(std::to_string(slots[i].at.field), rows[i].at("field"));
       EXPECT_EQ(slots[i].type == FieldType::kInt ? "d" : "lf", rows[i].at("scan"));
       EXPECT_EQ(slots[i].row == nullptr ? "-" : std::string(slots[i].row->field.getter), rows[i].at("getter"));
+    }
+  }
+}
+
+// Every place of a positional section, written with a number of its own, through the public getters.
+TEST_F(TableWalk, EveryPositionalFieldReachesItsGetter) {
+  std::map<std::string, std::vector<TsvRow>> defined;
+  for (const TsvRow& row : zebtest::readTsv("positional.tsv")) {
+    if (row.at("section") != "STDHEAD" && row.at("section") != "HEAD") defined[row.at("section")].push_back(row);
+  }
+  ASSERT_EQ(defined.size(), 3u);
+  for (const auto& [name, rows] : defined) {
+    SCOPED_TRACE(name);
+    const BlockView& view = block(rows.front().at("class"));
+    std::map<std::string, double> expected;
+    std::string text;
+    int line = 1;
+    for (const TsvRow& row : rows) {
+      const int at = std::stoi(row.at("line")), field = std::stoi(row.at("field"));
+      if (at > line) text += "\n";
+      line = at;
+      const Row* member = rowOfGetter(view, row.at("getter"));
+      ASSERT_NE(member, nullptr);
+      const double value = at == 1 ? member->field.get(view.block) : at * 100 + field;
+      text += std::to_string(static_cast<int>(value)) + " ";
+      expected[row.at("getter")] = value;
+    }
+    std::istringstream stream(text + "\n");
+    const zeb::LineSource serial;
+    zeb::LineReader lines(stream, serial, nullptr);
+    EXPECT_TRUE(zeb::readPositional(view.table->sections.front(), view.block, lines));
+    for (const auto& [getter, value] : expected) {
+      EXPECT_EQ(rowOfGetter(view, getter)->field.get(view.block), value) << getter;
     }
   }
 }

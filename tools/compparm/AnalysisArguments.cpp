@@ -42,6 +42,8 @@ std::string AnalysisArguments::problem() const {
   return {};
 }
 
+bool AnalysisArguments::isForCmpOnly() const { return options != zeb::AnalysisOptions(); }
+
 std::string AnalysisArguments::moldingName() const {
   return std::string(zeb::moldingTypes()[static_cast<std::size_t>(options.molding)].name);
 }

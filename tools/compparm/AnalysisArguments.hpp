@@ -16,6 +16,8 @@ struct AnalysisArguments {
   void addTo(CLI::App& command);
   /// Empty, or why the analysis cannot be read.
   std::string problem() const;
+  /// Whether an option differs from its default, so that the file must be a CMP file.
+  bool isForCmpOnly() const;
   /// "IM"
   std::string moldingName() const;
 };

@@ -1,12 +1,13 @@
-// compparm show: reads a file as a solver would and presents every block.
+// compparm show: reads a CMP or CMX file as a solver would and presents every block.
 #include <algorithm>
 #include <iostream>
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <sstream>
 
-#include "inspect/Analysis.hpp"
 #include "inspect/OutputCapture.hpp"
+#include "inspect/ParameterFile.hpp"
 #include "inspect/Provenance.hpp"
 #include "inspect/Settings.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
@@ -22,6 +23,7 @@ using Json = nlohmann::ordered_json;
 
 struct ShowArguments {
   AnalysisArguments analysis;
+  std::optional<zeb::FileKind> as;
   std::vector<std::string> blocks;
   bool changedOnly = false;
   bool raw = false;
@@ -30,12 +32,23 @@ struct ShowArguments {
 };
 
 struct Shown {
+  zeb::FileKind kind = zeb::FileKind::kCmp;
   std::vector<zeb::BlockSettings> blocks;
   std::string messages;  // what the library printed while it read
   std::string refusal;   // of the viscoelastic file
   int lines = 0;
   RankComparison ranks;
 };
+
+constexpr std::string_view kKindNames[] = {"cmp", "cmx", "std"};
+
+std::string_view kindName(zeb::FileKind kind) { return kKindNames[static_cast<int>(kind)]; }
+
+std::optional<zeb::FileKind> kindNamed(const std::string& name) {
+  const auto at = std::find(std::begin(kKindNames), std::end(kKindNames), name) - std::begin(kKindNames);
+  if (at == std::ssize(kKindNames)) return {};
+  return static_cast<zeb::FileKind>(at);
+}
 
 // Numbers and switches as JSON values; what JSON cannot say as a number (nan, inf), texts and lists as text.
 Json jsonValue(const zeb::Row& row, const std::string& text) {
@@ -74,10 +87,12 @@ void printJson(const ShowArguments& arguments, const Shown& shown) {
     }
     blocks.push_back({{"block", block.name}, {"class", block.table->className}, {"members", std::move(members)}});
   }
-  Json document = {{"file", arguments.analysis.file},
-                   {"molding", arguments.analysis.moldingName()},
-                   {"material", arguments.analysis.options.material},
-                   {"blocks", std::move(blocks)}};
+  Json document = {{"file", arguments.analysis.file}, {"kind", kindName(shown.kind)}};
+  if (shown.kind == zeb::FileKind::kCmp) {
+    document["molding"] = arguments.analysis.moldingName();
+    document["material"] = arguments.analysis.options.material;
+  }
+  document["blocks"] = std::move(blocks);
   if (shown.ranks.ranks > 1) {
     document["ranks"] = {{"count", shown.ranks.ranks}, {"same", shown.ranks.same()}};
     if (!shown.ranks.same()) document["ranks"]["difference"] = shown.ranks.difference;
@@ -115,12 +130,18 @@ void printBlock(const zeb::BlockSettings& block) {
   std::cout << '\n';
 }
 
+std::string readAs(const AnalysisArguments& analysis, zeb::FileKind kind) {
+  if (kind == zeb::FileKind::kCmx) return "analysis settings (CMX)";
+  if (kind == zeb::FileKind::kStd) return "as the standard solver reads it";
+  const auto& options = analysis.options;
+  return "molding type " + analysis.moldingName() + ", material type " + std::to_string(options.material) +
+         (options.wax ? ", wax" : "") + (options.viscoelastic ? ", viscoelastic" : "") +
+         (options.repair ? "" : ", not repaired");
+}
+
 void printText(const ShowArguments& arguments, const Shown& shown) {
-  const auto& options = arguments.analysis.options;
-  std::cout << coloured(Colour::kBold, arguments.analysis.file) << "  " << shown.lines << " lines, molding type "
-            << arguments.analysis.moldingName() << ", material type " << options.material
-            << (options.wax ? ", wax" : "") << (options.viscoelastic ? ", viscoelastic" : "")
-            << (options.repair ? "" : ", not repaired") << "\n\n";
+  std::cout << coloured(Colour::kBold, arguments.analysis.file) << "  " << shown.lines << " lines, "
+            << readAs(arguments.analysis, shown.kind) << "\n\n";
   std::size_t changed = 0;
   for (const zeb::BlockSettings& block : shown.blocks) {
     if (!block.settings.empty()) printBlock(block);
@@ -146,8 +167,8 @@ void printText(const ShowArguments& arguments, const Shown& shown) {
   }
 }
 
-std::vector<zeb::BlockView> chosenBlocks(const ShowArguments& arguments, const CZEBKNCMPCompParm& set) {
-  std::vector<zeb::BlockView> blocks = zeb::blocksOf(set);
+std::vector<zeb::BlockView> chosenBlocks(const ShowArguments& arguments, const zeb::ParameterFile& set) {
+  std::vector<zeb::BlockView> blocks = set.blocks();
   if (arguments.blocks.empty()) return blocks;
   std::erase_if(blocks, [&](const zeb::BlockView& block) {
     return std::none_of(arguments.blocks.begin(), arguments.blocks.end(),
@@ -156,8 +177,8 @@ std::vector<zeb::BlockView> chosenBlocks(const ShowArguments& arguments, const C
   return blocks;
 }
 
-std::string unknownBlock(const ShowArguments& arguments, const CZEBKNCMPCompParm& set) {
-  const std::vector<zeb::BlockView> blocks = zeb::blocksOf(set);
+std::string unknownBlock(const ShowArguments& arguments, const zeb::ParameterFile& set) {
+  const std::vector<zeb::BlockView> blocks = set.blocks();
   for (const std::string& name : arguments.blocks) {
     if (std::none_of(blocks.begin(), blocks.end(), [&](const auto& block) { return zeb::isNamed(block, name); }))
       return name;
@@ -167,17 +188,17 @@ std::string unknownBlock(const ShowArguments& arguments, const CZEBKNCMPCompParm
 
 // Reads on this rank and, where wanted, on others; afterwards `provenance` knows where this rank's values came from.
 struct Reading {
-  std::unique_ptr<CZEBKNCMPCompParm> set;
+  zeb::ParameterFile set;
   RankComparison ranks;
 };
 
-Reading read(const ShowArguments& arguments, const MpiRun* mpi, zeb::Provenance& provenance) {
+Reading read(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* mpi, zeb::Provenance& provenance) {
   Reading reading;
   const auto& analysis = arguments.analysis;
   const auto onRank = [&](CZEBCom& com) {
     zeb::ReadObserver* observer = com.GetCPUId() == 0 ? &provenance : nullptr;
-    auto set = zeb::analyse(analysis.file, analysis.options, &com, observer);
-    std::string values = zeb::fingerprint(zeb::blocksOf(*set));
+    auto set = zeb::readParameterFile(analysis.file, kind, analysis.options, &com, observer);
+    std::string values = zeb::fingerprint(set.blocks());
     if (com.GetCPUId() == 0) reading.set = std::move(set);
     return values;
   };
@@ -186,30 +207,41 @@ Reading read(const ShowArguments& arguments, const MpiRun* mpi, zeb::Provenance&
   } else if (arguments.ranks > 1) {
     reading.ranks = compareThreads(arguments.ranks, onRank);
   } else {
-    reading.set = zeb::analyse(analysis.file, analysis.options, nullptr, &provenance);
+    reading.set = zeb::readParameterFile(analysis.file, kind, analysis.options, nullptr, &provenance);
   }
   return reading;
 }
 
-int show(const ShowArguments& arguments, const MpiRun* mpi) {
+// The standard solver's reader echoes every line that it shares, whatever the print level.
+std::string withoutLineEcho(const std::string& text) {
+  std::string kept;
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    if (!line.starts_with(" - CPUID:")) kept += line + '\n';
+  }
+  return kept;
+}
+
+int show(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* mpi) {
   zeb::Provenance provenance;
   Reading reading;
   Shown shown;
   {
     const zeb::OutputCapture capture;
-    reading = read(arguments, mpi, provenance);
-    shown.messages = capture.text();
+    reading = read(arguments, kind, mpi, provenance);
+    shown.messages = kind == zeb::FileKind::kStd ? withoutLineEcho(capture.text()) : capture.text();
   }
   const int exitCode = reading.ranks.same() ? kClean : kFindings;
   if (mpi != nullptr && mpi->rank() != 0) return exitCode;
-  const std::string unknown = unknownBlock(arguments, *reading.set);
+  const std::string unknown = unknownBlock(arguments, reading.set);
   if (!unknown.empty()) return fail("no block or section is named " + unknown);
   if (arguments.raw) {
-    reading.set->OutputParameters();
+    reading.set.cmp->OutputParameters();
     if (!reading.ranks.same()) return fail("the ranks differ: " + reading.ranks.difference), kFindings;
     return exitCode;
   }
-  shown.blocks = zeb::settingsOf(chosenBlocks(arguments, *reading.set), &provenance);
+  shown.blocks = zeb::settingsOf(chosenBlocks(arguments, reading.set), &provenance);
+  shown.kind = kind;
   shown.lines = provenance.linesRead();
   shown.ranks = reading.ranks;
   shown.refusal = provenance.refusal();
@@ -223,39 +255,58 @@ int show(const ShowArguments& arguments, const MpiRun* mpi) {
 }
 
 // Decided before the ranks of an mpirun meet, so that all of them stop.
-int check(const ShowArguments& arguments) {
+int check(const ShowArguments& arguments, zeb::FileKind& kind) {
   const std::string problem = arguments.analysis.problem();
-  return problem.empty() ? kClean : fail(problem);
+  if (!problem.empty()) return fail(problem);
+  const std::string& file = arguments.analysis.file;
+  kind = arguments.as.value_or(zeb::recogniseKind(file).value_or(zeb::FileKind::kCmp));
+  if (kind == zeb::FileKind::kCmp) return kClean;
+  const std::string reader = kind == zeb::FileKind::kCmx ? "a CMX file" : "the standard solver";
+  if (arguments.raw) return fail(file + ": the library has no dump for " + reader + ", so --raw cannot be had");
+  if (arguments.analysis.isForCmpOnly()) {
+    return fail(file + ": --molding, --material, --wax, --viscoelastic and --no-repair have no meaning for " + reader);
+  }
+  return kClean;
 }
 
 int run(const ShowArguments& arguments) {
+  zeb::FileKind kind = zeb::FileKind::kCmp;
   if (!MpiRun::isPresent()) {
-    const int exitCode = check(arguments);
-    return exitCode == kClean ? show(arguments, nullptr) : exitCode;
+    const int exitCode = check(arguments, kind);
+    return exitCode == kClean ? show(arguments, kind, nullptr) : exitCode;
   }
   const MpiRun mpi;
   if (!mpi.error().empty()) return fail(mpi.error());
   // Rank 0 alone looks at the file: it is the one that reads it.
-  int exitCode = mpi.rank() == 0 ? check(arguments) : kClean;
+  int exitCode = mpi.rank() == 0 ? check(arguments, kind) : kClean;
   mpi.communicator()->Broadi(exitCode);
-  return exitCode == kClean ? show(arguments, &mpi) : exitCode;
+  int shared = static_cast<int>(kind);
+  mpi.communicator()->Broadi(shared);
+  return exitCode == kClean ? show(arguments, static_cast<zeb::FileKind>(shared), &mpi) : exitCode;
 }
 
 }  // namespace
 
 void addShow(CLI::App& app, int& exitCode) {
   const auto arguments = std::make_shared<ShowArguments>();
-  CLI::App* command = app.add_subcommand("show", "Read a CMP file as a solver would and show every block");
+  CLI::App* command = app.add_subcommand("show", "Read a CMP or CMX file as a solver would and show every block");
   arguments->analysis.addTo(*command);
   command
+      ->add_option_function<std::string>(
+          "--as", [arguments](const std::string& name) { arguments->as = kindNamed(name); },
+          "Read the file as cmp, cmx or std (what the standard solver sees of a CMP file); default: what its first "
+          "block tag or section says")
+      ->check(CLI::IsMember({"cmp", "cmx", "std"}))
+      ->type_name("KIND");
+  command
       ->add_option("--block", arguments->blocks,
-                   "Only these blocks: block, class or section names (General, FIBER_ARD)")
+                   "Only these blocks: block, class or section names (General, FIBER_ARD, SOLID_FILL)")
       ->type_name("NAME");
   command->add_flag("--changed", arguments->changedOnly, "Only members that differ from their default");
   command->add_option("--ranks", arguments->ranks, "Read on N in-process ranks and compare them value by value")
       ->check(CLI::Range(1, 512))
       ->type_name("N");
-  auto* raw = command->add_flag("--raw", arguments->raw, "The library's own dump, byte for byte");
+  auto* raw = command->add_flag("--raw", arguments->raw, "The library's own dump of a CMP file, byte for byte");
   command
       ->add_option_function<std::string>(
           "--format", [arguments](const std::string& format) { arguments->json = format == "json"; }, "text or json")

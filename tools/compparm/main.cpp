@@ -14,6 +14,9 @@ int main(int argc, char** argv) {
   app.footer(
       "Examples:\n"
       "  compparm show part.cmp                       every block, with defaults and origins\n"
+      "  compparm show part.cmx                       the analysis settings\n"
+      "  compparm schedule part.cmx --fill-time 1.2 --split 10    when filling writes results\n"
+      "  compparm material pa66-gf30 --folder materials           a material as every rank holds it\n"
       "  compparm show part.cmp --changed             only what differs from the default\n"
       "  compparm show part.cmp --molding RTM --material 1 --block General Outlet\n"
       "  compparm show part.cmp --ranks 8             read on 8 ranks and compare them value by value\n"
@@ -21,6 +24,13 @@ int main(int argc, char** argv) {
       "Exit codes: 0 clean, 1 findings or differences, 2 error.");
   int exitCode = compparm::kClean;
   compparm::addShow(app, exitCode);
+  compparm::addCheck(app, exitCode);
+  compparm::addSchedule(app, exitCode);
+  compparm::addMaterial(app, exitCode);
+  compparm::addExplain(app, exitCode);
+  compparm::addDiff(app, exitCode);
+  compparm::addTemplate(app, exitCode);
+  compparm::addList(app, exitCode);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -1,0 +1,283 @@
+#include "inspect/Catalogue.hpp"
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <numeric>
+
+#include "cmx/CZEBCMXInternalTool.hpp"
+#include "inspect/Inspection.hpp"
+#include "inspect/Settings.hpp"
+
+namespace zeb {
+
+namespace {
+
+std::string number(double value) {
+  char text[40];
+  return {text, std::to_chars(text, text + sizeof text, value).ptr};
+}
+
+std::string lower(std::string_view text) {
+  std::string result(text);
+  std::transform(result.begin(), result.end(), result.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return result;
+}
+
+void addTable(std::vector<CatalogueEntry>& entries, std::string_view format, const BlockTable& table) {
+  void* defaults = table.create();
+  for (const Section& section : table.sections) {
+    for (const Row& row : section.rows) {
+      entries.push_back({format, blockName(table.className), &table, &section, &row, valueOf(row, defaults)});
+    }
+  }
+  table.destroy(defaults);
+}
+
+std::string replacementText(const Replacement& replacement) {
+  const std::string limit = number(replacement.limit), becomes = " becomes " + number(replacement.value);
+  switch (replacement.when) {
+    case Replacement::When::kNever:
+      break;
+    case Replacement::When::kBelow:
+      return "below " + limit + becomes;
+    case Replacement::When::kAbove:
+      return "above " + limit + becomes;
+    case Replacement::When::kAtMost:
+      return "at most " + limit + becomes;
+    case Replacement::When::kNotAbove:
+      return "not above " + limit + becomes;
+    case Replacement::When::kEqual:
+      return limit + becomes;
+    case Replacement::When::kTruncatesTo0:
+      return "between -1 and 1" + becomes;
+    case Replacement::When::kAlways:
+      return "always" + becomes;
+  }
+  return {};
+}
+
+// Whether the reader tests the row's key behind the section's gate.
+bool isGated(const Section& section, const Row& row) {
+  if (section.gate < 0) return false;
+  const auto gate = static_cast<std::size_t>(section.gate);
+  for (std::size_t key = gate + 1; key < section.readingOrder.size(); ++key) {
+    if (&section.rows[section.readingOrder[key]] == &row) return true;
+  }
+  return false;
+}
+
+bool fits(std::string_view a, std::string_view b, bool withCase) { return withCase ? a == b : equalWithoutCase(a, b); }
+
+bool isCalled(const Row& row, std::string_view name, bool withCase) {
+  if (name.empty()) return false;
+  return fits(row.key, name, withCase) || fits(row.otherKey, name, withCase) ||
+         fits(row.field.member, name, withCase) || fits(row.field.getter, name, withCase);
+}
+
+bool isCalled(const CatalogueEntry& entry, std::string_view name, bool withCase) {
+  if (isCalled(*entry.row, name, withCase)) return true;
+  const auto dot = name.find('.');
+  if (dot == name.npos) return false;
+  const std::string_view owner = name.substr(0, dot);
+  const bool owns = fits(entry.block, owner, withCase) || fits(entry.table->className, owner, withCase) ||
+                    fits(entry.section->name, owner, withCase);
+  return owns && isCalled(*entry.row, name.substr(dot + 1), withCase);
+}
+
+// Insertions, deletions, substitutions and swaps of neighbours that turn one text into the other; letters count
+// without their case.
+std::size_t distance(std::string_view from, std::string_view to) {
+  const std::string a = lower(from), b = lower(to);
+  std::vector<std::size_t> beforeLast, last(b.size() + 1), row(b.size() + 1);
+  std::iota(last.begin(), last.end(), std::size_t{0});
+  for (std::size_t i = 1; i <= a.size(); ++i) {
+    row[0] = i;
+    for (std::size_t j = 1; j <= b.size(); ++j) {
+      const std::size_t cost = a[i - 1] == b[j - 1] ? 0 : 1;
+      row[j] = std::min({row[j - 1] + 1, last[j] + 1, last[j - 1] + cost});
+      const bool swapped = i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1];
+      if (swapped) row[j] = std::min(row[j], beforeLast[j - 2] + 1);
+    }
+    beforeLast = last;
+    last = row;
+  }
+  return last[b.size()];
+}
+
+std::string searchText(const CatalogueEntry& entry) {
+  std::string text;
+  const std::string type = typeText(*entry.row), rules = joined(ruleTexts(entry));
+  for (const std::string_view part :
+       {entry.format, entry.sectionText(), std::string_view(entry.block), entry.table->className, entry.row->key,
+        entry.row->otherKey, entry.row->field.member, entry.row->field.getter, std::string_view(type), entry.row->unit,
+        std::string_view(rules), entry.row->doc}) {
+    text += lower(part) + '\n';
+  }
+  return text;
+}
+
+std::string cell(std::string_view text) {
+  std::string result;
+  for (const char c : text) {
+    if (c == '|' || c == '<' || c == '*' || c == '_') result += '\\';
+    result += c;
+  }
+  return result;
+}
+
+std::string code(std::string_view text) { return text.empty() ? "" : "`" + std::string(text) + "`"; }
+
+std::string keyCell(const Row& row) {
+  if (!row.otherKey.empty()) return code(row.key) + " or " + code(row.otherKey);
+  return row.key.empty() ? positionText(row) : code(row.key);
+}
+
+}  // namespace
+
+std::string_view CatalogueEntry::sectionText() const { return section->open.empty() ? section->name : section->open; }
+
+std::string CatalogueEntry::name() const { return block + "." + std::string(row->field.member); }
+
+const std::vector<CatalogueEntry>& catalogue() {
+  static const std::vector<CatalogueEntry> kEntries = [] {
+    std::vector<CatalogueEntry> entries;
+    for (const BlockEntry& block : allBlocks()) addTable(entries, "CMP", block.table());
+    for (const BlockTable* table : CZEBCMXInternalTool::tables()) addTable(entries, "CMX", *table);
+    return entries;
+  }();
+  return kEntries;
+}
+
+std::vector<const CatalogueEntry*> searchCatalogue(const std::vector<std::string>& words) {
+  std::vector<const CatalogueEntry*> found;
+  for (const CatalogueEntry& entry : catalogue()) {
+    const std::string text = searchText(entry);
+    const auto stands = [&](const std::string& word) { return text.find(lower(word)) != text.npos; };
+    if (std::all_of(words.begin(), words.end(), stands)) found.push_back(&entry);
+  }
+  return found;
+}
+
+std::vector<const CatalogueEntry*> findEntries(std::string_view name, std::string_view format) {
+  std::vector<const CatalogueEntry*> found;
+  for (const bool withCase : {true, false}) {
+    for (const CatalogueEntry& entry : catalogue()) {
+      if (entry.format == format && isCalled(entry, name, withCase)) found.push_back(&entry);
+    }
+    if (!found.empty()) break;
+  }
+  return found;
+}
+
+std::vector<std::string> nearestNames(std::string_view name, std::string_view format, std::size_t most) {
+  const auto dot = name.rfind('.');
+  const std::string_view last = dot == name.npos ? name : name.substr(dot + 1);
+  std::vector<std::pair<std::size_t, std::string>> candidates;
+  for (const CatalogueEntry& entry : catalogue()) {
+    if (entry.format != format) continue;
+    for (const std::string_view candidate : {entry.row->key, entry.row->otherKey, entry.row->field.member}) {
+      if (!candidate.empty()) candidates.emplace_back(distance(last, candidate), candidate);
+    }
+  }
+  std::sort(candidates.begin(), candidates.end());
+  candidates.erase(std::unique(candidates.begin(), candidates.end()), candidates.end());
+  const std::size_t farthest = std::max<std::size_t>(2, last.size() / 3);
+  std::vector<std::string> names;
+  for (const auto& [steps, candidate] : candidates) {
+    if (steps <= farthest && names.size() < most) names.push_back(candidate);
+  }
+  return names;
+}
+
+std::string typeText(const Row& row) {
+  if (row.lookup == Lookup::kPresence) return "presence";
+  if (row.store != nullptr) return "double";
+  switch (row.field.type) {
+    case FieldType::kInt:
+      return "int";
+    case FieldType::kDouble:
+      return row.lookup == Lookup::kInt ? "double (read as int)" : "double";
+    case FieldType::kBool:
+      return "switch";
+    case FieldType::kText:
+      return row.lookup == Lookup::kWord ? "word" : "text";
+    case FieldType::kInts:
+      return "ints";
+    case FieldType::kDoubles:
+      return "doubles";
+    case FieldType::kNone:
+      break;
+  }
+  return {};
+}
+
+std::vector<std::string> ruleTexts(const CatalogueEntry& entry) { return ruleTexts(*entry.section, *entry.row); }
+
+std::vector<std::string> ruleTexts(const Section& section, const Row& row) {
+  std::vector<std::string> texts;
+  if (row.rule.scale != 1.0) texts.push_back("times " + number(row.rule.scale));
+  for (const Replacement& replacement : row.rule.replace) {
+    if (replacement.when != Replacement::When::kNever) texts.push_back(replacementText(replacement));
+  }
+  if (row.longestText > 0) texts.push_back("cut to " + std::to_string(row.longestText) + " characters");
+  if (row.gateBelow != kNoGate) {
+    texts.push_back("gate: below " + std::to_string(row.gateBelow) + " the section's gated keys are skipped");
+  }
+  if (isGated(section, row)) {
+    const Row& gate = section.rows[section.readingOrder[static_cast<std::size_t>(section.gate)]];
+    texts.push_back("gated by " + std::string(gate.key));
+  }
+  if (row.count) texts.push_back("count, 0 to " + std::to_string(kLargestCount));
+  if (!row.fills.empty()) texts.push_back("list: sets " + std::string(row.fills));
+  if (!row.echo.label.empty()) texts.push_back("printed when stored");
+  return texts;
+}
+
+std::string positionText(const Row& row) {
+  std::string text;
+  for (const Position at : row.at) {
+    if (at.line == 0) continue;
+    if (!text.empty()) text += ", then ";
+    text += "line " + std::to_string(at.line) + ", field " + std::to_string(at.field);
+  }
+  return text;
+}
+
+std::string joined(const std::vector<std::string>& phrases) {
+  std::string text;
+  for (const std::string& phrase : phrases) text += (text.empty() ? "" : "; ") + phrase;
+  return text;
+}
+
+std::string catalogueMarkdown() { return catalogueMarkdown(searchCatalogue({})); }
+
+std::string catalogueMarkdown(const std::vector<const CatalogueEntry*>& entries) {
+  std::string text =
+      "# Parameters\n\n"
+      "Written by `compparm list --format markdown`. Do not edit: a test compares it with the tables of the reader.\n\n"
+      "Units and meanings that the solver defines are not told here. Defaults are values inside the program, after\n"
+      "the rules (\"times 1e+07\") have been applied to what stands in a file.\n";
+  std::string_view format;
+  const Section* section = nullptr;
+  for (const CatalogueEntry* entry : entries) {
+    if (entry->format != format) {
+      format = entry->format;
+      text += "\n## " + std::string(format) + " files\n";
+    }
+    if (entry->section != section) {
+      section = entry->section;
+      const std::string_view name = entry->sectionText();
+      text += "\n### " + (name.empty() ? "Without section" : code(name)) + " (" + entry->block + ")\n\n" +
+              "| Key | Member | Type | Default | Unit | Rules | Description |\n|---|---|---|---|---|---|---|\n";
+    }
+    const Row& row = *entry->row;
+    text += "| " + keyCell(row) + " | " + code(row.field.member) + " | " + typeText(row) + " | " +
+            cell(entry->defaultValue) + " | " + cell(row.unit) + " | " + cell(joined(ruleTexts(*entry))) + " | " +
+            cell(row.doc) + " |\n";
+  }
+  return text;
+}
+
+}  // namespace zeb

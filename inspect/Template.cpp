@@ -1,0 +1,317 @@
+// Keys match anywhere in a line of their section, comments included, so descriptions stand in front of the opening,
+// without brackets. Whether a line may be written is not reasoned about: the reader tries it on a fresh block.
+#include "inspect/Template.hpp"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <memory>
+#include <sstream>
+
+#include "cmx/CZEBCMXInternalTool.hpp"
+#include "frame/CMPReader.hpp"
+#include "frame/MoldingTypes.hpp"
+#include "frame/ReadObserver.hpp"
+#include "frame/Repairs.hpp"
+#include "frame/SectionEngine.hpp"
+#include "inspect/Catalogue.hpp"
+#include "inspect/OutputCapture.hpp"
+#include "inspect/Settings.hpp"
+
+namespace zeb {
+
+namespace {
+
+struct Part {
+  const BlockTable* table;
+  const Section* section;
+};
+
+std::vector<Part> partsOf(bool cmx) {
+  std::vector<Part> parts;
+  const auto add = [&](const BlockTable& table, const Section* section) {
+    for (const Section& own : table.sections) {
+      if (&own == section) parts.push_back({&table, section});
+    }
+  };
+  if (cmx) {
+    for (const BlockTable* table : CZEBCMXInternalTool::tables()) parts.push_back({table, &table->sections.front()});
+    return parts;
+  }
+  const BlockTable& head = tableOf<CZEBCMPIteratParm>();
+  parts.push_back({&head, &head.sections.front()});
+  const auto tool = moldingTypes().front().create();
+  for (const DispatchEntry& entry : cmpSections(*tool)) {
+    for (const BlockEntry& block : allBlocks()) add(block.table(), entry.section);
+  }
+  return parts;
+}
+
+bool isNamed(const Part& part, const std::string& name) {
+  return equalWithoutCase(part.section->name, name) || equalWithoutCase(part.section->open, name) ||
+         equalWithoutCase(blockName(part.table->className), name) || equalWithoutCase(part.table->className, name);
+}
+
+// A block for trying lines out.
+class Trial {
+ public:
+  explicit Trial(const BlockTable& table) : m_table(table), m_block(table.create()) {}
+  Trial(const Trial&) = delete;
+  Trial& operator=(const Trial&) = delete;
+  ~Trial() { m_table.destroy(m_block); }
+  void* block() const { return m_block; }
+
+ private:
+  const BlockTable& m_table;
+  void* m_block;
+};
+
+struct ListWatch final : ReadObserver {
+  bool tookLine = false;
+  void lineOfList(const Section& /*section*/, int /*number*/, std::string_view /*line*/, bool /*used*/) override {
+    tookLine = true;
+  }
+};
+
+// Whether the section keeps its defaults when the rows' key stands in it with this line. Other members that the line
+// sets have keys that are part of this one; their own lines follow it.
+bool keepsDefaults(const Part& part, const std::vector<const Row*>& rows, const std::string& line) {
+  const Trial before(*part.table), after(*part.table);
+  std::istringstream text(line + "\nfollowing line\n" + std::string(part.section->close) + "\n");
+  const LineSource source{};
+  ListWatch watch;
+  LineReader lines(text, source, &watch);
+  readSection(*part.section, after.block(), lines);
+  const auto kept = [&](const Row& row) { return valueOf(row, before.block()) == valueOf(row, after.block()); };
+  for (const Row* row : rows) {
+    if (!kept(*row)) return false;
+    for (const Row& other : part.section->rows) {
+      if (fills(*row, other) && !kept(other)) return false;
+    }
+  }
+  return !watch.tookLine;
+}
+
+std::string shortest(double value) {
+  char text[40];
+  return {text, std::to_chars(text, text + sizeof text, value).ptr};
+}
+
+// The texts that the rule may turn into the member's value, the likeliest first.
+std::vector<std::string> textsFor(const Row& row, FieldType type, void* block) {
+  std::vector<double> numbers;
+  const bool isInt = row.field.type == FieldType::kInt;
+  if (!isInt && row.field.type != FieldType::kDouble) return {};
+  const void* member = row.field.locate(block);
+  const double value = isInt ? *static_cast<const int*>(member) : *static_cast<const double*>(member);
+  const double plain = value / row.rule.scale;
+  numbers.push_back(plain);
+  // Scaling rounds: one of the neighbours may hit the value where the quotient does not.
+  numbers.push_back(std::nextafter(plain, -INFINITY));
+  numbers.push_back(std::nextafter(plain, INFINITY));
+  for (const Replacement& replacement : row.rule.replace) {
+    if (replacement.value == value) numbers.push_back(replacement.limit);
+  }
+  std::vector<std::string> texts;
+  for (const double number : numbers) {
+    if (row.rule.apply(number) != value) continue;
+    const bool asInt = type == FieldType::kInt || row.lookup == Lookup::kInt;
+    if (asInt && number != std::trunc(number)) continue;
+    texts.push_back(asInt ? std::to_string(static_cast<long>(number)) : shortest(number));
+  }
+  return texts;
+}
+
+std::string textOf(const Row& row, void* block) {
+  if (row.field.type != FieldType::kText) return {};
+  const char* text = static_cast<const OwnedText*>(row.field.locate(block))->get();
+  return text == nullptr ? "" : text;
+}
+
+struct KeyLine {
+  std::string_view key;
+  std::vector<const Row*> rows;
+  std::string line;  // empty: nothing that can be written stands for the default
+};
+
+std::vector<std::string> candidates(const Row& row, void* block) {
+  if (row.lookup == Lookup::kPresence) return {};
+  if (row.store != nullptr) return {"0"};
+  if (const std::string text = textOf(row, block); !text.empty()) return {text};
+  return textsFor(row, row.field.type, block);
+}
+
+std::vector<KeyLine> keyLines(const Part& part) {
+  const Trial defaults(*part.table);
+  std::vector<KeyLine> lines;
+  for (const Row& row : part.section->rows) {
+    if (row.key.empty()) continue;
+    const auto same =
+        std::find_if(lines.begin(), lines.end(), [&](const KeyLine& line) { return line.key == row.key; });
+    if (same != lines.end()) {
+      same->rows.push_back(&row);
+    } else {
+      lines.push_back({row.key, {&row}, {}});
+    }
+  }
+  for (KeyLine& line : lines) {
+    for (const std::string& text : candidates(*line.rows.front(), defaults.block())) {
+      const std::string tried = std::string(line.key) + " = " + text;
+      if (!keepsDefaults(part, line.rows, tried)) continue;
+      line.line = tried;
+      break;
+    }
+  }
+  return lines;
+}
+
+bool sets(const KeyLine& line, const KeyLine& other) {
+  if (&line == &other) return false;
+  const auto stands = [&](std::string_view key) { return !key.empty() && line.key.find(key) != line.key.npos; };
+  return stands(other.key) || stands(other.rows.front()->otherKey);
+}
+
+// A key that is part of a longer one is set by the longer one's line too: its own line must follow.
+std::vector<const KeyLine*> writingOrder(const std::vector<KeyLine>& lines) {
+  std::vector<const KeyLine*> waiting, order;
+  for (const KeyLine& line : lines) waiting.push_back(&line);
+  while (!waiting.empty()) {
+    const auto next = std::find_if(waiting.begin(), waiting.end(), [&](const KeyLine* candidate) {
+      return std::none_of(waiting.begin(), waiting.end(),
+                          [&](const KeyLine* other) { return sets(*other, *candidate); });
+    });
+    order.push_back(*next);
+    waiting.erase(next);
+  }
+  return order;
+}
+
+// No bracket may stand in a comment: a line that holds an opening anywhere opens the section.
+std::string withoutBrackets(std::string text) {
+  const auto replace = [&](std::string_view from, std::string_view to) {
+    for (auto at = text.find(from); at != text.npos; at = text.find(from, at + to.size())) {
+      text.replace(at, from.size(), to);
+    }
+  };
+  replace("[", "(");
+  replace("]", ")");
+  replace("<=", "at most");
+  replace(">=", "at least");
+  replace("<", "below ");
+  replace(">", "above ");
+  replace("=", "is");
+  return text;
+}
+
+std::string description(const Part& part, const Row& row, std::string_view name, const std::string& note) {
+  const Trial defaults(*part.table);
+  std::string text = "#   " + std::string(name);
+  if (!row.otherKey.empty()) text += " or " + std::string(row.otherKey);
+  text += " (" + typeText(row) + ", default " + valueOf(row, defaults.block());
+  if (!row.unit.empty()) text += " " + std::string(row.unit);
+  text += "): " + std::string(row.doc);
+  const std::string rules = joined(ruleTexts(*part.section, row));
+  if (!rules.empty()) text += " Rules: " + rules + ".";
+  return withoutBrackets(text + note) + "\n";
+}
+
+std::string repairComments(const Part& part, const TemplateOptions& options) {
+  std::string text;
+  const auto add = [&](std::span<const RepairStep> steps) {
+    for (const RepairStep& step : steps) {
+      for (const Repair& repair : step.repairs) {
+        for (const Row& row : part.section->rows) {
+          const bool same = &repair.block.table() == part.table && row.field.member == repair.field.member;
+          if (!same || row.key.empty()) continue;
+          Row changed;
+          changed.rule = repair.rule;
+          text += withoutBrackets("#   Changed after reading: " + std::string(row.key) + " (" +
+                                  std::string(step.condition) + "): " + joined(ruleTexts(*part.section, changed))) +
+                  "\n";
+        }
+      }
+    }
+  };
+  if (options.molding) add(moldingRepairs(*options.molding));
+  if (!options.cmx) add(commonRepairs());
+  return text;
+}
+
+std::string keyedPart(const Part& part) {
+  const std::vector<KeyLine> lines = keyLines(part);
+  std::string comment, body;
+  for (const KeyLine& line : lines) {
+    const std::string note = line.line.empty() ? " Not written below: no line stands for the default." : "";
+    for (const Row* row : line.rows) comment += description(part, *row, line.key, note);
+  }
+  for (const KeyLine* line : writingOrder(lines)) {
+    if (!line->line.empty()) body += line->line + "\n";
+  }
+  return comment + std::string(part.section->open) + "\n" + body + std::string(part.section->close) + "\n";
+}
+
+std::string fieldText(const Slot& slot, void* block) {
+  if (slot.row == nullptr) return "0";
+  const std::vector<std::string> texts = textsFor(*slot.row, slot.type, block);
+  return texts.empty() ? "0" : texts.front();
+}
+
+std::string positionalPart(const Part& part, bool isHead) {
+  const Section& section = *part.section;
+  const Trial defaults(*part.table);
+  std::string comment, body;
+  for (int line = 1; line <= section.positional.lines; ++line) {
+    std::string fields, names;
+    for (const Slot& slot : section.positional.slots) {
+      if (slot.at.line != line) continue;
+      fields += (fields.empty() ? "" : " ") + fieldText(slot, defaults.block());
+      const std::string place = "line " + std::to_string(line) + " field " + std::to_string(slot.at.field);
+      if (slot.row == nullptr) {
+        comment += "#   " + place + ": not used\n";
+      } else {
+        comment += description(part, *slot.row, place + " " + std::string(slot.row->field.member), "");
+      }
+    }
+    body += (fields.empty() ? "# this line is counted and not used" : fields) + "\n";
+  }
+  if (isHead) return comment + "[VER] 1023\n" + body;
+  return comment + std::string(section.open) + "\n" + body + std::string(section.close) + "\n";
+}
+
+std::string partText(const Part& part, const TemplateOptions& options) {
+  const bool isHead = part.table == &tableOf<CZEBCMPIteratParm>();
+  std::string text = "# " + (isHead ? "Fixed-line head" : std::string(part.section->name)) + " (" +
+                     blockName(part.table->className) + ")\n";
+  text += repairComments(part, options);
+  return text + (part.section->isPositional() ? positionalPart(part, isHead) : keyedPart(part));
+}
+
+}  // namespace
+
+std::string unknownTemplateSection(const TemplateOptions& options) {
+  const std::vector<Part> parts = partsOf(options.cmx);
+  for (const std::string& name : options.sections) {
+    if (std::none_of(parts.begin(), parts.end(), [&](const Part& part) { return isNamed(part, name); })) return name;
+  }
+  return {};
+}
+
+std::string templateText(const TemplateOptions& options) {
+  const OutputCapture discarded;
+  std::string text = options.cmx ? "# CMX file with all defaults.\n" : "# CMP file with all defaults.\n";
+  if (options.molding) {
+    text += "# Molding type " + std::string(moldingTypes()[static_cast<std::size_t>(*options.molding)].name) + ".\n";
+  }
+  text +=
+      "# Text between the sections is ignored. Inside a section keys match anywhere in a line: write no comments "
+      "there.\n";
+  for (const Part& part : partsOf(options.cmx)) {
+    const bool wanted =
+        options.sections.empty() || std::any_of(options.sections.begin(), options.sections.end(),
+                                                [&](const std::string& name) { return isNamed(part, name); });
+    if (wanted) text += "\n" + partText(part, options);
+  }
+  return text;
+}
+
+}  // namespace zeb

@@ -1,0 +1,23 @@
+// A parameter file to start from: every key with its default, described, and read back to exactly the defaults.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zeb {
+
+struct TemplateOptions {
+  std::optional<int> molding;         ///< 0 to 14: tells which members this molding type changes after reading
+  std::vector<std::string> sections;  ///< section or block names, "VER" for the fixed-line head; empty: all
+  bool cmx = false;
+};
+
+/// The file's text. A key whose default no text can stand for (an unset text, a list, a switch set by a mere word) is
+/// described only. What the library prints while the lines are tried out is discarded.
+std::string templateText(const TemplateOptions& options);
+
+/// The first of the options' sections that the format does not have; empty when there is none.
+std::string unknownTemplateSection(const TemplateOptions& options);
+
+}  // namespace zeb

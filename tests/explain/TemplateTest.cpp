@@ -1,0 +1,153 @@
+// A template is whole, and reading it changes nothing.
+#include <gtest/gtest.h>
+
+#include <set>
+#include <sstream>
+
+#include "cmx/CZEBCMXInternalTool.hpp"
+#include "frame/CMPReader.hpp"
+#include "frame/MoldingTypes.hpp"
+#include "frame/ReadObserver.hpp"
+#include "inspect/Catalogue.hpp"
+#include "inspect/OutputCapture.hpp"
+#include "inspect/Settings.hpp"
+#include "inspect/Template.hpp"
+#include "tests/support/TemporaryFile.hpp"
+#include "tests/support/Tsv.hpp"
+
+namespace {
+
+struct Events final : zeb::ReadObserver {
+  std::set<std::string_view> opened;
+  int problems = 0;
+  void sectionOpened(const zeb::Section& section, int /*line*/) override {
+    if (!opened.insert(section.name).second) ++problems;
+  }
+  void sectionUnclosed(const zeb::Section& /*section*/, int /*line*/) override { ++problems; }
+  void sectionRefused(const zeb::Section& /*section*/, int /*line*/, int /*version*/) override { ++problems; }
+  void lineWithoutKey(const zeb::Section& section, int line, std::string_view text) override {
+    if (text.find(section.close) == text.npos) ADD_FAILURE() << "line " << line << ": " << text;
+  }
+  void keyFound(const zeb::KeyEvent& event) override {
+    if (event.outcome == zeb::KeyOutcome::kStored) {
+      EXPECT_EQ(event.tail, "") << event.line;
+    }
+    EXPECT_NE(event.outcome, zeb::KeyOutcome::kUnparsed) << event.line;
+    EXPECT_NE(event.outcome, zeb::KeyOutcome::kRefused) << event.line;
+  }
+  void linePositional(const zeb::Section& section, int line, int /*number*/, int converted, int expected,
+                      std::string_view /*tail*/) override {
+    EXPECT_EQ(converted, expected) << section.name << " line " << line;
+  }
+};
+
+void expectDefaults(const zeb::BlockTable& table, void* block) {
+  void* defaults = table.create();
+  for (const zeb::Section& section : table.sections) {
+    for (const zeb::Row& row : section.rows) {
+      EXPECT_EQ(zeb::valueOf(row, block), zeb::valueOf(row, defaults))
+          << zeb::blockName(table.className) << "." << row.field.member;
+    }
+  }
+  table.destroy(defaults);
+}
+
+void readCMP(const std::string& text, Events& events) {
+  const zebtest::TemporaryFile file(text);
+  const auto tool = zeb::moldingTypes()[0].create();
+  tool->m_observer = &events;
+  {
+    const zeb::OutputCapture quiet;
+    zeb::readCMPFile(*tool, file.path());
+  }
+  for (const zeb::BlockEntry& entry : zeb::allBlocks()) expectDefaults(entry.table(), entry.locate(*tool));
+}
+
+void readCMX(const std::string& text, Events& events) {
+  CZEBCMXInternalTool tool;
+  tool.observer = &events;
+  std::istringstream stream(text);
+  tool.readBlocks(stream);
+  const auto tables = CZEBCMXInternalTool::tables();
+  for (std::size_t i = 0; i < tables.size(); ++i) expectDefaults(*tables[i], tool.sections()[i].block);
+}
+
+std::set<std::string> dispatchedNames() {
+  std::set<std::string> names;
+  for (const zebtest::TsvRow& row : zebtest::readTsv("dispatch.tsv")) {
+    const std::string opening = zebtest::unquoted(row.at("opening"));
+    names.insert(opening.substr(1, opening.size() - 2));
+  }
+  return names;
+}
+
+TEST(CMPTemplate, ReadsBackToTheDefaultsAndOpensEverySection) {
+  Events events;
+  readCMP(zeb::templateText({}), events);
+  std::set<std::string> opened(events.opened.begin(), events.opened.end());
+  EXPECT_EQ(opened, dispatchedNames());
+  EXPECT_EQ(events.problems, 0);
+}
+
+TEST(CMPTemplate, EachSectionAloneReadsBackToTheDefaults) {
+  for (const std::string& name : dispatchedNames()) {
+    Events events;
+    readCMP(zeb::templateText({.molding = {}, .sections = {name}, .cmx = false}), events);
+    EXPECT_EQ(events.opened.count(name), 1u) << name;
+    EXPECT_EQ(events.problems, 0) << name;
+  }
+}
+
+TEST(CMPTemplate, MoldingTypesOnlyAddComments) {
+  for (int molding = 0; molding <= 14; ++molding) {
+    Events events;
+    readCMP(zeb::templateText({.molding = molding, .sections = {}, .cmx = false}), events);
+    EXPECT_EQ(events.problems, 0) << molding;
+  }
+  const std::string gas = zeb::templateText({.molding = 6, .sections = {"ShortShot"}, .cmx = false});
+  EXPECT_NE(gas.find("(molding type GAIM): times 4\n"), gas.npos) << gas;
+}
+
+TEST(CMPTemplate, NamesEveryKeyWithItsDescription) {
+  const std::string text = zeb::templateText({});
+  for (const zebtest::TsvRow& row : zebtest::readTsv("cmp_keys.tsv")) {
+    if (row.at("read_index") == "-") continue;
+    EXPECT_NE(text.find(zebtest::unquoted(row.at("key"))), text.npos) << row.at("key");
+  }
+}
+
+TEST(CMPTemplate, LeavesOutSwitchesThatAMereWordTurnsOn) {
+  const std::string text = zeb::templateText({.molding = {}, .sections = {"Whiteboard"}, .cmx = false});
+  for (const char* word : {"HeatFluxHistory", "ElemagComsol", "ReadCoolantFromPCS", "OutputNonMatchingSTL",
+                           "OutputAverageTemperature", "SensorHeatFlux"}) {
+    EXPECT_NE(text.find("#   " + std::string(word)), text.npos) << word;
+    EXPECT_EQ(text.find("\n" + std::string(word)), text.npos) << word;
+  }
+}
+
+TEST(CMXTemplate, ReadsBackToTheDefaultsAndOpensEveryBlock) {
+  Events events;
+  readCMX(zeb::templateText({.molding = {}, .sections = {}, .cmx = true}), events);
+  std::set<std::string> tags;
+  for (const zebtest::TsvRow& row : zebtest::readTsv("cmx_keys.tsv")) tags.insert(row.at("tag"));
+  EXPECT_EQ(std::set<std::string>(events.opened.begin(), events.opened.end()), tags);
+  EXPECT_EQ(events.problems, 0);
+}
+
+TEST(CMXTemplate, EachBlockAloneReadsBackToTheDefaults) {
+  for (const zeb::BlockTable* table : CZEBCMXInternalTool::tables()) {
+    const std::string name(table->sections.front().name);
+    Events events;
+    readCMX(zeb::templateText({.molding = {}, .sections = {name}, .cmx = true}), events);
+    EXPECT_EQ(events.opened.count(name), 1u) << name;
+    EXPECT_EQ(events.problems, 0) << name;
+  }
+}
+
+TEST(Template, TellsUnknownSections) {
+  EXPECT_EQ(zeb::unknownTemplateSection({.molding = {}, .sections = {"Outlet", "Outlett"}, .cmx = false}), "Outlett");
+  EXPECT_EQ(zeb::unknownTemplateSection({.molding = {}, .sections = {"outlet", "VER"}, .cmx = false}), "");
+  EXPECT_EQ(zeb::unknownTemplateSection({.molding = {}, .sections = {"Outlet"}, .cmx = true}), "Outlet");
+}
+
+}  // namespace

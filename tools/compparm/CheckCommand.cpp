@@ -1,0 +1,88 @@
+// compparm check: says what the formats forgive silently, before a job is queued.
+#include <iostream>
+#include <memory>
+
+#include "inspect/Check.hpp"
+#include "inspect/DiagnosticOutput.hpp"
+#include "tools/compparm/AnalysisArguments.hpp"
+#include "tools/compparm/Commands.hpp"
+#include "tools/compparm/Terminal.hpp"
+
+namespace compparm {
+
+namespace {
+
+struct CheckArguments {
+  AnalysisArguments analysis;
+  std::vector<std::string> files, enabled, disabled;
+  std::string format = "text";
+  bool errors = false;
+};
+
+void printText(zeb::DiagnosticList& found, const std::string& severity) {
+  for (const zeb::Diagnostic& one : found.all()) {
+    std::cout << coloured(Colour::kBold, zeb::headline(one, severity)) << '\n'
+              << zeb::excerpt(one) << "  hint: " << one.hint << '\n';
+  }
+  if (found.dropped() > 0) {
+    std::cout << "and " << found.dropped() << " more; at most " << zeb::DiagnosticList::kMostPerRule
+              << " of each rule are shown\n";
+  }
+}
+
+void print(const CheckArguments& arguments, zeb::DiagnosticList& found) {
+  const std::string severity = arguments.errors ? "error" : "warning";
+  using Handler = nlohmann::ordered_json::error_handler_t;
+  if (arguments.format == "text") return printText(found, severity);
+  const auto document = arguments.format == "json" ? zeb::diagnosticsAsJson(found.all(), severity)
+                                                   : zeb::diagnosticsAsSarif(found.all(), severity);
+  // The names of files and keys may be no UTF-8: what is not is replaced.
+  std::cout << document.dump(2, ' ', false, Handler::replace) << '\n';
+}
+
+int run(const CheckArguments& arguments) {
+  zeb::DiagnosticList found;
+  for (const std::string& id : arguments.enabled) found.enable(*zeb::ruleNamed(id), true);
+  for (const std::string& id : arguments.disabled) found.enable(*zeb::ruleNamed(id), false);
+  int exitCode = kClean;
+  for (const std::string& file : arguments.files) {
+    const std::string reason = zeb::whyUnreadable(file);
+    if (reason.empty()) {
+      zeb::checkFile(file, arguments.analysis.options, found);
+    } else {
+      exitCode = fail(file + ": " + reason);
+    }
+  }
+  found.sort();
+  print(arguments, found);
+  if (exitCode != kClean) return exitCode;
+  return found.all().empty() && found.dropped() == 0 ? kClean : kFindings;
+}
+
+}  // namespace
+
+void addCheck(CLI::App& app, int& exitCode) {
+  const auto arguments = std::make_shared<CheckArguments>();
+  CLI::App* command = app.add_subcommand("check", "Report what a solver would silently ignore or misread");
+  arguments->analysis.addTo(*command);
+  // This command takes several files.
+  command->remove_option(command->get_option("FILE"));
+  command->add_option("FILE", arguments->files, "The parameter files")->required();
+  std::vector<std::string> ids;
+  for (const zeb::RuleInfo& rule : zeb::checkRules()) ids.emplace_back(rule.id);
+  const auto addRules = [&](const char* name, std::vector<std::string>& rules, const char* about) {
+    command->add_option(name, rules, about)
+        ->type_name("RULE")
+        ->allow_extra_args(false)
+        ->check(CLI::IsMember(ids).description(""));
+  };
+  addRules("-W", arguments->enabled, "Switch a rule on that is off by default (equals-default)");
+  addRules("--no-rule", arguments->disabled, "Switch a rule off");
+  command->add_option("--format", arguments->format, "text, json or sarif")
+      ->check(CLI::IsMember({"text", "json", "sarif"}))
+      ->type_name("FORMAT");
+  command->add_flag("--error-on-warning", arguments->errors, "Report findings as errors");
+  command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
+}
+
+}  // namespace compparm
