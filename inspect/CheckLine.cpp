@@ -105,7 +105,7 @@ void CheckObserver::judgeHits() {
   const std::string_view name = nameOf(m_text);
   const Hit* own = nullptr;
   for (const Hit& hit : m_hits) {
-    if (hit.key == name) own = &hit;
+    if (trimmed(hit.key) == name) own = &hit;
   }
   if (own == nullptr) {
     // The longest of the keys found is the one that was meant.
@@ -207,7 +207,7 @@ void CheckObserver::judgeText(const Hit& hit) {
 
 void CheckObserver::judgeOtherKeys(const Hit* own) {
   for (const Hit& hit : m_hits) {
-    if (&hit == own || hit.row == own->row || !isStored(hit.outcome)) continue;
+    if (hit.key == own->key || hit.row == own->row || !isStored(hit.outcome)) continue;  // one key, several members
     const auto earlier = m_setAt.find(hit.key);
     std::string message = "the line also sets " + std::string(hit.key) + " to " + valueOf(*hit.row, hit.block);
     if (earlier != m_setAt.end()) message += ", against line " + std::to_string(earlier->second);

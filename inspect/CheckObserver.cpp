@@ -12,6 +12,11 @@ namespace zeb {
 
 namespace {
 
+// The elements of such a list are keys of their own, not lines behind the count.
+bool hasElementKeys(const Section& section) {
+  return std::any_of(section.rows.begin(), section.rows.end(), [](const Row& row) { return row.store != nullptr; });
+}
+
 constexpr int kHeadVersion = 1023, kStandardVersion = 1013;
 constexpr std::size_t kKeptText = 400;
 
@@ -113,7 +118,7 @@ void CheckObserver::keyFound(const KeyEvent& event) {
     m_list = {};
     m_list.announced = m_line;
     m_list.text = event.line.substr(0, kKeptText);
-    if (event.row.count && event.row.store == nullptr) m_list.expected = *static_cast<const int*>(member);
+    if (event.row.count && !hasElementKeys(event.section)) m_list.expected = *static_cast<const int*>(member);
     m_list.open = true;
   }
 }

@@ -1,0 +1,142 @@
+// Run on several real ranks: every rank reads the examples into parameter sets of its own; rank 0 then reads each of
+// them alone and compares value by value. A line for each file; the exit code is 0 only if all are the same.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "cmx/CZEBCMXInternalTool.hpp"
+#include "cmx/CZEBKNCMXCompParm.h"
+#include "inspect/Settings.hpp"
+#include "standalone/mpi/MpiCommunicator.h"
+#include "stdcmp/CZEBKNstdCMPCompParm.h"
+#include "tests/ranks/Examples.hpp"
+#include "tests/ranks/RankReading.hpp"
+#include "tests/standalone/TestFolder.h"
+#include "tests/stdcmp/PublicValues.hpp"
+
+namespace {
+
+// Reads a file, alone when `com` is null, and returns every value.
+using Reader = std::function<std::string(CZEBCom* com, const std::string& file)>;
+
+std::string readStd(CZEBCom* com, const std::string& file) {
+  const zeb::OutputCapture capture;
+  CZEBKNstdCMPCompParm set;
+  if (com != nullptr) set.setZEBCom(com);
+  set.setSolidFillBlock(file);
+  return zebtest::textOf(zebtest::publicValues(set));
+}
+
+template <class Block>
+void addValues(std::string& text, Block* block) {
+  for (const zeb::Section& section : zeb::tableOf<Block>().sections) {
+    for (const zeb::Row& row : section.rows) {
+      text += std::string(section.name) + "." + std::string(row.field.member) + " = " + zeb::valueOf(row, block) + "\n";
+    }
+  }
+}
+
+std::string readCMX(CZEBCom* com, const std::string& file) {
+  CZEBKNCMXCompParm set(0);
+  if (com != nullptr) set.setZEBCom(com);
+  set.setSolidFillBlock(file);
+  std::string text;
+  addValues(text, set.getSOLID_FILL());
+  addValues(text, set.getFILL_ADVANCED_SlipBC());
+  addValues(text, set.getFILL_ADVANCED_LONGFIBER());
+  addValues(text, set.getFILL_ADVANCED_HRSteady());
+  addValues(text, set.getSOLID_COOL());
+  addValues(text, set.getSOLID_VE());
+  addValues(text, set.getSOLID_PACK());
+  addValues(text, set.get_TASKMANAGER());
+  addValues(text, set.getDyna_Forming());
+  addValues(text, set.getFILL_ADVANCED_MCIM());
+  addValues(text, set.getFILL_OUTPUT_TIMES());
+  addValues(text, set.getPACK_OUTPUT_TIMES());
+  return text;
+}
+
+struct Gathered {
+  std::vector<std::string> ofRank;
+};
+
+void receive(void* context, int rank, const char* text, std::size_t length) {
+  std::vector<std::string>& values = static_cast<Gathered*>(context)->ofRank;
+  values.resize(static_cast<std::size_t>(rank) + 1);
+  values.back().assign(text, length);
+}
+
+class Comparison {
+ public:
+  explicit Comparison(CZEBCom& com) : m_com(com) {}
+
+  // Only rank 0 is given the file's name: no other rank may need it.
+  void compare(const std::string& what, const std::string& file, const Reader& read) {
+    const bool isFirst = m_com.GetCPUId() == 0;
+    const std::string values = read(&m_com, isFirst ? file : "no/such/file.cmp");
+    Gathered gathered;
+    ZebMpiGatherText(values.data(), values.size(), receive, &gathered);
+    if (!isFirst) return;
+    const std::string serial = read(nullptr, file);
+    const bool complete = gathered.ofRank.size() == static_cast<std::size_t>(m_com.GetNCPU());
+    bool same = complete && !serial.empty() && serial != read(nullptr, "no/such/file.cmp");
+    for (const std::string& ofRank : gathered.ofRank) same = same && ofRank == serial;
+    m_same = m_same && same;
+    const std::string name = std::filesystem::path(file).filename().string();
+    std::printf("%-9s %s, %s: %zu ranks\n", same ? "same" : "DIFFERENT", name.c_str(), what.c_str(),
+                gathered.ofRank.size());
+  }
+
+  /// On every rank: whether all comparisons of all ranks were good.
+  bool allSame() const { return ZebMpiAllAgree(m_same ? 1 : 0) == 1; }
+
+ private:
+  CZEBCom& m_com;
+  bool m_same = true;
+};
+
+Reader cmpReader(int molding, bool viscoelastic = false) {
+  return [molding, viscoelastic](CZEBCom* com, const std::string& file) {
+    return zebtest::readAs(com, file, {.molding = molding, .material = molding % 2, .viscoelastic = viscoelastic})
+        .values;
+  };
+}
+
+void compareAll(Comparison& comparison) {
+  const std::string cover = zebtest::example("thin-wall-cover.cmp");
+  for (const std::string& file : zebtest::examples(".cmp")) {
+    comparison.compare("molding type 0", file, cmpReader(0));
+    comparison.compare("standard solver", file, readStd);
+  }
+  for (int molding = 1; molding < 15; ++molding) {
+    comparison.compare("molding type " + std::to_string(molding), cover, cmpReader(molding));
+  }
+  // In a copy: an invalid viscoelastic file would be replaced.
+  const zeb::test::TestFolder folder;
+  const std::string copy = folder.write("cover.cmp", zebtest::contentOf(cover));
+  folder.write("cover.vecmp", zebtest::contentOf(zebtest::example("thin-wall-cover.vecmp")));
+  comparison.compare("viscoelastic", copy, cmpReader(0, true));
+  for (const std::string& file : zebtest::examples(".cmx")) comparison.compare("analysis settings", file, readCMX);
+}
+
+}  // namespace
+
+int main() {
+  CZEBCom* com = ZebCreateMpiCommunicator();
+  bool same = false;
+  if (com->GetNCPU() < 2) {
+    std::printf("needs at least 2 ranks: start it with mpirun\n");
+  } else {
+    Comparison comparison(*com);
+    compareAll(comparison);
+    same = comparison.allSame();
+    if (com->GetCPUId() == 0) std::printf("%s\n", same ? "all the same" : "THERE ARE DIFFERENCES");
+  }
+  ZebDestroyMpiCommunicator(com);
+  return same && !testing::Test::HasFailure() ? 0 : 1;
+}
