@@ -38,8 +38,6 @@ std::vector<Part> partsOf(bool cmx) {
     for (const BlockTable* table : CZEBCMXInternalTool::tables()) parts.push_back({table, &table->sections.front()});
     return parts;
   }
-  const BlockTable& head = tableOf<CZEBCMPIteratParm>();
-  parts.push_back({&head, &head.sections.front()});
   const auto tool = moldingTypes().front().create();
   for (const DispatchEntry& entry : cmpSections(*tool)) {
     for (const BlockEntry& block : allBlocks()) add(block.table(), entry.section);

@@ -13,7 +13,7 @@ enum class CallKind : unsigned char { kBarrier, kBroadi, kBroadd, kBroadc };
 const char* callName(CallKind kind);
 
 /// The characters of one Broadc.
-inline constexpr std::size_t kCallTextSize = 255;
+constexpr std::size_t kCallTextSize = 255;
 
 /// Collective calls with their values, in order. Two logs are equal if every call and every byte sent is.
 class CallLog {
@@ -34,7 +34,8 @@ class CallLog {
   /// The same, one call a line.
   std::string text() const;
 
-  friend bool operator==(const CallLog&, const CallLog&) = default;
+  bool operator==(const CallLog& other) const { return count_ == other.count_ && bytes_ == other.bytes_; }
+  bool operator!=(const CallLog& other) const { return !(*this == other); }
 
  private:
   friend class CallReader;

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-#include "standalone/MaterialRecord.h"
+#include "standalone/MaterialRecord.hpp"
 
 namespace zeb {
 namespace {

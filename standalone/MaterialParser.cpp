@@ -6,7 +6,7 @@
 #include <limits>
 #include <nlohmann/json.hpp>
 
-#include "standalone/MaterialRecord.h"
+#include "standalone/MaterialRecord.hpp"
 
 namespace zeb {
 namespace {
