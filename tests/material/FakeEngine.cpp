@@ -15,13 +15,9 @@ FakeEngine& engineOf(const ZebMaterial* material) {
 
 }  // namespace
 
-FakeEngine::FakeEngine() {
-  theEngine = this;
-}
+FakeEngine::FakeEngine() { theEngine = this; }
 
-FakeEngine::~FakeEngine() {
-  theEngine = nullptr;
-}
+FakeEngine::~FakeEngine() { theEngine = nullptr; }
 
 void FakeEngine::setText(int number, const std::string& text) {
   texts_.emplace_back(text.begin(), text.end()).push_back('\0');

@@ -13,9 +13,7 @@ void FakeProcess::reset() {
   onCreate = nullptr;
 }
 
-ZEBG_DataEntryValueStorage::~ZEBG_DataEntryValueStorage() {
-  ++FakeProcess::destroyed;
-}
+ZEBG_DataEntryValueStorage::~ZEBG_DataEntryValueStorage() { ++FakeProcess::destroyed; }
 
 ZEBG_SimulatorProcess::ZEBG_SimulatorProcess() {
   ++FakeProcess::created;

@@ -151,9 +151,7 @@ struct Example {
   const char* calls;
 };
 
-void PrintTo(const Example& example, std::ostream* out) {
-  *out << example.name;
-}
+void PrintTo(const Example& example, std::ostream* out) { *out << example.name; }
 
 // Everything of a rank's copy but the second to seventh text.
 std::string shared(const CZEBKNMaterialParam& param, int curves) {

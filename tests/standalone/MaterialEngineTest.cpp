@@ -29,9 +29,7 @@ std::string object(const std::vector<std::string>& members) {
   return text + "}";
 }
 
-std::string wholeMaterial() {
-  return object({kHeader, kTexts, kTables, kModel, kRest, kCurves});
-}
+std::string wholeMaterial() { return object({kHeader, kTexts, kTables, kModel, kRest, kCurves}); }
 
 class MaterialEngine : public ::testing::Test {
  protected:

@@ -27,9 +27,7 @@ struct Expected {
   std::vector<std::pair<double, int>> entries;
 };
 
-double spanOf(const Input& input) {
-  return input.type == 2 || input.type == 3 ? 100.0 : input.fillingTime;
-}
+double spanOf(const Input& input) { return input.type == 2 || input.type == 3 ? 100.0 : input.fillingTime; }
 
 bool isAccepted(const Input& input, double moment) {
   if (input.type < 1 || input.type > 3) return true;
