@@ -11,7 +11,7 @@ CZEBKNCMXCompParm::CZEBKNCMXCompParm(const CZEBKNCMXCompParm& other) : m_pTool(o
 CZEBKNCMXCompParm::~CZEBKNCMXCompParm() = default;
 
 CZEBKNCMXCompParm& CZEBKNCMXCompParm::operator=(const CZEBKNCMXCompParm& other) {
-  if (m_pTool == other.m_pTool) return *this;
+  if (this == &other || m_pTool == other.m_pTool) return *this;
   if (std::find(m_earlierTools.begin(), m_earlierTools.end(), m_pTool) == m_earlierTools.end()) {
     m_earlierTools.push_back(m_pTool);
   }

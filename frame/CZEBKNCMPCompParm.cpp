@@ -17,7 +17,7 @@ CZEBKNCMPCompParm::CZEBKNCMPCompParm(int moldingType, int materialType) {
 CZEBKNCMPCompParm::CZEBKNCMPCompParm(const CZEBKNCMPCompParm& other) : m_tool(other.m_tool) {}
 
 CZEBKNCMPCompParm& CZEBKNCMPCompParm::operator=(const CZEBKNCMPCompParm& other) {
-  if (m_tool != other.m_tool) {
+  if (this != &other && m_tool != other.m_tool) {
     m_earlierTools.push_back(m_tool);
     m_tool = other.m_tool;
   }

@@ -17,9 +17,8 @@ bool readLine(std::istream& stream, std::string& line) {
     line.clear();
     return false;
   }
-  if (const void* nul = std::memchr(line.data(), '\0', line.size())) {
-    line.resize(static_cast<std::size_t>(static_cast<const char*>(nul) - line.data()));
-  }
+  const std::size_t nul = line.find('\0');
+  if (nul != line.npos) line.resize(nul);
   return true;
 }
 

@@ -26,7 +26,7 @@ class SharedArray {
 
   /// Shares the other's current array (or becomes empty as the other is).
   SharedArray& operator=(const SharedArray& other) {
-    if (m_current != other.m_current) replaceBy(other.m_current, other.m_size);
+    if (this != &other && m_current != other.m_current) replaceBy(other.m_current, other.m_size);
     return *this;
   }
 

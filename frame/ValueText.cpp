@@ -16,7 +16,6 @@ constexpr bool isSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 constexpr bool isHexadecimalDigit(char c) { return isDigit(c) || ((c | 0x20) >= 'a' && (c | 0x20) <= 'f'); }
 constexpr bool isSign(char c) { return c == '+' || c == '-'; }
-constexpr bool isExponent(char c) { return c == 'e' || c == 'E'; }
 
 const char* skipSpace(const char* at, const char* end) {
   while (at != end && isSpace(*at)) ++at;
