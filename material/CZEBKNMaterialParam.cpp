@@ -104,6 +104,7 @@ CZEBKNMaterialParam::CZEBKNMaterialParam(const CZEBKNMaterialParam& other) = def
 CZEBKNMaterialParam::~CZEBKNMaterialParam() = default;
 
 CZEBKNMaterialParam& CZEBKNMaterialParam::operator=(const CZEBKNMaterialParam& other) {
+  if (this == &other) return *this;
   replaceRecord(other.m_record);
   m_pCom = other.m_pCom;
   m_nMtcCount = other.m_nMtcCount;

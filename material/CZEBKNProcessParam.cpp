@@ -10,6 +10,7 @@ CZEBKNProcessParam::CZEBKNProcessParam(const CZEBKNProcessParam& other) = defaul
 CZEBKNProcessParam::~CZEBKNProcessParam() = default;
 
 CZEBKNProcessParam& CZEBKNProcessParam::operator=(const CZEBKNProcessParam& other) {
+  if (this == &other) return *this;
   replaceProcess(other.m_process);
   m_pCom = other.m_pCom;
   return *this;

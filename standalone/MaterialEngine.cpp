@@ -13,7 +13,7 @@
 namespace zeb {
 namespace {
 
-constexpr std::size_t kLargestFile = 64 * 1024 * 1024;
+constexpr std::size_t kLargestFile = std::size_t{64} * 1024 * 1024;
 constexpr std::string_view kSuffix = ".json";
 
 struct EngineState {
@@ -53,7 +53,7 @@ std::string findMaterialFile(const std::string& name) {
   }
   std::string places;
   for (const std::string& folder : materialFolders()) {
-    const std::string file = (std::filesystem::path(folder) / (name + std::string(kSuffix))).string();
+    std::string file = (std::filesystem::path(folder) / (name + std::string(kSuffix))).string();
     if (exists(file)) return file;
     places += (places.empty() ? " in " : ", ") + folder;
   }
