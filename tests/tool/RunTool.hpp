@@ -1,0 +1,71 @@
+// Runs the command-line tool as a process of its own, as an engineer's shell or script would.
+#pragma once
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "tests/support/TemporaryFile.hpp"
+
+namespace zebtest {
+
+struct ToolRun {
+  int exitCode = -1;  ///< minus the signal where one ended the tool
+  std::string out;
+  std::string err;
+};
+
+inline std::string contentOf(const std::string& path) {
+  std::ifstream stream(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+namespace tool_detail {
+
+constexpr unsigned kSecondsToEnd =
+    120;  // a tool that waits for ever (a pipe nobody writes to) is a failure, not a hang
+
+inline void redirect(int descriptor, const std::string& path) {
+  const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+  if (file < 0 || dup2(file, descriptor) < 0) _exit(126);
+}
+
+}  // namespace tool_detail
+
+/// Runs the tool with these arguments in `folder` (empty: the current one). Both outputs are files, never a terminal.
+inline ToolRun runTool(const std::vector<std::string>& arguments, const std::string& folder = {}) {
+  const TemporaryFile out("", ".out");
+  const TemporaryFile err("", ".err");
+  std::string tool = ZEB_COMPPARM;
+  std::vector<std::string> texts = arguments;
+  std::vector<char*> argv{tool.data()};
+  for (std::string& text : texts) argv.push_back(text.data());
+  argv.push_back(nullptr);
+
+  const pid_t child = fork();
+  if (child < 0) throw std::runtime_error("cannot start a process");
+  if (child == 0) {
+    tool_detail::redirect(STDOUT_FILENO, out.path());
+    tool_detail::redirect(STDERR_FILENO, err.path());
+    if (!folder.empty() && chdir(folder.c_str()) != 0) _exit(126);
+    alarm(tool_detail::kSecondsToEnd);
+    execv(tool.c_str(), argv.data());
+    _exit(127);
+  }
+  int status = 0;
+  if (waitpid(child, &status, 0) != child) throw std::runtime_error("lost the tool's process");
+  ToolRun run;
+  run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+  run.out = contentOf(out.path());
+  run.err = contentOf(err.path());
+  return run;
+}
+
+}  // namespace zebtest
