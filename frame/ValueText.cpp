@@ -1,6 +1,7 @@
 // Both grammars rest on std::from_chars, which knows no locale; the code here is what the two add to it or take away.
 #include "frame/ValueText.hpp"
 
+#include <algorithm>
 #include <cfloat>
 #include <charconv>
 #include <cstdint>
@@ -17,6 +18,8 @@ constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 constexpr bool isHexadecimalDigit(char c) { return isDigit(c) || ((c | 0x20) >= 'a' && (c | 0x20) <= 'f'); }
 constexpr bool isSign(char c) { return c == '+' || c == '-'; }
 
+constexpr char toLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; }
+
 const char* skipSpace(const char* at, const char* end) {
   while (at != end && isSpace(*at)) ++at;
   return at;
@@ -28,7 +31,7 @@ const char* skipPlus(const char* at, const char* end) { return at != end && *at 
 bool startsWithoutCase(const char* at, const char* end, std::string_view lowerCase) {
   if (static_cast<std::size_t>(end - at) < lowerCase.size()) return false;
   for (const char c : lowerCase) {
-    if ((*at++ | 0x20) != c) return false;
+    if (toLower(*at++) != c) return false;
   }
   return true;
 }
@@ -59,7 +62,7 @@ bool isTooSmall(const char* at, const char* end) {
     const auto result = std::from_chars(skipPlus(at + 1, end), end, exponent);
     if (result.ec == std::errc::result_out_of_range) return negative;
   }
-  return position + exponent < 0;
+  return exponent < -position;  // their sum may not fit
 }
 
 // Most numbers in a parameter file are short. Up to 2^53 and a power of ten up to 22 are exact doubles, so that one
@@ -145,7 +148,11 @@ const char* skipBareExponent(const char* number, const char* at, const char* end
 const char* scanHexadecimal(const char* at, const char* end, double& value) {
   // from_chars would take a sign, "nan" and "inf" here too.
   if (at == end || !(isHexadecimalDigit(*at) || *at == '.')) return nullptr;
-  const auto result = std::from_chars(at, end, value, std::chars_format::hex);
+  // from_chars takes "p+-1" for an exponent; there the number ends before its mark.
+  const std::string_view text(at, static_cast<std::size_t>(end - at));
+  const std::size_t mark = std::min(text.find("p+-"), text.find("P+-"));
+  const char* const limit = mark == text.npos ? end : at + mark;
+  const auto result = std::from_chars(at, limit, value, std::chars_format::hex);
   if (result.ec == std::errc::invalid_argument) {
     // "0x." counts as a zero.
     value = 0.0;

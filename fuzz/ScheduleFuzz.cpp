@@ -19,7 +19,7 @@ using Timing = COutput_F2C_MultiTiming;
 
 constexpr int kMostEntries = 1'000'000;
 constexpr std::string_view kLargeSizes = "LARGE";
-constexpr std::size_t kLongestLarge = 24;
+constexpr std::size_t kLongestLarge = 16;
 constexpr int kMostWork = 1'500;  // grid steps and printed lines of one run
 
 std::size_t at(int i) { return static_cast<std::size_t>(i); }

@@ -57,6 +57,28 @@ TEST(FieldScanner, KnowsNanInfAndHexadecimal) {
   EXPECT_EQ(value, 3.0);
 }
 
+TEST(FieldScanner, AControlCharacterIsNoDigit) {
+  double value = -7.0;
+  EXPECT_FALSE(zeb::FieldScanner("\x10x1").next(value));
+}
+
+TEST(FieldScanner, AHexadecimalExponentHasOneSign) {
+  zeb::FieldScanner scanner("0x1p+-2");
+  double first = 0.0, second = 0.0;
+  EXPECT_TRUE(scanner.next(first));
+  EXPECT_TRUE(scanner.next(second));
+  EXPECT_EQ(first, 1.0);
+  EXPECT_EQ(second, -2.0);
+}
+
+TEST(Extraction, SurvivesExponentsAtTheEdgeOfEveryType) {
+  double value = -7.0;
+  EXPECT_EQ(zeb::extractDouble("1e9223372036854775807", value), 0u);
+  EXPECT_EQ(value, -7.0);
+  EXPECT_GT(zeb::extractDouble(".01e-9223372036854775808", value), 0u);
+  EXPECT_EQ(value, 0.0);
+}
+
 // Same result bits; two NaNs are the same whatever their payload.
 bool same(double a, double b) {
   return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b) || (std::isnan(a) && std::isnan(b));
