@@ -12,14 +12,13 @@
 #include "inspect/Settings.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
+#include "tools/compparm/JsonText.hpp"
 #include "tools/compparm/Ranks.hpp"
 #include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 struct ShowArguments {
   AnalysisArguments analysis;
@@ -50,14 +49,6 @@ std::optional<zeb::FileKind> kindNamed(const std::string& name) {
   return static_cast<zeb::FileKind>(at);
 }
 
-// Numbers and switches as JSON values; what JSON cannot say as a number (nan, inf), texts and lists as text.
-Json jsonValue(const zeb::Row& row, const std::string& text) {
-  if (text == "none") return nullptr;
-  if (row.field.type == zeb::FieldType::kText) return text.substr(1, text.size() - 2);
-  const Json parsed = Json::parse(text, nullptr, false);
-  return parsed.is_discarded() ? Json(text) : parsed;
-}
-
 Json jsonOrigin(const zeb::Origin& origin) {
   switch (origin.kind) {
     case zeb::Origin::Kind::kFile: {
@@ -79,8 +70,8 @@ void printJson(const ShowArguments& arguments, const Shown& shown) {
     Json members = Json::array();
     for (const zeb::Setting& setting : block.settings) {
       Json member = {{"member", setting.member},
-                     {"value", jsonValue(*setting.row, setting.value)},
-                     {"default", jsonValue(*setting.row, setting.defaultValue)},
+                     {"value", jsonOf(*setting.row, setting.value)},
+                     {"default", jsonOf(*setting.row, setting.defaultValue)},
                      {"origin", jsonOrigin(setting.origin)}};
       if (!setting.row->key.empty()) member["key"] = setting.row->key;
       members.push_back(std::move(member));
