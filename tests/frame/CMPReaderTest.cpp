@@ -2,49 +2,26 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <sstream>
 #include <vector>
 
 #include "frame/CMPReader.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "frame/MoldingTypes.hpp"
 #include "frame/ReadObserver.hpp"
-#include "inspect/Inspection.hpp"
 #include "inspect/OutputCapture.hpp"
-#include "inspect/Settings.hpp"
 #include "standalone/RecordingCommunicator.h"
+#include "tests/frame/ReadSet.hpp"
 #include "tests/support/TemporaryFile.hpp"
 #include "tests/support/Tsv.hpp"
 
 namespace {
 
+using zebtest::changesOf;
+using zebtest::defaultValues;
+using zebtest::Lines;
+using zebtest::Set;
 using zebtest::TemporaryFile;
-using Lines = std::vector<std::string>;
-
-std::string valuesOf(const CZEBKNCMPCompParm& set) { return zeb::fingerprint(zeb::blocksOf(set)); }
-
-std::string defaultValues() { return valuesOf(CZEBKNCMPCompParm(0, 0)); }
-
-// A set that has read this text.
-struct Set : CZEBKNCMPCompParm {
-  explicit Set(const std::string& text) : CZEBKNCMPCompParm(0, 0) { read(text); }
-  void read(const std::string& text) {
-    const TemporaryFile file(text);
-    EXPECT_EQ(setSolidFillBlock(file.path()), 1);
-  }
-  CZEBCMPGeneralParm& general() const { return *getGeneralParm(); }
-  CZEBCMPShortShotParm& shortShot() const { return *getShortShotParm(); }
-};
-
-// The lines "Block.member = value" that differ from the defaults.
-Lines changesOf(const CZEBKNCMPCompParm& set) {
-  Lines changes;
-  std::istringstream values(valuesOf(set)), defaults(defaultValues());
-  for (std::string value, byDefault; std::getline(values, value) && std::getline(defaults, byDefault);) {
-    if (value != byDefault) changes.push_back(value);
-  }
-  return changes;
-}
+using zebtest::valuesOf;
 
 constexpr double kDefaultTimeLimit = 1.1;
 constexpr double kDefaultFRLimit = 0.002;

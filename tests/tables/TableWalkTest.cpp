@@ -236,8 +236,8 @@ TEST_F(TableWalk, EveryKeyAloneSetsItsMembersAndItsEchoIsPrinted) {
       CZEBKNCMPCompParm fresh(0, 0);
       const auto freshBlocks = zeb::blocksOf(fresh);
       const auto views = zeb::cmpSections(*zeb::Inspection::tool(fresh));
-      const auto entry =
-          std::find_if(views.begin(), views.end(), [&](const auto& e) { return e.section->name == name; });
+      const auto entry = std::find_if(views.begin(), views.end(),
+                                      [&, &name = name](const auto& e) { return e.section->name == name; });
       ASSERT_NE(entry, views.end());
       std::istringstream text(key.key + " = 2.75\n" + std::string(entry->section->close) + "\n");
       const zeb::LineSource serial;
