@@ -18,8 +18,7 @@ constexpr char kFileName[] = "fuzz.cmp";
 constexpr char kCompanionName[] = "fuzz.vecmp";
 
 struct Input {
-  Input(const std::uint8_t* data, std::size_t size) {
-    Bytes bytes(data, size);
+  explicit Input(Bytes bytes) {
     molding = static_cast<int>(bytes.byte() % 16);
     const unsigned switches = bytes.byte();
     material = (switches & 1u) != 0 ? 1 : 0;
@@ -140,13 +139,4 @@ void check(const Input& input) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  Output::start();
-  return 0;
-}
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  check(Input(data, size));
-  Output::drop();
-  return 0;
-}
+void zebfuzz::checkInput(Bytes bytes) { check(Input(bytes)); }

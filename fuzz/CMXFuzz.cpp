@@ -80,15 +80,7 @@ void check(std::string_view content, bool readsTwice, bool comparesSerial) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  Output::start();
-  return 0;
-}
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  Bytes bytes(data, size);
+void zebfuzz::checkInput(Bytes bytes) {
   const unsigned switches = bytes.byte();
   check(bytes.rest(), (switches & 1u) != 0, (switches & 2u) != 0);
-  Output::drop();
-  return 0;
 }

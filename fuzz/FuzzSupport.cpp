@@ -213,6 +213,17 @@ double Bytes::real() {
 
 }  // namespace zebfuzz
 
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+  zebfuzz::Output::start();
+  return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  zebfuzz::checkInput(zebfuzz::Bytes(data, size));
+  zebfuzz::Output::drop();
+  return 0;
+}
+
 // Short stacks of allocations and a small quarantine: a run allocates little and is over soon.
 extern "C" const char* __asan_default_options() { return "malloc_context_size=5:quarantine_size_mb=32"; }
 

@@ -40,7 +40,7 @@ class Files {
 class Output {
  public:
   static void start();
-  /// What was printed since start() or the last take(), up to a limit: some files ask for a million lines.
+  /// What was printed for this input or since the last take(), up to a limit: some files ask for a million lines.
   static std::string take();
   static void drop();
   static constexpr std::size_t kLimit = 1 << 20;
@@ -85,5 +85,8 @@ class Bytes {
 
   std::string_view m_rest;
 };
+
+/// What a program checks of one input: its own part, called by the entry points in FuzzSupport.cpp.
+void checkInput(Bytes bytes);
 
 }  // namespace zebfuzz

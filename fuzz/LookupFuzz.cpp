@@ -100,8 +100,7 @@ void checkFilter(const zeb::KeyFilter& filter, const std::string& line) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  Bytes bytes(data, size);
+void zebfuzz::checkInput(Bytes bytes) {
   const zeb::Section& section = *keyedSections()[bytes.byte() % keyedSections().size()];
   const std::string_view rest = bytes.rest();
   const std::size_t end = rest.find('\n');
@@ -112,5 +111,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string upToNul = line.c_str();
   checkReals(upToNul);
   if (upToNul.size() < 500) checkWordAndInt(upToNul);
-  return 0;
 }

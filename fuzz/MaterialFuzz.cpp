@@ -237,13 +237,7 @@ void ZebReleaseMaterial(ZebMaterial* material) {
   ++engine->released;
 }
 
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  Output::start();
-  return 0;
-}
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  Bytes bytes(data, size);
+void zebfuzz::checkInput(Bytes bytes) {
   const unsigned switches = bytes.byte();
   auto source = std::make_unique<Engine>();
   if ((switches & 4u) == 0) {
@@ -252,6 +246,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     loadBytes(bytes, *source);
   }
   check(*source, (switches & 1u) != 0, (switches & 2u) != 0);
-  Output::drop();
-  return 0;
 }

@@ -235,13 +235,4 @@ void run(Bytes bytes) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  Output::start();
-  return 0;
-}
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  run(Bytes(data, size));
-  Output::drop();
-  return 0;
-}
+void zebfuzz::checkInput(Bytes bytes) { run(bytes); }

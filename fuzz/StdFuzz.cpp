@@ -156,15 +156,7 @@ void check(std::string_view content, int mode, bool comparesSerial, bool readsTw
 
 }  // namespace
 
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  Output::start();
-  return 0;
-}
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  Bytes bytes(data, size);
+void zebfuzz::checkInput(Bytes bytes) {
   const unsigned switches = bytes.byte();
   check(bytes.rest(), static_cast<int>(switches & 3u), (switches & 4u) != 0, (switches & 8u) != 0);
-  Output::drop();
-  return 0;
 }

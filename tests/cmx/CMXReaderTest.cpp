@@ -10,8 +10,11 @@
 #include "frame/ReadObserver.hpp"
 #include "standalone/SerialCommunicator.h"
 #include "tests/cmx/Expectations.hpp"
+#include "tests/cmx/ReadIntoTool.hpp"
 
 namespace {
+
+using zebtest::readIntoTool;
 
 class CMXReader : public testing::Test {
  protected:
@@ -20,12 +23,6 @@ class CMXReader : public testing::Test {
   zeb::test::TestFolder m_folder;
   CZEBKNCMXCompParm m_set{0};
 };
-
-std::string readIntoTool(CZEBCMXInternalTool& tool, const std::string& text) {
-  std::istringstream stream(text);
-  tool.readBlocks(stream);
-  return zebtest::exactValues(tool.sections());
-}
 
 TEST_F(CMXReader, BothSpellingsOfGravitySetTheSameField) {
   for (const std::string axis : {"X", "Y", "Z"}) {
