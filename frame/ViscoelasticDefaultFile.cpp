@@ -122,6 +122,10 @@ class TemporaryFile {
     return std::fclose(std::exchange(m_file, nullptr)) == 0 && written;
   }
 
+  /// This job's alone as long as the file stands there.
+  const std::string& name() const { return m_name; }
+
+  /// Replaces a file of that name in one step.
   bool moveTo(const std::string& target) {
     std::error_code error;
     std::filesystem::rename(m_name, target, error);
@@ -142,28 +146,44 @@ bool holds(const std::string& fileName, const std::string& text) {
   return file.gcount() == static_cast<std::streamsize>(text.size()) && content.compare(0, text.size(), text) == 0;
 }
 
-// Moves the user's file aside, the new one into its place; back again when that fails.
-bool replace(const std::string& fileName, TemporaryFile& replacement) {
-  const std::string backup = fileName + ".bak";
-  std::error_code error;
-  std::filesystem::rename(fileName, backup, error);
-  if (error) return false;
-  if (replacement.moveTo(fileName)) return true;
-  std::filesystem::rename(backup, fileName, error);
+// What this library writes for a model before anyone edits it.
+bool isUntouchedDefault(const std::string& fileName) {
+  constexpr int kLastModel = 19;
+  CZEBCMPVEParm block;
+  for (int model = 0; model <= kLastModel; ++model) {
+    block.setVEModel(model);
+    block.InitBoundingParameters();
+    if (holds(fileName, defaultText(block))) return true;
+  }
   return false;
+}
+
+// By now another job may have put its default under the user's name, and a look at the name followed by a rename of it
+// could push that default over the user's file in the backup. So the file gets a second name, `link`, that no other job
+// touches; what is looked at and what becomes the backup is then the same file. The user's name never stands empty.
+bool backUp(const std::string& fileName, const std::string& link, const std::string& text) {
+  std::error_code error, ignored;
+  std::filesystem::create_hard_link(fileName, link, error);
+  if (error) std::filesystem::copy_file(fileName, link, error);  // a file system without links
+  if (!error && !holds(link, text) && !isUntouchedDefault(link)) {
+    std::filesystem::rename(link, fileName + ".bak", error);
+  }
+  // A rename does nothing where the backup is a link to the same file already.
+  std::filesystem::remove(link, ignored);
+  return !error;
 }
 
 bool putFile(const std::string& fileName, const std::string& text) {
   std::error_code error;
   const std::filesystem::file_status status = std::filesystem::status(fileName, error);
   const bool exists = std::filesystem::exists(status);
-  // A device or a folder of that name is nobody's parameter file; it is not moved aside.
+  // A device or a folder of that name is nobody's parameter file; it is not replaced.
   if (exists && !std::filesystem::is_regular_file(status)) return false;
-  // Another job may have been quicker; its file must not push the user's one out of the backup.
   if (exists && holds(fileName, text)) return true;
   TemporaryFile file(fileName);
   if (!file.write(text)) return false;
-  return exists ? replace(fileName, file) : file.moveTo(fileName);
+  if (exists && !backUp(fileName, file.name() + ".bak", text)) return false;
+  return file.moveTo(fileName);
 }
 
 }  // namespace

@@ -25,8 +25,9 @@ int readViscoelasticFile(const std::string& fileName, CZEBCMPVEParm& block, cons
                          ReadObserver* observer, bool writesDefault = true);
 
 /// Writes a complete file with the block's head values, for the user to edit. A regular file that stands there is kept
-/// as `fileName` + ".bak", unless it is the very same; the new one appears whole or not at all. Returns 1; on a failure
-/// prints one line, leaves everything as it was and returns -1.
+/// as `fileName` + ".bak", unless it is such a file that nobody has edited; the new one appears whole or not at all,
+/// also where several jobs write at once. Returns 1; on a failure prints one line, leaves the file as it was and
+/// returns -1.
 int writeDefaultViscoelasticFile(const std::string& fileName, const CZEBCMPVEParm& block);
 
 }  // namespace zeb
