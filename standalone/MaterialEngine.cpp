@@ -1,10 +1,12 @@
 // The material engine's four functions: finding and loading files, handing out and releasing records.
 #include "standalone/MaterialEngine.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <memory>
 #include <mutex>
+#include <set>
 #include <string_view>
 #include <utility>
 
@@ -44,6 +46,33 @@ bool exists(const std::string& file) {
   return std::filesystem::exists(file, ignored);
 }
 
+bool isPlain(const std::string& name) {
+  return std::none_of(name.begin(), name.end(), [](unsigned char c) { return c < 0x20 || c == 0x7f; });
+}
+
+/// The names of a folder's materials that a line of text can hold; none where the folder cannot be read.
+std::set<std::string> materialsIn(const std::string& folder) {
+  std::set<std::string> names;
+  std::error_code error;
+  for (std::filesystem::directory_iterator file(folder, error), end; !error && file != end; file.increment(error)) {
+    const std::string name = file->path().stem().string();
+    if (file->path().extension() == kSuffix && isPlain(name)) names.insert(name);
+  }
+  return names;
+}
+
+/// Helps whoever mistyped a name.
+std::string listOf(const std::set<std::string>& names) {
+  constexpr std::size_t kShown = 10;
+  std::string list;
+  std::size_t count = 0;
+  for (const std::string& name : names) {
+    if (count++ == kShown) return list + ", ...";
+    list += (list.empty() ? "; there are: " : ", ") + name;
+  }
+  return list;
+}
+
 std::string findMaterialFile(const std::string& name) {
   if (name.empty()) throw MaterialFileError("no material named");
   if (name.find('\0') != std::string::npos) throw MaterialFileError("the material's name holds a NUL");
@@ -52,12 +81,15 @@ std::string findMaterialFile(const std::string& name) {
     return name;
   }
   std::string places;
+  std::set<std::string> others;
   for (const std::string& folder : materialFolders()) {
     std::string file = (std::filesystem::path(folder) / (name + std::string(kSuffix))).string();
     if (exists(file)) return file;
     places += (places.empty() ? " in " : ", ") + folder;
+    others.merge(materialsIn(folder));
   }
-  throw MaterialFileError("material '" + name + "' not found" + (places.empty() ? ": no material folders" : places));
+  if (places.empty()) places = ": no material folders";
+  throw MaterialFileError("material '" + name + "' not found" + places + listOf(others));
 }
 
 std::string readFile(const std::string& file) {

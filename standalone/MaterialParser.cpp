@@ -5,7 +5,9 @@
 #include <initializer_list>
 #include <limits>
 #include <nlohmann/json.hpp>
+#include <set>
 
+#include "standalone/MaterialEngine.h"
 #include "standalone/MaterialRecord.hpp"
 
 namespace zeb {
@@ -143,22 +145,9 @@ void readTables(const Node& tables, MaterialRecord& record) {
   }
 }
 
-std::size_t usedCoefficients(int selector) {
-  switch (selector) {
-    case 1:
-      return 1;
-    case 2:
-      return 2;
-    case 3:
-      return 5;
-    default:
-      return 0;
-  }
-}
-
 void readCoefficients(const Node& root, MaterialRecord& record) {
   record.material.pdCoefficient = record.coefficients.data();
-  const std::size_t used = usedCoefficients(record.material.iModel[2]);
+  const auto used = static_cast<std::size_t>(usedCoefficients(record.material.iModel[2]));
   if (used == 0 && !root.has("coefficients")) return;
   const Node list = root.member("coefficients");
   list.listSize(used, record.coefficients.size());
@@ -202,13 +191,30 @@ std::string plainMessage(const std::string& message) {
   return plain;
 }
 
-Json parseJson(const std::string& text) {
-  const auto limitDepth = [](int depth, Json::parse_event_t, Json&) {
+/// Refuses, while a text is parsed, what the JSON library takes: any depth, and the last of two values of one name.
+class ParseGuard {
+ public:
+  void see(int depth, Json::parse_event_t event, const Json& parsed) {
     if (depth > kDeepestNesting) throw MaterialFileError("is nested too deeply");
+    if (event == Json::parse_event_t::object_start) names_.emplace_back();
+    if (event == Json::parse_event_t::object_end) names_.pop_back();
+    if (event != Json::parse_event_t::key) return;
+    const auto& name = parsed.get_ref<const std::string&>();
+    if (!names_.back().insert(name).second) throw MaterialFileError("has the name " + Node::quoted(name) + " twice");
+  }
+
+ private:
+  std::vector<std::set<std::string>> names_;  // of every open object
+};
+
+Json parseJson(const std::string& text) {
+  ParseGuard guard;
+  const auto check = [&guard](int depth, Json::parse_event_t event, const Json& parsed) {
+    guard.see(depth, event, parsed);
     return true;
   };
   try {
-    return Json::parse(text, limitDepth);
+    return Json::parse(text, check);
   } catch (const Json::exception& error) {
     throw MaterialFileError(plainMessage(error.what()));
   }

@@ -1,7 +1,6 @@
 // What rank 0 sends for a material, call by call, and what the other ranks make of it.
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -11,8 +10,12 @@
 #include "standalone/ThreadCommunicator.h"
 #include "tests/material/FakeEngine.h"
 #include "tests/material/MaterialExamples.h"
+#include "tests/material/RecordText.hpp"
 
 namespace {
+
+using zebtest::curvesOf;
+using zebtest::recordText;
 
 // One call for each value: "i 1 2" are two Broadi, "d 0.5" is a Broadd, "c TEXT" a Broadc of the rest of the line; '#'
 // opens a comment.
@@ -153,43 +156,6 @@ struct Example {
 
 void PrintTo(const Example& example, std::ostream* out) { *out << example.name; }
 
-// Everything of a rank's copy but the second to seventh text.
-std::string shared(const CZEBKNMaterialParam& param, int curves) {
-  std::ostringstream out;
-  out << std::hexfloat;
-  const ZebMaterial& material = *param.GetZebMaterial();
-  for (const int value : material.iHeader) out << value << ' ';
-  out << material.szText[0] << '\n';
-  for (const ZebMatParam& table : material.table) {
-    out << table.iA << ' ' << table.iB << ' ' << table.iCount << ':';
-    for (int i = 0; i < table.iCount; ++i) out << ' ' << table.pdValue[i];
-    out << '\n';
-  }
-  for (const int value : material.iModel) out << value << ' ';
-  for (int i = 0; i < 6; ++i) out << material.pdCoefficient[i] << ' ';
-  out << material.dLast << '\n';
-  for (int index = 0; index < curves; ++index) {
-    const ZEB_MTC* const curve = param.GetMtcData(index);
-    if (curve == nullptr) return "no curve " + std::to_string(index);
-    out << curve->iA << ' ' << curve->iB << ' ' << curve->iCount << '\n';
-    for (int i = 0; i < curve->iCount; ++i) {
-      out << curve->pdValue[i];
-      for (const int value : curve->pEntry[i].iValue) out << ' ' << value;
-      for (const double value : curve->pEntry[i].dValue) out << ' ' << value;
-      out << '\n';
-    }
-  }
-  return out.str();
-}
-
-int curvesOf(const CZEBKNMaterialParam& param) {
-  testing::internal::CaptureStdout();
-  int count = 0;
-  while (param.GetMtcData(count) != nullptr) ++count;
-  testing::internal::GetCapturedStdout();
-  return count;
-}
-
 class MaterialProtocol : public testing::TestWithParam<Example> {};
 
 TEST_P(MaterialProtocol, SendsExactlyTheseCalls) {
@@ -208,15 +174,13 @@ TEST_P(MaterialProtocol, ReceiversEndWithTheSameRecord) {
     zeb::RecordingCommunicator com(ranks);
     CZEBKNMaterialParam sender;
     sender.SetInput("PP", &com);
-    const int curves = curvesOf(sender);
     const std::size_t engineCalls = engine.calls.size();
     for (int rank = 1; rank < ranks; ++rank) {
       zeb::ReplayingCommunicator replay(com.log(), rank, ranks);
       CZEBKNMaterialParam receiver;
       EXPECT_EQ(receiver.SetInput("PP", &replay), 1);
       EXPECT_TRUE(replay.finished());
-      EXPECT_EQ(curvesOf(receiver), curves);
-      EXPECT_EQ(shared(receiver, curves), shared(sender, curves));
+      EXPECT_EQ(recordText(receiver), recordText(sender));
     }
     EXPECT_EQ(engine.calls.size(), engineCalls) << "only rank 0 talks to the engine";
   }
@@ -229,11 +193,7 @@ TEST_P(MaterialProtocol, TeamsOfThreadsEndWithTheSameRecord) {
     zeb::ThreadTeam team(ranks);
     std::vector<CZEBKNMaterialParam> params(static_cast<std::size_t>(ranks));
     team.run([&](int rank, CZEBCom& com) { params[static_cast<std::size_t>(rank)].SetInput("PP", &com); });
-    const int curves = curvesOf(params[0]);
-    for (const auto& param : params) {
-      EXPECT_EQ(curvesOf(param), curves);
-      EXPECT_EQ(shared(param, curves), shared(params[0], curves));
-    }
+    for (const auto& param : params) EXPECT_EQ(recordText(param), recordText(params[0]));
   }
 }
 
@@ -269,7 +229,7 @@ TEST(MaterialDistribution, SingleRankSendsNothing) {
   CZEBKNMaterialParam param;
   EXPECT_EQ(param.SetInput("EP", &com), 1);
   EXPECT_EQ(com.log().calls(), std::vector<std::string>{"Barrier"});
-  EXPECT_EQ(curvesOf(param), 2);
+  EXPECT_EQ(curvesOf(param).size(), 2u);
 }
 
 TEST(MaterialDistribution, OtherModelValuesSendNoCoefficients) {
@@ -299,8 +259,8 @@ TEST(MaterialDistribution, UnknownMaterialIsAnEmptyRecordOnAllRanks) {
   CZEBKNMaterialParam receiver;
   EXPECT_EQ(receiver.SetInput("nowhere", &replay), 1);
   EXPECT_TRUE(replay.finished());
-  EXPECT_EQ(curvesOf(receiver), 0);
-  EXPECT_EQ(shared(receiver, 0), shared(sender, 0));
+  EXPECT_TRUE(curvesOf(receiver).empty());
+  EXPECT_EQ(recordText(receiver), recordText(sender));
   EXPECT_STREQ(receiver.GetZebMaterial()->szText[0], "");
   EXPECT_EQ(com.log().calls().back(), "Broadi 0");
 }
@@ -327,7 +287,7 @@ TEST(MaterialDistribution, CountsThatMakeNoSenseAreSentAsZero) {
   EXPECT_TRUE(replay.finished());
   EXPECT_EQ(sender.GetZebMaterial()->table[1].iCount, 0);
   EXPECT_EQ(sender.GetZebMaterial()->table[1].iA, 21);
-  EXPECT_EQ(shared(receiver, 0), shared(sender, 0));
+  EXPECT_EQ(recordText(receiver), recordText(sender));
 }
 
 }  // namespace

@@ -12,14 +12,16 @@
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "cmx/CZEBKNCMXCompParm.h"
 #include "inspect/Settings.hpp"
-#include "standalone/mpi/MpiCommunicator.h"
 #include "stdcmp/CZEBKNstdCMPCompParm.h"
+#include "tests/mpi/Verdict.hpp"
 #include "tests/ranks/Examples.hpp"
 #include "tests/ranks/RankReading.hpp"
 #include "tests/standalone/TestFolder.h"
 #include "tests/stdcmp/PublicValues.hpp"
 
 namespace {
+
+using zebtest::Verdict;
 
 // Reads a file, alone when `com` is null, and returns every value.
 using Reader = std::function<std::string(CZEBCom* com, const std::string& file)>;
@@ -61,44 +63,15 @@ std::string readCMX(CZEBCom* com, const std::string& file) {
   return text;
 }
 
-struct Gathered {
-  std::vector<std::string> ofRank;
-};
-
-void receive(void* context, int rank, const char* text, std::size_t length) {
-  std::vector<std::string>& values = static_cast<Gathered*>(context)->ofRank;
-  values.resize(static_cast<std::size_t>(rank) + 1);
-  values.back().assign(text, length);
+// Only rank 0 is given the file's name: no other rank may need it.
+void compare(Verdict& verdict, const std::string& what, const std::string& file, const Reader& read) {
+  const std::string values = read(&verdict.com(), verdict.isFirst() ? file : "no/such/file.cmp");
+  const std::vector<std::string> ofRanks = zebtest::textsOfRanks(values);
+  if (!verdict.isFirst()) return;
+  const std::string serial = read(nullptr, file);
+  const bool isRead = !serial.empty() && serial != read(nullptr, "no/such/file.cmp");
+  verdict.add(isRead && verdict.areAll(ofRanks, serial), std::filesystem::path(file).filename().string() + ", " + what);
 }
-
-class Comparison {
- public:
-  explicit Comparison(CZEBCom& com) : m_com(com) {}
-
-  // Only rank 0 is given the file's name: no other rank may need it.
-  void compare(const std::string& what, const std::string& file, const Reader& read) {
-    const bool isFirst = m_com.GetCPUId() == 0;
-    const std::string values = read(&m_com, isFirst ? file : "no/such/file.cmp");
-    Gathered gathered;
-    ZebMpiGatherText(values.data(), values.size(), receive, &gathered);
-    if (!isFirst) return;
-    const std::string serial = read(nullptr, file);
-    const bool complete = gathered.ofRank.size() == static_cast<std::size_t>(m_com.GetNCPU());
-    bool same = complete && !serial.empty() && serial != read(nullptr, "no/such/file.cmp");
-    for (const std::string& ofRank : gathered.ofRank) same = same && ofRank == serial;
-    m_same = m_same && same;
-    const std::string name = std::filesystem::path(file).filename().string();
-    std::printf("%-9s %s, %s: %zu ranks\n", same ? "same" : "DIFFERENT", name.c_str(), what.c_str(),
-                gathered.ofRank.size());
-  }
-
-  /// On every rank: whether all comparisons of all ranks were good.
-  bool allSame() const { return ZebMpiAllAgree(m_same ? 1 : 0) == 1; }
-
- private:
-  CZEBCom& m_com;
-  bool m_same = true;
-};
 
 Reader cmpReader(int molding, bool viscoelastic = false) {
   return [molding, viscoelastic](CZEBCom* com, const std::string& file) {
@@ -107,21 +80,21 @@ Reader cmpReader(int molding, bool viscoelastic = false) {
   };
 }
 
-void compareAll(Comparison& comparison) {
+void compareAll(Verdict& verdict) {
   const std::string cover = zebtest::example("thin-wall-cover.cmp");
   for (const std::string& file : zebtest::examples(".cmp")) {
-    comparison.compare("molding type 0", file, cmpReader(0));
-    comparison.compare("standard solver", file, readStd);
+    compare(verdict, "molding type 0", file, cmpReader(0));
+    compare(verdict, "standard solver", file, readStd);
   }
   for (int molding = 1; molding < 15; ++molding) {
-    comparison.compare("molding type " + std::to_string(molding), cover, cmpReader(molding));
+    compare(verdict, "molding type " + std::to_string(molding), cover, cmpReader(molding));
   }
   // In a copy: an invalid viscoelastic file would be replaced.
   const zeb::test::TestFolder folder;
   const std::string copy = folder.write("cover.cmp", zebtest::contentOf(cover));
   folder.write("cover.vecmp", zebtest::contentOf(zebtest::example("thin-wall-cover.vecmp")));
-  comparison.compare("viscoelastic", copy, cmpReader(0, true));
-  for (const std::string& file : zebtest::examples(".cmx")) comparison.compare("analysis settings", file, readCMX);
+  compare(verdict, "viscoelastic", copy, cmpReader(0, true));
+  for (const std::string& file : zebtest::examples(".cmx")) compare(verdict, "analysis settings", file, readCMX);
 }
 
 }  // namespace
@@ -132,10 +105,11 @@ int main() {
   if (com->GetNCPU() < 2) {
     std::printf("needs at least 2 ranks: start it with mpirun\n");
   } else {
-    Comparison comparison(*com);
-    compareAll(comparison);
-    same = comparison.allSame();
-    if (com->GetCPUId() == 0) std::printf("%s\n", same ? "all the same" : "THERE ARE DIFFERENCES");
+    Verdict verdict(*com);
+    compareAll(verdict);
+    zebtest::compareMaterialData(verdict);
+    same = verdict.allGood();
+    if (verdict.isFirst()) std::printf("%s\n", same ? "all the same" : "THERE ARE DIFFERENCES");
   }
   ZebDestroyMpiCommunicator(com);
   return same && !testing::Test::HasFailure() ? 0 : 1;

@@ -39,10 +39,7 @@ std::string exact(double value) {
   return {text, std::to_chars(text, text + sizeof text, value).ptr};
 }
 
-int usedCoefficients(const ZebMaterial& material) {
-  const int model = material.iModel[2];
-  return model == 3 ? 5 : model == 1 || model == 2 ? model : 0;
-}
+int usedCoefficients(const ZebMaterial& material) { return zeb::usedCoefficients(material.iModel[2]); }
 
 // GetMtcData alone knows the number of curves: it ends with a null and a line of text, which nobody is to see.
 std::vector<const ZEB_MTC*> curvesOf(const CZEBKNMaterialParam& material) {
@@ -157,15 +154,18 @@ std::string joined(const int* values, int count) {
   return text;
 }
 
-void printRecord(const ZebMaterial& material) {
+// As in the material file: no control character of it reaches the terminal.
+std::string quoted(const char* text) { return Json(text).dump(-1, ' ', false, Json::error_handler_t::replace); }
+
+void printRecord(const ZebMaterial& material, bool isOneOfSeveral) {
   const auto line = [](const std::string& name, const std::string& value) {
     std::cout << "  " << padded(name, 14) << value << '\n';
   };
   std::cout << coloured(Colour::kBold, "Record") << '\n';
   line("header", joined(material.iHeader, 6));
   for (int i = 0; i < 7; ++i) {
-    const std::string note = i == 0 ? "" : "  " + coloured(Colour::kDim, "(on rank 0 only)");
-    line("text " + std::to_string(i + 1), '"' + std::string(material.szText[i]) + '"' + note);
+    const std::string note = isOneOfSeveral && i > 0 ? "  " + coloured(Colour::kDim, "(on rank 0 only)") : "";
+    line("text " + std::to_string(i + 1), quoted(material.szText[i]) + note);
   }
   line("model", joined(material.iModel, 4));
   line("coefficients",
@@ -203,7 +203,7 @@ void printCurve(int number, const ZEB_MTC& curve) {
 void printText(const MaterialArguments& arguments, const Loaded& loaded) {
   const ZebMaterial& material = *loaded.material->GetZebMaterial();
   std::cout << coloured(Colour::kBold, arguments.name) << "\n\n";
-  printRecord(material);
+  printRecord(material, loaded.ranks.ranks > 1);
   std::string empty;
   for (int i = 0; i < 17; ++i) {
     const ZebMatParam& table = material.table[i];
