@@ -91,9 +91,13 @@ const Section& sectionOf(const DispatchRow& row) {
 }  // namespace
 
 std::vector<DispatchEntry> cmpSections(CZEBCMPInternalTool& tool) {
-  std::vector<DispatchEntry> entries;
-  entries.reserve(std::size(kRows));
-  for (const DispatchRow& row : kRows) entries.push_back({&sectionOf(row), row.block.locate(tool)});
+  static const std::vector<DispatchEntry> kWithoutBlocks = [] {
+    std::vector<DispatchEntry> entries;
+    for (const DispatchRow& row : kRows) entries.push_back({&sectionOf(row), nullptr});
+    return entries;
+  }();
+  std::vector<DispatchEntry> entries = kWithoutBlocks;
+  for (std::size_t i = 0; i < entries.size(); ++i) entries[i].block = kRows[i].block.locate(tool);
   return entries;
 }
 

@@ -1,4 +1,4 @@
-// All keys of a section that stand anywhere in a line, found in one pass over the line.
+// All keys of a section that stand anywhere in a line, and the section's closing tag, found in one pass over the line.
 //
 // Every occurrence of a key covers a window of three characters that starts at a position divisible by the stride. So
 // the scan looks only at those windows; the table, built by the compiler, knows which keys hold which window, and a hit
@@ -22,12 +22,7 @@ class KeySet {
   constexpr void insert(std::size_t key) { m_bits[key / 64] |= std::uint64_t{1} << (key % 64); }
   constexpr bool empty() const { return (m_bits[0] | m_bits[1]) == 0; }
   /// Takes out the smallest key. The set must not be empty.
-  constexpr std::size_t popFirst() {
-    const std::size_t word = m_bits[0] == 0 ? 1 : 0;
-    const auto bit = static_cast<std::size_t>(std::countr_zero(m_bits[word]));
-    m_bits[word] &= m_bits[word] - 1;
-    return word * 64 + bit;
-  }
+  constexpr std::size_t popFirst() { return m_bits[0] != 0 ? popFirst(m_bits[0]) : 64 + popFirst(m_bits[1]); }
   /// Takes out every key up to and including `key`.
   constexpr void dropUpTo(std::size_t key) {
     while (!empty() && first() <= key) popFirst();
@@ -36,6 +31,11 @@ class KeySet {
 
  private:
   constexpr std::size_t first() const { return KeySet(*this).popFirst(); }
+  static constexpr std::size_t popFirst(std::uint64_t& word) {
+    const int bit = std::countr_zero(word);
+    word &= word - 1;
+    return static_cast<std::size_t>(bit);
+  }
 
   std::uint64_t m_bits[2] = {};
 };
@@ -43,23 +43,32 @@ class KeySet {
 /// The view of a filter that the scan works on; the tables behind it have static storage.
 struct KeyFilter {
   struct Entry {
-    std::uint32_t window;  // the characters, as loaded from memory
+    std::uint32_t window;  // the characters, the first in the low byte
     std::uint8_t key;
     std::uint8_t offset;  // of the window in the key
     std::uint8_t next;    // chain: number of the next entry + 1, 0 at the end
   };
 
+  /// What stands in a line.
+  struct Hits {
+    KeySet keys;
+    bool closingTag = false;
+  };
+
   std::span<const std::string_view> keys;
+  const std::string_view* texts = nullptr;  // the keys and, behind them, the closing tag
   const Entry* entries = nullptr;
   const std::uint8_t* heads = nullptr;  // by hash: number of the first entry + 1, 0 for none
   unsigned shift = 0;
   std::uint8_t window = 0;
   std::uint8_t stride = 1;
 
-  static constexpr std::uint32_t kMultiplier = 0x9E3779B1u;
+  // The low byte is zero: so a fourth character loaded with the window multiplies out of the hash.
+  static constexpr std::uint32_t kMultiplier = 0x3779B100u;
 
   /// Requires that one more character may be read behind the line's last one (as in every std::string).
-  KeySet find(std::string_view line) const;
+  Hits find(std::string_view line) const;
+  std::string_view closingTag() const { return texts[keys.size()]; }
 };
 
 namespace detail {
@@ -67,14 +76,13 @@ namespace detail {
 constexpr std::uint32_t windowAt(std::string_view text, std::size_t at, std::size_t width) {
   std::uint32_t window = 0;
   for (std::size_t i = 0; i < width; ++i) {
-    const std::uint32_t byte = static_cast<unsigned char>(text[at + i]);
-    const std::size_t position = std::endian::native == std::endian::little ? i : 3 - i;
-    window |= byte << (8 * position);
+    window |= std::uint32_t{static_cast<unsigned char>(text[at + i])} << (8 * i);
   }
   return window;
 }
 
-/// The tables of a filter for `Count` keys whose shortest has `Shortest` characters.
+/// The tables of a filter for `Count` texts, the last of which is the closing tag; the shortest has `Shortest`
+/// characters.
 template <std::size_t Count, std::size_t Shortest>
 struct KeyFilterTables {
   static_assert(Count <= KeySet::kCapacity);
@@ -87,7 +95,7 @@ struct KeyFilterTables {
   static constexpr unsigned kBits = static_cast<unsigned>(std::bit_width(kEntries * 16 - 1));
   static constexpr unsigned kShift = 32 - kBits;
 
-  std::array<std::string_view, Count> keys{};
+  std::array<std::string_view, Count> texts{};
   std::array<KeyFilter::Entry, kEntries> entries{};
   std::array<std::uint8_t, std::size_t{1} << kBits> heads{};
 
@@ -95,11 +103,11 @@ struct KeyFilterTables {
     return (windowAt(key, at, kWindow) * KeyFilter::kMultiplier) >> kShift;
   }
 
-  constexpr explicit KeyFilterTables(const std::array<std::string_view, Count>& allKeys) : keys(allKeys) {
+  constexpr explicit KeyFilterTables(const std::array<std::string_view, Count>& allTexts) : texts(allTexts) {
     // A key's windows may be taken anywhere in it: those that the section's keys share least give the fewest false
     // hits.
     std::array<std::uint8_t, std::size_t{1} << kBits> uses{};
-    for (const auto key : keys) {
+    for (const auto key : texts) {
       for (std::size_t at = 0; at + kWindow <= key.size(); ++at) {
         auto& count = uses[hash(key, at)];
         if (count < 255) ++count;
@@ -107,10 +115,10 @@ struct KeyFilterTables {
     }
     std::size_t entry = 0;
     for (std::size_t k = 0; k < Count; ++k) {
-      const std::size_t first = rarest(keys[k], uses);
+      const std::size_t first = rarest(texts[k], uses);
       for (std::size_t offset = first; offset < first + kStride; ++offset) {
-        auto& head = heads[hash(keys[k], offset)];
-        entries[entry] = {windowAt(keys[k], offset, kWindow), static_cast<std::uint8_t>(k),
+        auto& head = heads[hash(texts[k], offset)];
+        entries[entry] = {windowAt(texts[k], offset, kWindow), static_cast<std::uint8_t>(k),
                           static_cast<std::uint8_t>(offset), head};
         head = static_cast<std::uint8_t>(++entry);
       }
@@ -132,7 +140,9 @@ struct KeyFilterTables {
     return best;
   }
 
-  constexpr KeyFilter view() const { return {keys, entries.data(), heads.data(), kShift, kWindow, kStride}; }
+  constexpr KeyFilter view() const {
+    return {std::span(texts).first(Count - 1), texts.data(), entries.data(), heads.data(), kShift, kWindow, kStride};
+  }
 };
 
 }  // namespace detail

@@ -113,6 +113,20 @@ struct Row {
   Position at[2] = {};  // in a positional section; the later one wins
   std::string_view unit = {};
   std::string_view doc = {};
+
+  /// Whether reading the key comes to nothing more than parsing a number into the member.
+  constexpr bool isPlainNumber() const {
+    const bool isNumber = field.type == FieldType::kInt || field.type == FieldType::kDouble;
+    return isNumber && lookup == Lookup::kByType && otherKey.empty() && rule.none() && !count && store == nullptr &&
+           list == nullptr && echo.label.empty();
+  }
+};
+
+/// All that the reader needs of a row that is a plain number, close together: rows are large, and most of what a file
+/// sets are plain numbers.
+struct PlainNumber {
+  FieldType type = FieldType::kNone;  // kNone: the row asks for more
+  void* (*locate)(void* block) = nullptr;
 };
 
 /// Whether the list that `announcing` opens sets the member of `row`.
@@ -142,6 +156,7 @@ struct Section {
   std::span<const std::uint8_t> readingOrder = {};  // row of each key, in the order in which the reader tests the keys
   KeyFilter filter = {};                            // numbers the keys in that order
   int gate = -1;                                    // number of the key whose member is the gate
+  std::span<const PlainNumber> plainNumbers = {};   // by key
   bool closingLineIsRead = false;                   // the closing line's keys count too
   int headVersion = 0;                              // a head behind "[VER]": read only for this version number
   bool readByRank0 = false;                         // rank 0 reads the stream by itself and broadcasts the members

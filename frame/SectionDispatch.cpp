@@ -1,6 +1,8 @@
 // Openings are rare, so the test for their first character decides most lines.
 #include "frame/SectionDispatch.hpp"
 
+#include <algorithm>
+
 #include "frame/Rank0Section.hpp"
 #include "frame/ReadObserver.hpp"
 #include "frame/SectionEngine.hpp"
@@ -30,9 +32,8 @@ void run(const DispatchEntry& entry, const std::string& line, LineReader& lines)
 }
 
 // Whether the opening stands at the text's first bracket or, where there are more of them, at another one.
-bool opens(std::string_view fromFirstBracket, bool hasMoreBrackets, std::string_view open) {
-  if (fromFirstBracket.size() < open.size()) return false;
-  if (fromFirstBracket[1] == open[1] && fromFirstBracket.starts_with(open)) return true;
+bool holds(std::string_view fromFirstBracket, bool hasMoreBrackets, std::string_view open) {
+  if (fromFirstBracket.starts_with(open)) return true;
   return hasMoreBrackets && fromFirstBracket.find(open, 1) != fromFirstBracket.npos;
 }
 
@@ -46,10 +47,15 @@ bool dispatchLine(std::span<const DispatchEntry> entries, const std::string& lin
   if (first != line.npos) {
     const std::string_view candidates = std::string_view(line).substr(first);
     const bool hasMore = candidates.find(bracket, 1) != candidates.npos;
-    for (const DispatchEntry& entry : entries) {
-      if (!opens(candidates, hasMore, entry.section->open)) continue;
-      run(entry, line, lines);
-      opened = true;
+    const char initial = line.c_str()[first + 1];
+    const auto mayOpen = [=](const DispatchEntry& entry) { return entry.initial == initial || hasMore; };
+    auto entry = entries.begin();
+    while ((entry = std::find_if(entry, entries.end(), mayOpen)) != entries.end()) {
+      if (holds(candidates, hasMore, entry->section->open)) {
+        run(*entry, line, lines);
+        opened = true;
+      }
+      ++entry;
     }
   }
   if (!opened && lines.observer() != nullptr) [[unlikely]] {

@@ -14,6 +14,8 @@ namespace zeb {
 struct DispatchEntry {
   const Section* section;
   void* block;
+  /// What follows the opening's bracket, at hand for the test that refuses most sections.
+  char initial = section->open.size() > 1 ? section->open[1] : '\0';
 };
 
 /// Runs, in the order of `entries`, every section whose opening stands anywhere in the line. Each takes its lines from

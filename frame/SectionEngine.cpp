@@ -122,11 +122,6 @@ bool repeatsFirstSpelling(const Found& found, std::string_view line) {
   return found.key == found.row.otherKey && line.find(found.row.key) != line.npos;
 }
 
-void reportGated(const Found& found, std::string_view line) {
-  const std::string_view value = valueText(line);
-  report(found, line, value, 0, KeyOutcome::kGated);
-}
-
 }  // namespace
 
 bool fills(const Row& announcing, const Row& row) {
@@ -197,39 +192,60 @@ void refuseCount(const ListContext& context, std::string_view key, int count) {
   releaseLists(context.section, context.row, context.block);
 }
 
-bool readKeys(const Section& section, void* block, LineReader& lines, std::string& line) {
-  KeySet keys = section.filter.find(line);
+namespace {
+
+void storePlainNumber(const PlainNumber& plain, void* block, std::string_view value) {
+  if (plain.type == FieldType::kInt) {
+    extractInt(value, *static_cast<int*>(plain.locate(block)));
+  } else {
+    extractDouble(value, *static_cast<double*>(plain.locate(block)));
+  }
+}
+
+// All that a key does: value, echo, list.
+ListResult readKey(const Found& found, std::string& line, std::string_view value) {
+  if (repeatsFirstSpelling(found, line)) return ListResult::kSameLine;
+  const Stored stored = parseAndStore(found, value);
+  report(found, line, value, stored.used, stored.outcome);
+  if (stored.outcome != KeyOutcome::kStored) return ListResult::kSameLine;
+  if (!found.row.echo.label.empty()) echo(found);
+  if (found.row.list == nullptr) return ListResult::kSameLine;
+  ListContext context{found.section, found.row, found.block, found.lines, line};
+  return found.row.list(context);
+}
+
+// Reads the keys that stand in the line, in the section's order. False when a list met the section's end.
+bool readKeys(const Section& section, void* block, LineReader& lines, std::string& line, KeySet keys) {
+  const bool observed = lines.observer() != nullptr;
   if (keys.empty()) {
-    if (lines.observer() != nullptr) [[unlikely]] {
-      lines.observer()->lineWithoutKey(section, lines.lineNumber(), line);
-    }
-    if (section.gate < 0) return true;
+    if (observed) lines.observer()->lineWithoutKey(section, lines.lineNumber(), line);
+    return true;
   }
   std::string_view value = valueText(line);
   while (!keys.empty()) {
     const std::size_t number = keys.popFirst();
-    const Found found{section, section.rows[section.readingOrder[number]], section.filter.keys[number], block, lines};
-    if (section.gate >= 0 && static_cast<int>(number) > section.gate && isGateClosed(section, block)) {
-      reportGated(found, line);
+    const PlainNumber& plain = section.plainNumbers[number];
+    if (plain.type != FieldType::kNone && !observed) {
+      storePlainNumber(plain, block, value);
       continue;
     }
-    if (repeatsFirstSpelling(found, line)) continue;
-    const Stored stored = parseAndStore(found, value);
-    report(found, line, value, stored.used, stored.outcome);
-    if (stored.outcome != KeyOutcome::kStored) continue;
-    if (!found.row.echo.label.empty()) echo(found);
-    if (found.row.list == nullptr) continue;
-    ListContext context{section, found.row, block, lines, line};
-    const ListResult result = found.row.list(context);
+    const Found found{section, section.rows[section.readingOrder[number]], section.filter.keys[number], block, lines};
+    if (section.gate >= 0 && static_cast<int>(number) > section.gate && isGateClosed(section, block)) {
+      report(found, line, value, 0, KeyOutcome::kGated);
+      continue;
+    }
+    const ListResult result = readKey(found, line, value);
     if (result == ListResult::kSectionEnded) return false;
     if (result == ListResult::kNextLine) {
-      keys = section.filter.find(line);
+      keys = section.filter.find(line).keys;
       keys.dropUpTo(number);
       value = valueText(line);
     }
   }
   return true;
 }
+
+}  // namespace
 
 void readSection(const Section& section, void* block, LineReader& lines) {
   if (lines.observer() != nullptr) [[unlikely]] {
@@ -238,9 +254,10 @@ void readSection(const Section& section, void* block, LineReader& lines) {
   std::string& line = lines.sectionLine();
   bool closed = false;
   while (!closed && lines.next(line)) {
-    closed = isClosedBy(section, line);
+    const KeyFilter::Hits hits = section.filter.find(line);
+    closed = hits.closingTag;
     if (closed && !section.closingLineIsRead) break;
-    if (!readKeys(section, block, lines, line)) closed = isClosedBy(section, line);
+    if (!readKeys(section, block, lines, line, hits.keys)) closed = isClosedBy(section, line);
   }
   if (lines.observer() != nullptr) [[unlikely]] {
     if (closed) {

@@ -22,9 +22,6 @@ struct ListContext {
 /// Reads the lines of a keyed section into the block, up to and including its closing line or to the end of the input.
 void readSection(const Section& section, void* block, LineReader& lines);
 
-/// Tests every key of the section on one line and stores what is found. False when a list met the section's end.
-bool readKeys(const Section& section, void* block, LineReader& lines, std::string& line);
-
 /// Reads a positional section's lines straight into the block. False when its version line does not match: then
 /// only that line has been taken.
 bool readPositional(const Section& section, void* block, LineReader& lines);

@@ -53,7 +53,7 @@ struct Tags {
 };
 
 /// The keys of a section in the order in which the reader tests them, with their rows and their filter.
-template <const auto& Rows, const auto& KeyOrder>
+template <const auto& Rows, const auto& KeyOrder, class SectionTags>
 struct Reading {
   static constexpr std::size_t countKeys() {
     std::size_t count = 0;
@@ -98,11 +98,18 @@ struct Reading {
   static constexpr Keys kKeys = collect();
 
   static constexpr std::size_t shortest() {
-    std::size_t length = ~std::size_t{0};
+    std::size_t length = SectionTags::kClose.size();
     for (const auto key : kKeys.key) length = std::min(length, key.size());
     return length;
   }
-  static constexpr KeyFilterTables<kCount, shortest()> kFilter{kKeys.key};
+  // The closing tag is one more text to look for, so that no line is searched twice.
+  static constexpr auto withClosingTag() {
+    std::array<std::string_view, kCount + 1> texts{};
+    std::copy(kKeys.key.begin(), kKeys.key.end(), texts.begin());
+    texts.back() = SectionTags::kClose;
+    return texts;
+  }
+  static constexpr KeyFilterTables<kCount + 1, shortest()> kFilter{withClosingTag()};
 
   static constexpr int gate() {
     int found = -1;
@@ -113,6 +120,17 @@ struct Reading {
     }
     return found;
   }
+
+  static constexpr auto collectPlainNumbers() {
+    std::array<PlainNumber, kCount> plain{};
+    for (std::size_t k = 0; k < kCount; ++k) {
+      const Row& row = Rows[kKeys.row[k]];
+      const bool gated = gate() >= 0 && static_cast<int>(k) > gate();
+      if (row.isPlainNumber() && !gated) plain[k] = {row.field.type, row.field.locate};
+    }
+    return plain;
+  }
+  static constexpr auto kPlainNumbers = collectPlainNumbers();
 };
 
 template <const auto& Rows, const auto& Layout>
@@ -187,7 +205,7 @@ constexpr std::string_view className() {
 
 template <FixedText Name, FixedText CloseName, char Open, char Close, const auto& Rows, const auto& KeyOrder>
 constexpr Section keyed() {
-  using Read = Reading<Rows, KeyOrder>;
+  using Read = Reading<Rows, KeyOrder, Tags<CloseName, Open, Close>>;
   Section section;
   section.name = Tags<Name, Open, Close>::kOpen.substr(1, Name.view().size());
   section.open = Tags<Name, Open, Close>::kOpen;
@@ -196,6 +214,7 @@ constexpr Section keyed() {
   section.readingOrder = Read::kKeys.row;
   section.filter = Read::kFilter.view();
   section.gate = Read::gate();
+  section.plainNumbers = Read::kPlainNumbers;
   return section;
 }
 

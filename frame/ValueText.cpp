@@ -21,7 +21,7 @@ constexpr bool isSign(char c) { return c == '+' || c == '-'; }
 constexpr char toLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; }
 
 const char* skipSpace(const char* at, const char* end) {
-  while (at != end && isSpace(*at)) ++at;
+  while (at != end && *at <= ' ' && isSpace(*at)) ++at;  // most texts start right away: one comparison
   return at;
 }
 
@@ -73,22 +73,22 @@ const char* readShortDecimal(const char* at, const char* end, double& value) {
                                        1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
   constexpr int kLargestPower = 22;
   constexpr std::ptrdiff_t kMostDigits = 18;
+  if (at == end) return nullptr;
   const bool negative = *at == '-';
   if (isSign(*at)) ++at;
   std::uint64_t digits = 0;
-  const char* const first = at;
   const auto readDigits = [&] {
     const char* const start = at;
     for (; at != end && isDigit(*at); ++at) digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
     return at - start;
   };
-  readDigits();
-  std::ptrdiff_t power = 0;
+  std::ptrdiff_t count = readDigits(), power = 0;
   if (at != end && *at == '.') {
     ++at;
     power = -readDigits();
+    count -= power;
   }
-  if (at - first > kMostDigits || digits > std::uint64_t{1} << 53) return nullptr;
+  if (count == 0 || count > kMostDigits || digits > std::uint64_t{1} << 53) return nullptr;
   if (at != end && (*at | 0x20) == 'e') {
     int exponent = 0;
     const char* const number = skipPlus(at + 1, end);
@@ -109,8 +109,8 @@ const char* readShortDecimal(const char* at, const char* end, double& value) {
 // A whole decimal number without its optional exponent's mistakes; null when there is none. `tooLarge` replaces what
 // does not fit a double (what is too small becomes a signed zero, as with the C library).
 const char* readDecimal(const char* at, const char* end, double tooLarge, double& value) {
-  if (!isDecimal(at, end)) return nullptr;
   if (const char* after = readShortDecimal(at, end, value)) return after;
+  if (!isDecimal(at, end)) return nullptr;
   const auto result = std::from_chars(skipPlus(at, end), end, value);
   if (result.ec == std::errc::invalid_argument) return nullptr;
   if (result.ec == std::errc::result_out_of_range) {
@@ -120,9 +120,23 @@ const char* readDecimal(const char* at, const char* end, double tooLarge, double
   return result.ptr;
 }
 
+// So few digits fit an int whatever they are. Null where from_chars has to do it.
+const char* readShortInt(const char* at, const char* end, int& value) {
+  constexpr std::ptrdiff_t kMostDigits = 9;
+  const bool negative = at != end && *at == '-';
+  if (negative) ++at;
+  const char* const first = at;
+  unsigned magnitude = 0;
+  for (; at != end && isDigit(*at); ++at) magnitude = magnitude * 10 + static_cast<unsigned>(*at - '0');
+  if (at == first || at - first > kMostDigits) return nullptr;
+  value = negative ? -static_cast<int>(magnitude) : static_cast<int>(magnitude);
+  return at;
+}
+
 const char* readInt(const char* at, const char* end, int& value) {
   const char* digits = skipPlus(at, end);
   if (digits != at && digits != end && *digits == '-') return nullptr;  // "+-1" is no number
+  if (const char* after = readShortInt(digits, end, value)) return after;
   const auto result = std::from_chars(digits, end, value);
   return result.ec == std::errc() ? result.ptr : nullptr;
 }

@@ -95,7 +95,9 @@ void checkFilter(const zeb::KeyFilter& filter, const std::string& line) {
   for (std::size_t key = 0; key < filter.keys.size(); ++key) {
     if (line.find(filter.keys[key]) != line.npos) expected.insert(key);
   }
-  require(filter.find(line) == expected, "the search finds other keys");
+  const zeb::KeyFilter::Hits hits = filter.find(line);
+  require(hits.keys == expected, "the search finds other keys");
+  require(hits.closingTag == (line.find(filter.closingTag()) != line.npos), "the search finds another closing tag");
 }
 
 }  // namespace

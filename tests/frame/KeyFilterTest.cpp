@@ -35,7 +35,9 @@ void expectSameKeys(const zeb::KeyFilter& filter, const std::string& line) {
   for (std::size_t key = 0; key < filter.keys.size(); ++key) {
     if (line.find(filter.keys[key]) != std::string::npos) expected.insert(key);
   }
-  ASSERT_EQ(filter.find(line), expected) << "line: " << line;
+  const zeb::KeyFilter::Hits hits = filter.find(line);
+  ASSERT_EQ(hits.keys, expected) << "line: " << line;
+  ASSERT_EQ(hits.closingTag, line.find(filter.closingTag()) != std::string::npos) << "line: " << line;
 }
 
 TEST(KeyFilter, FindsExactlyTheKeysOfEverySectionOfEveryBlock) {

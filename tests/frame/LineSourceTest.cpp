@@ -171,6 +171,33 @@ TEST_P(LineEnd, OnEveryRank) { EXPECT_EQ(readOnRanks(GetParam().content), GetPar
 
 INSTANTIATE_TEST_SUITE_P(Texts, LineEnd, testing::ValuesIn(kTexts), [](const auto& test) { return test.param.name; });
 
+TEST(LineSource, LinesThatMeetTheEndOfAnyBufferAreWhole) {
+  Lines expected;
+  std::string content;
+  for (std::size_t length = 0; length < 700; ++length) {
+    expected.push_back(std::string(length, static_cast<char>('a' + length % 26)));
+    content += expected.back() + "\n";
+  }
+  EXPECT_EQ(readSerially(content), expected);
+  const zebtest::TemporaryFile file(content);
+  std::ifstream opened, plain(file.path());
+  ASSERT_EQ(zeb::openFile(opened, file.path()), 1);
+  EXPECT_EQ(readAll({}, opened), expected);
+  EXPECT_EQ(readAll({}, plain), expected);
+}
+
+TEST(LineSource, LeavesTheStreamAtTheNextLine) {
+  std::istringstream stream("first\nsecond\nthird\n");
+  std::string line;
+  ASSERT_EQ(zeb::LineSource{}.getLine(stream, line), 1);
+  EXPECT_EQ(line, "first");
+  EXPECT_EQ(stream.tellg(), std::istringstream::pos_type(6));
+  ASSERT_TRUE(std::getline(stream, line));
+  EXPECT_EQ(line, "second");
+  ASSERT_EQ(zeb::LineSource{}.getLine(stream, line), 1);
+  EXPECT_EQ(line, "third");
+}
+
 struct FileText {
   const char* name;
   std::string content;
