@@ -2,12 +2,6 @@
 
 #include "frame/TableBuilder.hpp"
 
-namespace {
-
-constexpr std::uint16_t kLongestName = 254;  // hosts may copy the name into 255 characters
-
-}  // namespace
-
 CZEBCMX_SOLID_FILL::CZEBCMX_SOLID_FILL() = default;
 CZEBCMX_SOLID_FILL::CZEBCMX_SOLID_FILL(const CZEBCMX_SOLID_FILL& other) = default;
 CZEBCMX_SOLID_FILL::~CZEBCMX_SOLID_FILL() = default;
@@ -50,10 +44,7 @@ int CZEBCMX_SOLID_FILL::nParticleGroup() const { return m_nParticleGroup; }
 int CZEBCMX_SOLID_FILL::iWeldLineParticleTracer() const { return m_iWeldLineParticleTracer; }
 int CZEBCMX_SOLID_FILL::iCrystalline() const { return m_iCrystalline; }
 int CZEBCMX_SOLID_FILL::iInitChargeFiberOrientation() const { return m_iInitChargeFiberOrientation; }
-const char* CZEBCMX_SOLID_FILL::strInitChargeFiber() const {
-  const char* name = m_strInitChargeFiber.get();
-  return name != nullptr ? name : "";
-}
+const char* CZEBCMX_SOLID_FILL::strInitChargeFiber() const { return m_strInitChargeFiber.get(); }
 int CZEBCMX_SOLID_FILL::iIMDCtrl() const { return m_iIMDCtrl; }
 int CZEBCMX_SOLID_FILL::iStopPackingAfterGateFreeze() const { return m_iStopPackingAfterGateFreeze; }
 int CZEBCMX_SOLID_FILL::iGateFreezeByTemperature() const { return m_iGateFreezeByTemperature; }
@@ -142,7 +133,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_SOLID_FILL>() {
       {.field = field<&T::m_iInitChargeFiberOrientation, &T::iInitChargeFiberOrientation>(),
        .key = "FlagInitChargeFiberOrientation", .doc = "Switch: the charge has an initial fiber orientation."},
       {.field = field<&T::m_strInitChargeFiber, &T::strInitChargeFiber>(), .key = "ValueInitChargeFiberExchangeName",
-       .lookup = Lookup::kWord, .longestText = kLongestName,
+       .lookup = Lookup::kWord, .textBuffer = T::kNameSize,
        .doc = "Name of the exchange file with the charge's initial fiber orientation."},
       {.field = field<&T::m_iIMDCtrl, &T::iIMDCtrl>(), .key = "FlagConsiderIMDBC",
        .doc = "Switch: the boundary condition of in-mold decoration is considered."},

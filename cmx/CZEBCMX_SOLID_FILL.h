@@ -50,8 +50,8 @@ class CZEBCMX_SOLID_FILL {
   int iWeldLineParticleTracer() const;
   int iCrystalline() const;
   int iInitChargeFiberOrientation() const;
-  /// Name of the exchange file with the initial fiber orientation, at most 254 characters and never null: empty by
-  /// default. Valid until the block is destroyed; not owned by the caller.
+  /// Name of the exchange file with the initial fiber orientation, never null and empty by default, in a buffer
+  /// of 255 characters. Valid until the block is destroyed; not owned by the caller.
   const char* strInitChargeFiber() const;
   int iIMDCtrl() const;
   int iStopPackingAfterGateFreeze() const;
@@ -102,7 +102,8 @@ class CZEBCMX_SOLID_FILL {
   int m_iWeldLineParticleTracer = 0;
   int m_iCrystalline = 0;
   int m_iInitChargeFiberOrientation = 0;
-  zeb::OwnedText m_strInitChargeFiber;
+  static constexpr unsigned short kNameSize = 255;
+  zeb::OwnedText m_strInitChargeFiber{kNameSize};
   int m_iIMDCtrl = 0;
   int m_iStopPackingAfterGateFreeze = 0;
   int m_iGateFreezeByTemperature = 0;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstring>
+#include <locale>
 #include <streambuf>
 #include <string_view>
 
@@ -61,16 +62,14 @@ int LineSource::getLine(std::istream& stream, std::string& line) const {
 }
 
 int LineSource::shareLine(std::istream& stream, std::string& line) const {
-  char buffer[kLineMax];
+  char buffer[ZEBLINE_MAX];
   int end = 0;
   if (com->GetCPUId() == 0) {
     if (readLine(stream, line)) {
-      const std::size_t length = std::min(line.size(), kLineMax - 1);
+      const std::size_t length = std::min(line.size(), ZEBLINE_MAX - 1);
       std::memcpy(buffer, line.data(), length);
-      std::memset(buffer + length, 0, kLineMax - length);
-      if (traces()) {
-        writeOut(" - CPUID:" + std::to_string(com->GetCPUId()) + " string: " + std::string(buffer, length) + "\n");
-      }
+      std::memset(buffer + length, 0, ZEBLINE_MAX - length);
+      if (traces()) trace(alwaysTrace ? std::string_view(line) : std::string_view(buffer, length));
     } else {
       end = -1;
     }
@@ -79,12 +78,17 @@ int LineSource::shareLine(std::istream& stream, std::string& line) const {
   com->Broadi(end);
   if (end != 0) return 0;
   com->Broadc(buffer);
-  buffer[kLineMax - 1] = '\0';
+  buffer[ZEBLINE_MAX - 1] = '\0';
   line.assign(buffer);
   return 1;
 }
 
+void LineSource::trace(std::string_view text) const {
+  writeOut(" - CPUID:" + std::to_string(com->GetCPUId()) + " string: " + std::string(text) + "\n");
+}
+
 int openFile(std::ifstream& stream, const std::string& fileName) {
+  stream.imbue(std::locale::classic());  // a host's global locale may take characters for others
   CZEBFileIO opener;
   opener.ZEBOpenFile(stream, fileName.c_str(), kZEBOpenRead, 500, 10);
   return stream.good() ? 1 : -1;

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <istream>
 #include <string>
+#include <string_view>
 
 #include "platform/ZEBCom.h"
 
@@ -12,14 +13,14 @@ namespace zeb {
 class ReadObserver;
 
 /// The unit of broadcast, fixed by CZEBCom::Broadc.
-constexpr std::size_t kLineMax = 255;
+constexpr std::size_t ZEBLINE_MAX = 255;
 
 /// What the readers' line sources have in common and where they differ.
 struct LineSource {
-  CZEBCom* com = nullptr;  ///< Not owned; null means serial: no collective call, no limit to a line's length.
-  int printLevel = 0;      ///< Above 0, rank 0 traces every line that it hands on through a communicator.
-  bool barrier = true;     ///< Meet at a barrier before the broadcasts.
-  bool alwaysTrace = false;
+  CZEBCom* com = nullptr;    ///< Not owned; null means serial: no collective call, no limit to a line's length.
+  int printLevel = 0;        ///< Above 0, rank 0 traces every line that it hands on through a communicator.
+  bool barrier = true;       ///< Meet at a barrier before the broadcasts.
+  bool alwaysTrace = false;  ///< Whatever the print level, and the whole line also where it is cut for the others.
 
   /// Whether this process opens and reads the file.
   bool reads() const { return com == nullptr || com->GetCPUId() == 0; }
@@ -33,6 +34,7 @@ struct LineSource {
 
  private:
   int shareLine(std::istream& stream, std::string& line) const;
+  void trace(std::string_view text) const;
 };
 
 /// Opens a parameter file through the platform. Returns 1, or -1 (silently) when it cannot be opened: the file is

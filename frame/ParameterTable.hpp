@@ -100,7 +100,7 @@ struct Row {
   std::string_view key = {};       // empty: no key sets the member
   std::string_view otherKey = {};  // a second spelling of the key
   Lookup lookup = Lookup::kByType;
-  std::uint16_t longestText = 0;  // a longer text is cut; 0: no limit
+  std::uint16_t textBuffer = 0;  // size of the buffer that a text is cut to; 0: as large as the text needs
   Rule rule = {};
   int gateBelow = kNoGate;       // while the int member is below, the line's later keys are skipped
   bool count = false;            // sizes a list: negative or above kLargestCount is refused

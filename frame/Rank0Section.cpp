@@ -18,9 +18,9 @@ void shareText(OwnedText& text, CZEBCom& com, bool isSource) {
   if (length < 0) return;
   const auto size = static_cast<std::size_t>(length);
   content.resize(size);
-  for (std::size_t at = 0; at < size; at += kLineMax - 1) {
-    char piece[kLineMax] = {};
-    const std::size_t count = std::min(kLineMax - 1, size - at);
+  for (std::size_t at = 0; at < size; at += ZEBLINE_MAX - 1) {
+    char piece[ZEBLINE_MAX] = {};
+    const std::size_t count = std::min(ZEBLINE_MAX - 1, size - at);
     if (isSource) std::memcpy(piece, content.data() + at, count);
     com.Broadc(piece);
     if (!isSource) std::memcpy(content.data() + at, piece, count);

@@ -39,8 +39,9 @@ void sayCountIsRefused(const Section& section, std::string_view key, int count, 
 }
 
 void storeText(const Found& found, std::string_view text) {
-  if (found.row.longestText > 0) text = text.substr(0, found.row.longestText);
-  member<OwnedText>(found).assign(text.data(), text.size());
+  const std::size_t size = found.row.textBuffer;
+  if (size > 0) text = text.substr(0, size - 1);
+  member<OwnedText>(found).assign(text.data(), text.size(), size);
 }
 
 KeyOutcome storeNumber(const Found& found, double value) {

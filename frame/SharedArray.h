@@ -77,12 +77,17 @@ class SharedArray {
 /// A text with the ownership of SharedArray.
 class OwnedText {
  public:
+  OwnedText() = default;
+  /// The empty text in a buffer of `size` characters, all NUL.
+  explicit OwnedText(std::size_t size) { m_text.allocate(size); }
+
   /// The text, ended by NUL; null until one is assigned.
   const char* get() const { return m_text.get(); }
 
-  /// Stores a copy of the first `length` characters of `text` and ends it. A null `text` needs length 0.
-  void assign(const char* text, std::size_t length) {
-    char* const copy = m_text.allocate(length + 1);
+  /// Stores a copy of the first `length` characters of `text` and fills its buffer up with NULs: one at least, and to
+  /// `size` characters. A null `text` needs length 0.
+  void assign(const char* text, std::size_t length, std::size_t size = 0) {
+    char* const copy = m_text.allocate(length < size ? size : length + 1);
     if (length > 0) std::memcpy(copy, text, length);
   }
 

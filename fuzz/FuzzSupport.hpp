@@ -46,8 +46,8 @@ class Output {
   static constexpr std::size_t kLimit = 1 << 20;
 };
 
-/// The lines that a line source delivers on every rank of a parallel run: up to the first NUL, at most 254 characters.
-std::vector<std::string> sharedLines(std::string_view content);
+/// The lines as they are read on rank 0: each up to its first NUL.
+std::vector<std::string_view> wholeLines(std::string_view content);
 /// Whether a serial run reads the same: no line is cut.
 bool readsTheSameInSerial(std::string_view content);
 

@@ -77,7 +77,7 @@ std::string nameLine() { return std::string(" CMP file name = ") + kFileName + "
 // The reader echoes the file's name and every line, whatever they hold, and nothing else.
 std::string echoOf(std::string_view content) {
   std::string text = nameLine();
-  for (const std::string& line : sharedLines(content)) text += " - CPUID:0 string: " + line + "\n";
+  for (const std::string_view line : wholeLines(content)) (text += " - CPUID:0 string: ").append(line) += '\n';
   return text;
 }
 

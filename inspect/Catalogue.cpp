@@ -221,7 +221,7 @@ std::vector<std::string> ruleTexts(const Section& section, const Row& row) {
   for (const Replacement& replacement : row.rule.replace) {
     if (replacement.when != Replacement::When::kNever) texts.push_back(replacementText(replacement));
   }
-  if (row.longestText > 0) texts.push_back("cut to " + std::to_string(row.longestText) + " characters");
+  if (row.textBuffer > 0) texts.push_back("cut to " + std::to_string(row.textBuffer - 1) + " characters");
   if (row.gateBelow != kNoGate) {
     texts.push_back("gate: below " + std::to_string(row.gateBelow) + " the section's gated keys are skipped");
   }

@@ -74,7 +74,7 @@ class RawFile {
  private:
   static constexpr std::size_t kNone = ~std::size_t{0};
   static constexpr std::size_t kKept = 400;
-  static constexpr std::size_t kLongest = kLineMax - 1;
+  static constexpr std::size_t kLongest = ZEBLINE_MAX - 1;
 
   void endLine() {
     if (m_line == 1 && m_text.starts_with("\xEF\xBB\xBF")) {

@@ -183,10 +183,11 @@ TEST_F(CMXReader, SummaryHoldsTheFilesVersion) {
 
 TEST_F(CMXReader, ExchangeNameIsOneWordOfAtMost254Characters) {
   const CZEBCMX_SOLID_FILL& block = *m_set.getSOLID_FILL();
-  EXPECT_STREQ(block.strInitChargeFiber(), "");
+  const std::string_view whole(block.strInitChargeFiber(), 255);
+  EXPECT_EQ(whole, std::string(255, '\0'));
   read("<SOLID_FILL>\nValueInitChargeFiberExchangeName = my part.f2c\n</SOLID_FILL>\n");
   const char* const first = block.strInitChargeFiber();
-  EXPECT_STREQ(first, "my");
+  EXPECT_EQ(std::string(first, 255), "my" + std::string(253, '\0')) << "hosts may copy the whole buffer";
   read("<SOLID_FILL>\nValueInitChargeFiberExchangeName = " + std::string(300, 'n') + "\n</SOLID_FILL>\n");
   EXPECT_EQ(block.strInitChargeFiber(), std::string(254, 'n'));
   EXPECT_STREQ(first, "my") << "a name once handed out stays";

@@ -160,7 +160,8 @@ TEST_F(StdEdgeCases, LineSourceCutsOnEveryRankAndEndsOnAllInTheSameCall) {
   zeb::RecordingCommunicator first(2);
   EXPECT_EQ(m_set.setZEBCom(&first), 1);
   std::istringstream stream(longest + "yz\n");
-  zebtest::outputOf([&] { EXPECT_EQ(m_set.ZEB_getline_Parallel(stream, line), 1); });
+  const std::string echo = zebtest::outputOf([&] { EXPECT_EQ(m_set.ZEB_getline_Parallel(stream, line), 1); });
+  EXPECT_EQ(echo, " - CPUID:0 string: " + longest + "yz\n") << "the line as it stands in the file";
   EXPECT_EQ(line, longest);
   EXPECT_EQ(zebtest::outputOf([&] { EXPECT_EQ(m_set.ZEB_getline_Parallel(stream, line), 0); }), "");
   EXPECT_EQ(line, "");
