@@ -100,14 +100,17 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRTMParm>() {
     if (!takeLine()) return ListResult::kSectionEnded;
     int count = 0;
     const bool counted = readInt(line, "NVentInlet", count);
+    const bool valid = count >= 0 && count <= kLargestCount;
+    if (counted) {
+      block.m_iNVentInlet = valid ? count : 0;  // with a refused one, the list that an earlier line filled is gone
+      reportMemberOfList(context, &block.m_iNVentInlet, line, valueText(line));
+    }
     reportLineOfList(context, line, counted);
     if (!counted) return ListResult::kNextLine;
-    if (count < 0 || count > kLargestCount) {
+    if (!valid) {
       refuseCount(context, "NVentInlet", count);
-      block.m_iNVentInlet = 0;  // the list that an earlier line filled is gone with it
       return ListResult::kNextLine;
     }
-    block.m_iNVentInlet = count;
     int* const numbers = block.m_piVentInletID.allocate(static_cast<std::size_t>(count) + 1);
     for (int i = 1; i <= count; ++i) {
       if (!takeLine()) return ListResult::kSectionEnded;

@@ -59,7 +59,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_LONGFIBER>() {
       if (!nextLineOfList(context, line)) break;
       FieldScanner scanner(line);
       std::string_view name, equals;
-      reportLineOfList(context, line, scanner.next(name) && scanner.next(equals) && scanner.next(*coefficient));
+      const bool used = scanner.next(name) && scanner.next(equals) && scanner.next(*coefficient);
+      if (used) reportMemberOfList(context, coefficient, line, valueText(line));
+      reportLineOfList(context, line, used);
     }
     return ListResult::kSameLine;
   };

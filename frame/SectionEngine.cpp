@@ -180,6 +180,17 @@ void reportLineOfList(const ListContext& context, std::string_view line, bool us
   context.lines.observer()->lineOfList(context.section, context.lines.lineNumber(), line, used);
 }
 
+void reportMemberOfList(const ListContext& context, const void* member, std::string_view line, std::string_view value) {
+  if (context.lines.observer() == nullptr) [[likely]] {
+    return;
+  }
+  for (const Row& row : context.section.rows) {
+    if (row.field.locate(context.block) != member) continue;
+    context.lines.observer()->keyFound(
+        {context.section, row, context.block, {}, line, value, {}, context.lines.lineNumber(), KeyOutcome::kStored});
+  }
+}
+
 void releaseLists(const Section& section, const Row& announcing, void* block) {
   for (const Row& row : section.rows) {
     if (!fills(announcing, row)) continue;

@@ -32,6 +32,9 @@ bool isClosedBy(const Section& section, std::string_view line);
 bool nextLineOfList(ListContext& context, std::string& line);
 /// Tells the observer what became of a line of a list.
 void reportLineOfList(const ListContext& context, std::string_view line, bool used);
+/// Tells the observer that one line of the list has set one of the members that the list fills, before the line itself
+/// is reported.
+void reportMemberOfList(const ListContext& context, const void* member, std::string_view line, std::string_view value);
 /// For a count that stands in a line of a list: prints, where the file is read, that it is outside of 0 to
 /// kLargestCount. The list then stores 0 and takes no line for it.
 void refuseCount(const ListContext& context, std::string_view key, int count);

@@ -48,12 +48,15 @@ std::unique_ptr<CZEBKNCMPCompParm> analyse(const std::string& fileName, const An
 std::string whyUnreadable(const std::string& fileName) {
   std::error_code error;
   const auto status = std::filesystem::status(fileName, error);
-  if (!std::filesystem::exists(status)) return "no such file";
+  if (status.type() == std::filesystem::file_type::not_found) return "no such file";
+  if (error) return error.message();
   if (std::filesystem::is_directory(status)) return "is a directory";
   if (!std::filesystem::is_regular_file(status)) return "is not a regular file";
   errno = 0;
-  if (!std::ifstream(fileName)) return errno != 0 ? std::strerror(errno) : "cannot be opened";
-  return {};
+  std::ifstream stream(fileName);
+  if (!stream) return errno != 0 ? std::strerror(errno) : "cannot be opened";
+  stream.peek();
+  return stream.bad() ? "cannot be read" : std::string();
 }
 
 }  // namespace zeb

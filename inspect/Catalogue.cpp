@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <cctype>
 #include <charconv>
-#include <numeric>
 
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "inspect/Inspection.hpp"
+#include "inspect/NearestNames.hpp"
 #include "inspect/Settings.hpp"
+#include "stdcmp/StdParameters.hpp"
 
 namespace zeb {
 
@@ -25,11 +26,12 @@ std::string lower(std::string_view text) {
   return result;
 }
 
-void addTable(std::vector<CatalogueEntry>& entries, std::string_view format, const BlockTable& table) {
+void addTable(std::vector<CatalogueEntry>& entries, std::string_view format, const BlockTable& table,
+              const std::string& block) {
   void* defaults = table.create();
   for (const Section& section : table.sections) {
     for (const Row& row : section.rows) {
-      entries.push_back({format, blockName(table.className), &table, &section, &row, valueOf(row, defaults)});
+      entries.push_back({format, block, &table, &section, &row, valueOf(row, defaults)});
     }
   }
   table.destroy(defaults);
@@ -58,7 +60,6 @@ std::string replacementText(const Replacement& replacement) {
   return {};
 }
 
-// Whether the reader tests the row's key behind the section's gate.
 bool isGated(const Section& section, const Row& row) {
   if (section.gate < 0) return false;
   const auto gate = static_cast<std::size_t>(section.gate);
@@ -86,26 +87,6 @@ bool isCalled(const CatalogueEntry& entry, std::string_view name, bool withCase)
   return owns && isCalled(*entry.row, name.substr(dot + 1), withCase);
 }
 
-// Insertions, deletions, substitutions and swaps of neighbours that turn one text into the other; letters count
-// without their case.
-std::size_t distance(std::string_view from, std::string_view to) {
-  const std::string a = lower(from), b = lower(to);
-  std::vector<std::size_t> beforeLast, last(b.size() + 1), row(b.size() + 1);
-  std::iota(last.begin(), last.end(), std::size_t{0});
-  for (std::size_t i = 1; i <= a.size(); ++i) {
-    row[0] = i;
-    for (std::size_t j = 1; j <= b.size(); ++j) {
-      const std::size_t cost = a[i - 1] == b[j - 1] ? 0 : 1;
-      row[j] = std::min({row[j - 1] + 1, last[j] + 1, last[j - 1] + cost});
-      const bool swapped = i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1];
-      if (swapped) row[j] = std::min(row[j], beforeLast[j - 2] + 1);
-    }
-    beforeLast = last;
-    last = row;
-  }
-  return last[b.size()];
-}
-
 std::string searchText(const CatalogueEntry& entry) {
   std::string text;
   const std::string type = typeText(*entry.row), rules = joined(ruleTexts(entry));
@@ -129,6 +110,11 @@ std::string cell(std::string_view text) {
 
 std::string code(std::string_view text) { return text.empty() ? "" : "`" + std::string(text) + "`"; }
 
+std::string_view formatTitle(std::string_view format) {
+  if (format == "STD") return "CMP files as the standard solver reads them";
+  return format == "CMX" ? "CMX files" : "CMP files";
+}
+
 std::string keyCell(const Row& row) {
   if (!row.otherKey.empty()) return code(row.key) + " or " + code(row.otherKey);
   return row.key.empty() ? positionText(row) : code(row.key);
@@ -143,8 +129,16 @@ std::string CatalogueEntry::name() const { return block + "." + std::string(row-
 const std::vector<CatalogueEntry>& catalogue() {
   static const std::vector<CatalogueEntry> kEntries = [] {
     std::vector<CatalogueEntry> entries;
-    for (const BlockEntry& block : allBlocks()) addTable(entries, "CMP", block.table());
-    for (const BlockTable* table : CZEBCMXInternalTool::tables()) addTable(entries, "CMX", *table);
+    for (const BlockEntry& block : allBlocks()) {
+      addTable(entries, "CMP", block.table(), blockName(block.table().className));
+    }
+    const auto addNamedBySection = [&](std::string_view format, std::span<const BlockTable* const> tables) {
+      for (const BlockTable* table : tables) {
+        addTable(entries, format, *table, std::string(table->sections.front().name));
+      }
+    };
+    addNamedBySection("CMX", CZEBCMXInternalTool::tables());
+    addNamedBySection("STD", StdParameters::tables());
     return entries;
   }();
   return kEntries;
@@ -173,22 +167,14 @@ std::vector<const CatalogueEntry*> findEntries(std::string_view name, std::strin
 
 std::vector<std::string> nearestNames(std::string_view name, std::string_view format, std::size_t most) {
   const auto dot = name.rfind('.');
-  const std::string_view last = dot == name.npos ? name : name.substr(dot + 1);
-  std::vector<std::pair<std::size_t, std::string>> candidates;
+  std::vector<std::string> candidates;
   for (const CatalogueEntry& entry : catalogue()) {
     if (entry.format != format) continue;
     for (const std::string_view candidate : {entry.row->key, entry.row->otherKey, entry.row->field.member}) {
-      if (!candidate.empty()) candidates.emplace_back(distance(last, candidate), candidate);
+      if (!candidate.empty()) candidates.emplace_back(candidate);
     }
   }
-  std::sort(candidates.begin(), candidates.end());
-  candidates.erase(std::unique(candidates.begin(), candidates.end()), candidates.end());
-  const std::size_t farthest = std::max<std::size_t>(2, last.size() / 3);
-  std::vector<std::string> names;
-  for (const auto& [steps, candidate] : candidates) {
-    if (steps <= farthest && names.size() < most) names.push_back(candidate);
-  }
-  return names;
+  return nearestOf(dot == name.npos ? name : name.substr(dot + 1), candidates, most);
 }
 
 std::string typeText(const Row& row) {
@@ -264,7 +250,7 @@ std::string catalogueMarkdown(const std::vector<const CatalogueEntry*>& entries)
   for (const CatalogueEntry* entry : entries) {
     if (entry->format != format) {
       format = entry->format;
-      text += "\n## " + std::string(format) + " files\n";
+      text += "\n## " + std::string(formatTitle(format)) + "\n";
     }
     if (entry->section != section) {
       section = entry->section;

@@ -11,8 +11,8 @@ namespace zeb {
 
 /// One row of one section: a key with its member, a field of a positional line, or a member that no key sets.
 struct CatalogueEntry {
-  std::string_view format;  ///< "CMP" or "CMX"
-  std::string block;        ///< "General"
+  std::string_view format;  ///< "CMP", "CMX", or "STD" for a CMP file as the standard solver reads it
+  std::string block;        ///< "General", "SOLID_FILL": the name under which blocksOf() lists it
   const BlockTable* table;
   const Section* section;
   const Row* row;
@@ -24,8 +24,8 @@ struct CatalogueEntry {
   std::string name() const;
 };
 
-/// All entries: the blocks of a CMP file in the order of their construction, then those of a CMX file in the order in
-/// which its reader looks for them; rows in the order of declaration. Built once.
+/// All entries: the blocks of a CMP file in the order of their construction, then those of a CMX file and of the
+/// standard solver in the order in which their readers look for them; rows in the order of declaration. Built once.
 const std::vector<CatalogueEntry>& catalogue();
 
 /// The entries that contain every word (in section, block, class, key, member, getter, type, unit, rules or

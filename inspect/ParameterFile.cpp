@@ -2,10 +2,17 @@
 
 #include <algorithm>
 #include <fstream>
+#include <iterator>
 
 namespace zeb {
 
 namespace {
+
+// By FileKind.
+struct KindNames {
+  std::string_view name, format;
+};
+constexpr KindNames kKinds[] = {{"cmp", "CMP"}, {"cmx", "CMX"}, {"std", "STD"}};
 
 constexpr std::size_t kBytesToRecognise = 1'000'000;
 
@@ -27,6 +34,23 @@ std::size_t firstOpening(std::string_view text, const BlockTable& table) {
 }
 
 }  // namespace
+
+std::string_view kindName(FileKind kind) { return kKinds[static_cast<int>(kind)].name; }
+
+std::string_view formatOf(FileKind kind) { return kKinds[static_cast<int>(kind)].format; }
+
+std::optional<FileKind> kindNamed(std::string_view name) {
+  for (int kind = 0; kind < std::ssize(kKinds); ++kind) {
+    if (kKinds[kind].name == name) return static_cast<FileKind>(kind);
+  }
+  return {};
+}
+
+std::vector<std::string> kindNames() {
+  std::vector<std::string> names;
+  for (const KindNames& kind : kKinds) names.emplace_back(kind.name);
+  return names;
+}
 
 std::optional<FileKind> recogniseKind(const std::string& fileName) {
   const std::string bytes = firstBytes(fileName);

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cmx/CZEBKNCMXCompParm.h"
@@ -19,6 +20,14 @@ enum class FileKind : int {
   kCmx,  ///< analysis settings
   kStd,  ///< a CMP file through the eyes of the standard solver; never recognised, only asked for
 };
+
+/// "cmp", "cmx", "std".
+std::string_view kindName(FileKind kind);
+std::optional<FileKind> kindNamed(std::string_view name);
+/// The names of all kinds.
+std::vector<std::string> kindNames();
+/// What the catalogue calls the kind's format: "CMP".
+std::string_view formatOf(FileKind kind);
 
 /// What the file's first block tag or section opening says; nothing when its first million bytes hold neither.
 std::optional<FileKind> recogniseKind(const std::string& fileName);

@@ -16,8 +16,9 @@ std::string exact(double value) {
 std::string exact(int value) { return std::to_string(value); }
 
 // Entry 0 of the library's arrays is never used, but for the dispenser points, whose rows of three start with entry 0.
+// A copy is asked, as a block keeps for good what it has handed out itself.
 template <class T>
-std::string listText(const SharedArray<T>& array) {
+std::string listText(SharedArray<T> array) {
   if (array.get() == nullptr) return "none";
   std::string text = "[";
   for (std::size_t i = 1; i < array.size(); ++i) text += (i > 1 ? ", " : "") + exact(array.get()[i]);
@@ -28,8 +29,11 @@ std::string listText(const SharedArray<T>& array) {
 
 std::string Origin::text() const {
   switch (kind) {
-    case Kind::kFile:
-      return (file.empty() ? "" : file + " ") + "line " + std::to_string(line);
+    case Kind::kFile: {
+      const std::string lines = lastLine > line ? "lines " + std::to_string(line) + "-" + std::to_string(lastLine)
+                                                : "line " + std::to_string(line);
+      return (file.empty() ? "" : file + " ") + lines;
+    }
     case Kind::kRepair:
       return "repair: " + note;
     case Kind::kDefault:
@@ -48,7 +52,8 @@ std::string valueOf(const Row& row, void* block) {
     case FieldType::kBool:
       return *static_cast<const bool*>(member) ? "true" : "false";
     case FieldType::kText: {
-      const char* text = static_cast<const OwnedText*>(member)->get();
+      const OwnedText shared(*static_cast<const OwnedText*>(member));
+      const char* text = shared.get();
       return text == nullptr ? "none" : '"' + std::string(text) + '"';
     }
     case FieldType::kInts:

@@ -17,9 +17,10 @@ struct Origin {
   Kind kind = Kind::kDefault;
   std::string file;  ///< of kFile
   int line = 0;      ///< of kFile
+  int lastLine = 0;  ///< of kFile: where a list's lines end, if not in `line`
   std::string note;  ///< of kRepair: the condition
 
-  /// "default", "line 12", "cover.vecmp line 3" or "repair: material type 1".
+  /// "default", "line 12", "lines 12-15", "cover.vecmp line 3" or "repair: material type 1".
   std::string text() const;
 };
 

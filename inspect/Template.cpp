@@ -14,6 +14,7 @@
 #include "frame/ReadObserver.hpp"
 #include "frame/Repairs.hpp"
 #include "frame/SectionEngine.hpp"
+#include "inspect/Analysis.hpp"
 #include "inspect/Catalogue.hpp"
 #include "inspect/OutputCapture.hpp"
 #include "inspect/Settings.hpp"
@@ -45,6 +46,8 @@ std::vector<Part> partsOf(bool cmx) {
   return parts;
 }
 
+bool isHead(const Section& section) { return section.headVersion != 0; }
+
 bool isNamed(const Part& part, const std::string& name) {
   return equalWithoutCase(part.section->name, name) || equalWithoutCase(part.section->open, name) ||
          equalWithoutCase(blockName(part.table->className), name) || equalWithoutCase(part.table->className, name);
@@ -64,30 +67,35 @@ class Trial {
   void* m_block;
 };
 
-struct ListWatch final : ReadObserver {
+struct TrialWatch final : ReadObserver {
   bool tookLine = false;
+  bool isGated = false;
+  void keyFound(const KeyEvent& event) override { isGated = isGated || event.outcome == KeyOutcome::kGated; }
   void lineOfList(const Section& /*section*/, int /*number*/, std::string_view /*line*/, bool /*used*/) override {
     tookLine = true;
   }
 };
 
-// Whether the section keeps its defaults when the rows' key stands in it with this line. Other members that the line
+enum class Effect { kKeepsDefaults, kIgnored, kChanges };
+
+// What becomes of the section's defaults when the rows' key stands in it with this line. Other members that the line
 // sets have keys that are part of this one; their own lines follow it.
-bool keepsDefaults(const Part& part, const std::vector<const Row*>& rows, const std::string& line) {
+Effect effectOf(const Part& part, const std::vector<const Row*>& rows, const std::string& line) {
   const Trial before(*part.table), after(*part.table);
   std::istringstream text(line + "\nfollowing line\n" + std::string(part.section->close) + "\n");
   const LineSource source{};
-  ListWatch watch;
+  TrialWatch watch;
   LineReader lines(text, source, &watch);
   readSection(*part.section, after.block(), lines);
   const auto kept = [&](const Row& row) { return valueOf(row, before.block()) == valueOf(row, after.block()); };
   for (const Row* row : rows) {
-    if (!kept(*row)) return false;
+    if (!kept(*row)) return Effect::kChanges;
     for (const Row& other : part.section->rows) {
-      if (fills(*row, other) && !kept(other)) return false;
+      if (fills(*row, other) && !kept(other)) return Effect::kChanges;
     }
   }
-  return !watch.tookLine;
+  if (watch.tookLine) return Effect::kChanges;
+  return watch.isGated ? Effect::kIgnored : Effect::kKeepsDefaults;
 }
 
 std::string shortest(double value) {
@@ -129,7 +137,29 @@ std::string textOf(const Row& row, void* block) {
 struct KeyLine {
   std::string_view key;
   std::vector<const Row*> rows;
-  std::string line;  // empty: nothing that can be written stands for the default
+  std::string line;        // empty: nothing that can be written stands for the default
+  bool isIgnored = false;  // while the section's gate is at its default
+  std::string repaired;    // what the molding type's repairs make of the default; empty: they leave it
+  bool isWritten() const { return !line.empty() && !isIgnored && repaired.empty(); }
+};
+
+// What the repairs of a molding type make of the defaults.
+class RepairedDefaults {
+ public:
+  explicit RepairedDefaults(int molding) : m_set(analyse({}, {.molding = molding}, nullptr, nullptr)) {}
+  /// Empty where the default stays.
+  std::string of(const Part& part, const Row& row) const {
+    const Trial defaults(*part.table);
+    for (const BlockView& view : blocksOf(*m_set)) {
+      if (view.table != part.table) continue;
+      std::string value = valueOf(row, view.block);
+      if (value != valueOf(row, defaults.block())) return value;
+    }
+    return {};
+  }
+
+ private:
+  std::unique_ptr<CZEBKNCMPCompParm> m_set;
 };
 
 std::vector<std::string> candidates(const Row& row, void* block) {
@@ -139,7 +169,7 @@ std::vector<std::string> candidates(const Row& row, void* block) {
   return textsFor(row, row.field.type, block);
 }
 
-std::vector<KeyLine> keyLines(const Part& part) {
+std::vector<KeyLine> keyLines(const Part& part, const RepairedDefaults* repaired) {
   const Trial defaults(*part.table);
   std::vector<KeyLine> lines;
   for (const Row& row : part.section->rows) {
@@ -149,16 +179,19 @@ std::vector<KeyLine> keyLines(const Part& part) {
     if (same != lines.end()) {
       same->rows.push_back(&row);
     } else {
-      lines.push_back({row.key, {&row}, {}});
+      lines.push_back({row.key, {&row}, {}, false, {}});
     }
   }
   for (KeyLine& line : lines) {
     for (const std::string& text : candidates(*line.rows.front(), defaults.block())) {
       const std::string tried = std::string(line.key) + " = " + text;
-      if (!keepsDefaults(part, line.rows, tried)) continue;
+      const Effect effect = effectOf(part, line.rows, tried);
+      if (effect == Effect::kChanges) continue;
       line.line = tried;
+      line.isIgnored = effect == Effect::kIgnored;
       break;
     }
+    if (repaired != nullptr) line.repaired = repaired->of(part, *line.rows.front());
   }
   return lines;
 }
@@ -201,16 +234,31 @@ std::string withoutBrackets(std::string text) {
   return text;
 }
 
+// A comment of lines that a parallel run does not cut, and that fit a screen.
+std::string comment(const std::string& text) {
+  constexpr std::size_t kWidth = 100;
+  std::string lines, line = "#  ";
+  std::istringstream words(text);
+  for (std::string word; words >> word;) {
+    if (line.size() + 1 + word.size() > kWidth) {
+      lines += line + "\n";
+      line = "#      ";
+    }
+    line += " " + word;
+  }
+  return lines + line + "\n";
+}
+
 std::string description(const Part& part, const Row& row, std::string_view name, const std::string& note) {
   const Trial defaults(*part.table);
-  std::string text = "#   " + std::string(name);
+  std::string text(name);
   if (!row.otherKey.empty()) text += " or " + std::string(row.otherKey);
   text += " (" + typeText(row) + ", default " + valueOf(row, defaults.block());
   if (!row.unit.empty()) text += " " + std::string(row.unit);
   text += "): " + std::string(row.doc);
   const std::string rules = joined(ruleTexts(*part.section, row));
   if (!rules.empty()) text += " Rules: " + rules + ".";
-  return withoutBrackets(text + note) + "\n";
+  return comment(withoutBrackets(text + note));
 }
 
 std::string repairComments(const Part& part, const TemplateOptions& options) {
@@ -223,9 +271,9 @@ std::string repairComments(const Part& part, const TemplateOptions& options) {
           if (!same || row.key.empty()) continue;
           Row changed;
           changed.rule = repair.rule;
-          text += withoutBrackets("#   Changed after reading: " + std::string(row.key) + " (" +
-                                  std::string(step.condition) + "): " + joined(ruleTexts(*part.section, changed))) +
-                  "\n";
+          text +=
+              comment(withoutBrackets("Changed after reading: " + std::string(row.key) + " (" +
+                                      std::string(step.condition) + "): " + joined(ruleTexts(*part.section, changed))));
         }
       }
     }
@@ -235,17 +283,37 @@ std::string repairComments(const Part& part, const TemplateOptions& options) {
   return text;
 }
 
-std::string keyedPart(const Part& part) {
-  const std::vector<KeyLine> lines = keyLines(part);
-  std::string comment, body;
+std::string noteOf(const KeyLine& line) {
+  if (line.line.empty()) return " Not written below: no line stands for the default.";
+  if (line.repaired.empty()) return {};
+  return " Not written below: with this molding type it becomes " + line.repaired + " after reading.";
+}
+
+// The lines that the gate, at its default, keeps shut: as comments, to be moved below an open gate.
+std::string gatedComment(const Section& section, const std::vector<const KeyLine*>& lines) {
+  std::string text;
+  for (const KeyLine* line : lines) {
+    if (line->isIgnored && line->repaired.empty()) text += "#     " + line->line + "\n";
+  }
+  if (text.empty()) return {};
+  const Row& gate = section.rows[section.readingOrder[static_cast<std::size_t>(section.gate)]];
+  return comment("To be written below " + std::string(gate.key) + " once that is " + std::to_string(gate.gateBelow) +
+                 " or more:") +
+         text;
+}
+
+std::string keyedPart(const Part& part, const RepairedDefaults* repaired) {
+  const std::vector<KeyLine> lines = keyLines(part, repaired);
+  std::string comments, body;
   for (const KeyLine& line : lines) {
-    const std::string note = line.line.empty() ? " Not written below: no line stands for the default." : "";
-    for (const Row* row : line.rows) comment += description(part, *row, line.key, note);
+    for (const Row* row : line.rows) comments += description(part, *row, line.key, noteOf(line));
   }
-  for (const KeyLine* line : writingOrder(lines)) {
-    if (!line->line.empty()) body += line->line + "\n";
+  const std::vector<const KeyLine*> order = writingOrder(lines);
+  for (const KeyLine* line : order) {
+    if (line->isWritten()) body += line->line + "\n";
   }
-  return comment + std::string(part.section->open) + "\n" + body + std::string(part.section->close) + "\n";
+  return comments + gatedComment(*part.section, order) + std::string(part.section->open) + "\n" + body +
+         std::string(part.section->close) + "\n";
 }
 
 std::string fieldText(const Slot& slot, void* block) {
@@ -254,10 +322,10 @@ std::string fieldText(const Slot& slot, void* block) {
   return texts.empty() ? "0" : texts.front();
 }
 
-std::string positionalPart(const Part& part, bool isHead) {
+std::string positionalPart(const Part& part) {
   const Section& section = *part.section;
   const Trial defaults(*part.table);
-  std::string comment, body;
+  std::string comments, body;
   for (int line = 1; line <= section.positional.lines; ++line) {
     std::string fields, names;
     for (const Slot& slot : section.positional.slots) {
@@ -265,26 +333,38 @@ std::string positionalPart(const Part& part, bool isHead) {
       fields += (fields.empty() ? "" : " ") + fieldText(slot, defaults.block());
       const std::string place = "line " + std::to_string(line) + " field " + std::to_string(slot.at.field);
       if (slot.row == nullptr) {
-        comment += "#   " + place + ": not used\n";
+        comments += comment(place + ": not used");
       } else {
-        comment += description(part, *slot.row, place + " " + std::string(slot.row->field.member), "");
+        comments += description(part, *slot.row, place + " " + std::string(slot.row->field.member), "");
       }
     }
     body += (fields.empty() ? "# this line is counted and not used" : fields) + "\n";
   }
-  if (isHead) return comment + "[VER] 1023\n" + body;
-  return comment + std::string(section.open) + "\n" + body + std::string(section.close) + "\n";
+  if (isHead(section)) {
+    return comments + std::string(section.open) + " " + std::to_string(section.headVersion) + "\n" + body;
+  }
+  return comments + std::string(section.open) + "\n" + body + std::string(section.close) + "\n";
 }
 
-std::string partText(const Part& part, const TemplateOptions& options) {
-  const bool isHead = part.table == &tableOf<CZEBCMPIteratParm>();
-  std::string text = "# " + (isHead ? "Fixed-line head" : std::string(part.section->name)) + " (" +
+std::string partText(const Part& part, const TemplateOptions& options, const RepairedDefaults* repaired) {
+  std::string text = "# " + (isHead(*part.section) ? "Fixed-line head" : std::string(part.section->name)) + " (" +
                      blockName(part.table->className) + ")\n";
   text += repairComments(part, options);
-  return text + (part.section->isPositional() ? positionalPart(part, isHead) : keyedPart(part));
+  return text + (part.section->isPositional() ? positionalPart(part) : keyedPart(part, repaired));
 }
 
 }  // namespace
+
+std::vector<std::string> templateSections(bool cmx) {
+  std::vector<std::string> names;
+  for (const Part& part : partsOf(cmx)) {
+    names.emplace_back(part.section->name);
+    names.push_back(blockName(part.table->className));
+  }
+  std::sort(names.begin(), names.end());
+  names.erase(std::unique(names.begin(), names.end()), names.end());
+  return names;
+}
 
 std::string unknownTemplateSection(const TemplateOptions& options) {
   const std::vector<Part> parts = partsOf(options.cmx);
@@ -297,17 +377,19 @@ std::string unknownTemplateSection(const TemplateOptions& options) {
 std::string templateText(const TemplateOptions& options) {
   const OutputCapture discarded;
   std::string text = options.cmx ? "# CMX file with all defaults.\n" : "# CMP file with all defaults.\n";
+  std::unique_ptr<RepairedDefaults> repaired;
   if (options.molding) {
+    repaired = std::make_unique<RepairedDefaults>(*options.molding);
     text += "# Molding type " + std::string(moldingTypes()[static_cast<std::size_t>(*options.molding)].name) + ".\n";
   }
   text +=
-      "# Text between the sections is ignored. Inside a section keys match anywhere in a line: write no comments "
-      "there.\n";
+      "# Text between the sections is ignored. Inside a section keys match anywhere in a line:\n"
+      "# write no comments there.\n";
   for (const Part& part : partsOf(options.cmx)) {
     const bool wanted =
         options.sections.empty() || std::any_of(options.sections.begin(), options.sections.end(),
                                                 [&](const std::string& name) { return isNamed(part, name); });
-    if (wanted) text += "\n" + partText(part, options);
+    if (wanted) text += "\n" + partText(part, options, repaired.get());
   }
   return text;
 }

@@ -116,7 +116,7 @@ const BlockTable& tableOf<StdSolverSettings>() {
   };
   // clang-format on
   static constexpr Slot kDiscarded[] = {{{16, 2}, FieldType::kInt, nullptr}};
-  static constexpr PositionalLayout kLayout{.lines = 17, .discarded = kDiscarded};
+  static constexpr PositionalLayout kLayout{.lines = 17, .discarded = kDiscarded, .headVersion = 1013};
   static constexpr Section kSections[] = {headSection<kRows, kLayout>()};
   static constexpr BlockTable kTable = blockTable<T, kSections>("");
   return kTable;

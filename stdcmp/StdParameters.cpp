@@ -10,9 +10,6 @@ namespace zeb {
 
 namespace {
 
-// The one version whose line is followed by the standard solver's head.
-constexpr int kHeadVersion = 1013;
-
 template <class Block>
 DispatchEntry entryOf(Block& block) {
   return {&tableOf<Block>().sections.front(), &block};
@@ -53,7 +50,7 @@ void StdParameters::readVersionLine(const std::string& line, LineReader& lines) 
   int version = 0;
   const bool parsed = scanVersion(line, version);
   if (observer != nullptr) observer->versionRead(lines.lineNumber(), line, parsed, version);
-  if (version == kHeadVersion) readOldFormat(lines);
+  if (version == m_head.section->headVersion) readOldFormat(lines);
 }
 
 int StdParameters::readOldFormat(LineReader& lines) {

@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "inspect/Catalogue.hpp"
+#include "inspect/NearestNames.hpp"
 #include "tests/support/Tsv.hpp"
 
 namespace {
@@ -38,6 +39,17 @@ TEST(Catalogue, HoldsEveryKeyOfTheCMXFormat) {
     EXPECT_TRUE(keys.count("<" + row.at("tag") + ">" + zebtest::unquoted(row.at("key"))))
         << row.at("tag") << row.at("key");
   }
+}
+
+TEST(Catalogue, HoldsEveryKeyOfTheStandardSolver) {
+  const std::set<std::string> keys = keysOf("STD");
+  std::size_t known = 0;
+  for (const zebtest::TsvRow& row : zebtest::readTsv("std_keys.tsv")) {
+    EXPECT_TRUE(keys.count("[" + row.at("section") + "]" + zebtest::unquoted(row.at("key"))))
+        << row.at("section") << row.at("key");
+    ++known;
+  }
+  EXPECT_EQ(keys.size(), known);
 }
 
 TEST(Catalogue, TellsTypeDefaultAndRules) {
@@ -81,6 +93,13 @@ TEST(Catalogue, SuggestsTheNearestNames) {
   EXPECT_EQ(zeb::nearestNames("AirPresure", "CMP").front(), "AirPressure");
   EXPECT_EQ(zeb::nearestNames("Outlet.AirPerssure", "CMP").front(), "AirPressure");
   EXPECT_TRUE(zeb::nearestNames("qqqqqqqqqqqqqqq", "CMP").empty());
+}
+
+TEST(Catalogue, SuggestsNothingForANameWithoutLikeness) {
+  EXPECT_EQ(zeb::nearestOf("shwo", {"show", "schedule", "list"}), std::vector<std::string>{"show"});
+  EXPECT_EQ(zeb::nearestOf("rtm", {"IM", "RTM", "BIIM"}).front(), "RTM");
+  EXPECT_TRUE(zeb::nearestOf("xy", {"IM", "RTM"}).empty());
+  EXPECT_TRUE(zeb::nearestOf(std::string(100'000, 'x'), {"show"}).empty());
 }
 
 TEST(Catalogue, SearchNeedsEveryWord) {

@@ -1,11 +1,16 @@
 // Every step from the default to the value that the solver uses, in order.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <map>
+
 #include "inspect/Analysis.hpp"
 #include "inspect/Catalogue.hpp"
 #include "inspect/Difference.hpp"
 #include "inspect/History.hpp"
 #include "inspect/OutputCapture.hpp"
+#include "inspect/ParameterFile.hpp"
 #include "inspect/Provenance.hpp"
 #include "inspect/Settings.hpp"
 #include "tests/support/TemporaryFile.hpp"
@@ -16,32 +21,39 @@ using Kind = zeb::HistoryStep::Kind;
 
 class Analysed {
  public:
-  explicit Analysed(const std::string& text, const zeb::AnalysisOptions& options = {}) : m_file(text) {
+  explicit Analysed(const std::string& text, const zeb::AnalysisOptions& options = {})
+      : Analysed(text, zeb::FileKind::kCmp, options) {}
+  Analysed(const std::string& text, zeb::FileKind kind, const zeb::AnalysisOptions& options = {})
+      : m_file(text), m_kind(kind) {
     const zeb::OutputCapture quiet;
-    m_set = zeb::analyse(m_file.path(), options, nullptr, &history);
+    m_set = zeb::readParameterFile(m_file.path(), kind, options, nullptr, &history);
   }
 
   std::vector<const zeb::HistoryStep*> steps(std::string_view name) const {
-    const auto* entry = zeb::findEntries(name, "CMP").at(0);
+    const auto* entry = entryOf(name);
     return history.stepsOf(*entry->row, blockOf(*entry));
   }
   std::string value(std::string_view name) const {
-    const auto* entry = zeb::findEntries(name, "CMP").at(0);
+    const auto* entry = entryOf(name);
     return zeb::valueOf(*entry->row, blockOf(*entry));
   }
 
   zeb::History history;
 
  private:
+  const zeb::CatalogueEntry* entryOf(std::string_view name) const {
+    return zeb::findEntries(name, zeb::formatOf(m_kind)).at(0);
+  }
   void* blockOf(const zeb::CatalogueEntry& entry) const {
-    for (const zeb::BlockView& view : zeb::blocksOf(*m_set)) {
+    for (const zeb::BlockView& view : m_set.blocks()) {
       if (view.table == entry.table) return view.block;
     }
     return nullptr;
   }
 
   zebtest::TemporaryFile m_file;
-  std::unique_ptr<CZEBKNCMPCompParm> m_set;
+  zeb::FileKind m_kind;
+  zeb::ParameterFile m_set;
 };
 
 TEST(History, TellsRawTextWhatWasParsedWhatWasLeftAndTheConversion) {
@@ -76,6 +88,25 @@ TEST(History, NamesTheOtherKeysOfALine) {
   EXPECT_EQ(others[0]->after, "1");
 }
 
+TEST(History, KeepsOnlyTheLinesThatTouchWhatIsWanted) {
+  const zebtest::TemporaryFile file(
+      "[TimeStepSizeCtrl]\nInitialDt = 2\nNewMethod = 3\nNewMethod InitialDt = 1\nInitialDt = 4\n");
+  const auto* entry = zeb::findEntries("TimeStepSizeCtrl.NewMethod", "CMP").at(0);
+  const auto* other = zeb::findEntries("TimeStepSizeCtrl.InitialDt", "CMP").at(0);
+  zeb::History history({entry->row});
+  const zeb::OutputCapture quiet;
+  const auto set = zeb::analyse(file.path(), {}, nullptr, &history);
+  void* block = set->getTimeStepSizeCtrlParm();
+  const auto steps = history.stepsOf(*entry->row, block);
+  ASSERT_EQ(steps.size(), 2u);
+  EXPECT_EQ(steps[0]->lineNumber, 3);
+  EXPECT_EQ(history.othersOf(*steps[1]).size(), 1u);
+  // The last line of all is undecided, since nothing follows it.
+  const auto kept = history.stepsOf(*other->row, block);
+  ASSERT_GE(kept.size(), 1u);
+  EXPECT_EQ(kept[0]->lineNumber, 4);
+}
+
 TEST(History, TellsKeysBehindAClosedGate) {
   const Analysed analysed("[UNFSetting]\nSpeed_V = 3\nFillType = 2\nSpeed_V = 4\n[/UNFSetting]\n");
   const auto steps = analysed.steps("Speed_V");
@@ -105,6 +136,17 @@ TEST(History, TellsTheLinesOfAList) {
   EXPECT_EQ(steps[0]->listLines.size(), 2u);
 }
 
+TEST(History, TellsAnElementsValueStepByStep) {
+  const Analysed analysed(
+      "[UNFSetting]\nFillType = 2\nnDispenserPoint = 1\nPoint_x1 = 3\nPoint_y1 = 4\n[/UNFSetting]\n");
+  const auto steps = analysed.steps("Point_y1");
+  ASSERT_EQ(steps.size(), 2u);
+  EXPECT_EQ(steps[0]->kind, Kind::kList);
+  EXPECT_EQ(steps[0]->after, "[0, 0, 0, 0, 0]");  // rows of three, the first of all not used
+  EXPECT_EQ(steps[1]->lineNumber, 5);
+  EXPECT_EQ(steps[1]->after, "[0, 0, 0, 3, 4]");
+}
+
 TEST(History, TellsFieldsThatALineOfTheHeadLacks) {
   std::string head = "[VER] 1023\n";
   for (int line = 1; line <= 17; ++line) head += "\n";
@@ -118,6 +160,217 @@ TEST(History, TellsFieldsThatALineOfTheHeadLacks) {
   EXPECT_EQ(missing[0]->kind, Kind::kMissingField);
   EXPECT_EQ(missing[0]->after, "10000");
   EXPECT_EQ(analysed.value("m_dHighTempEPS"), "10000");
+}
+
+TEST(History, TellsWhyAFieldIsNotRead) {
+  const Analysed analysed("[VER] 1023\n2 2 2 2 2 2\n1 1 x 10\n7\n");
+  const auto read = analysed.steps("m_iNRestartIV");
+  ASSERT_EQ(read.size(), 1u);
+  EXPECT_EQ(read[0]->lineNumber, 3);
+  EXPECT_EQ(read[0]->positionalLine, 2);
+  EXPECT_EQ(read[0]->used, "1");
+  for (const char* name : {"m_iNRestartIW", "m_iNRestartIP"}) {
+    const auto stopped = analysed.steps(name);
+    ASSERT_EQ(stopped.size(), 1u) << name;
+    EXPECT_EQ(stopped[0]->kind, Kind::kMissingField);
+    EXPECT_EQ(stopped[0]->lineNumber, 3);
+    EXPECT_EQ(stopped[0]->reason, "reading of the line stops at \"x 10\"");
+    EXPECT_FALSE(stopped[0]->sets());
+  }
+  const auto ended = analysed.steps("m_iNiter");  // head line 4
+  ASSERT_EQ(ended.size(), 1u);
+  EXPECT_EQ(ended[0]->reason, "the file ends before this line");
+}
+
+TEST(History, TellsWhyAHeadIsNotRead) {
+  for (const auto& [line, reason] : {std::pair{"[VER] 1024", "version 1024"}, std::pair{"[VER] x", "no version number"},
+                                     std::pair{"[VER] 1013", "version 1013"}}) {
+    const Analysed analysed(std::string(line) + "\n2 2 2 2 2 2\n");
+    const auto steps = analysed.steps("m_ilsolvU");
+    ASSERT_EQ(steps.size(), 1u) << line;
+    EXPECT_EQ(steps[0]->kind, Kind::kRefused);
+    EXPECT_EQ(steps[0]->lineNumber, 1);
+    EXPECT_EQ(steps[0]->reason, reason);
+  }
+  const Analysed standard("[VER] 1023\n7 2 2 2 2 2\n", zeb::FileKind::kStd);
+  EXPECT_EQ(standard.steps("ilsolvU").at(0)->kind, Kind::kRefused);
+  const Analysed read("[VER] 1013\n7 2 2 2 2 2\n", zeb::FileKind::kStd);
+  ASSERT_EQ(read.steps("ilsolvU").size(), 1u);
+  EXPECT_EQ(read.steps("ilsolvU")[0]->kind, Kind::kLine);
+  EXPECT_EQ(read.value("ilsolvU"), "7");
+}
+
+TEST(History, TellsWhyACoolingSectionIsNotRead) {
+  const Analysed refused("\n[StdCool]\n1046\n3 4\n");
+  const auto steps = refused.steps("StdCool.iGetlsolvTP");
+  ASSERT_EQ(steps.size(), 1u);
+  EXPECT_EQ(steps[0]->kind, Kind::kRefused);
+  EXPECT_EQ(steps[0]->lineNumber, 3);
+  EXPECT_EQ(steps[0]->reason, "version 1046 instead of 1047");
+  EXPECT_EQ(refused.value("StdCool.iGetlsolvTP"), "2");
+
+  const Analysed read("\n[StdCool]\n1047\n3\n");
+  const auto given = read.steps("StdCool.iGetlsolvTP");
+  ASSERT_EQ(given.size(), 1u);
+  EXPECT_EQ(given[0]->lineNumber, 4);
+  EXPECT_EQ(given[0]->positionalLine, 2);
+  EXPECT_EQ(given[0]->after, "3");
+  const auto version = read.steps("StdCool.iGetcfcver_StdCool");
+  ASSERT_EQ(version.size(), 1u);
+  EXPECT_EQ(version[0]->lineNumber, 3);
+  EXPECT_EQ(version[0]->after, "1047");
+  const auto lacking = read.steps("StdCool.iGetlsolvTM");
+  ASSERT_EQ(lacking.size(), 1u);
+  EXPECT_EQ(lacking[0]->reason, "the line holds only 1 field");
+}
+
+TEST(History, TellsTheLinesOfMomentsInACmxFile) {
+  const Analysed analysed(
+      "<FILL_OUTPUT_TIMES>\nValueNoFillOutputTime = 3\n1 = 0.5\n2 0.8\n3 = 1.2\n</FILL_OUTPUT_TIMES>\n",
+      zeb::FileKind::kCmx);
+  const auto steps = analysed.steps("FILL_OUTPUT_TIMES.m_pOutTimeStep");
+  ASSERT_EQ(steps.size(), 1u);
+  EXPECT_EQ(steps[0]->listLines,
+            (std::vector<std::string>{"line 3: 1 = 0.5", "line 4: 2 0.8 (not used)", "line 5: 3 = 1.2"}));
+  EXPECT_EQ(steps[0]->after, "[0.5, 0, 1.2]");
+}
+
+TEST(History, TellsTheOwnLineOfEachCoefficientInACmxFile) {
+  const Analysed analysed(
+      "<FILL_ADVANCED_LONGFIBER>\nDiffusionModelType = 1\nCf = 0.01\nCm = 0.3\n</FILL_ADVANCED_LONGFIBER>\n",
+      zeb::FileKind::kCmx);
+  const auto atDefault = analysed.steps("m_dARD_Cf");
+  ASSERT_EQ(atDefault.size(), 1u);
+  EXPECT_EQ(atDefault[0]->lineNumber, 3);
+  const auto changed = analysed.steps("m_dARD_Cm");
+  ASSERT_EQ(changed.size(), 1u);
+  EXPECT_EQ(changed[0]->lineNumber, 4);
+  EXPECT_EQ(changed[0]->after, "0.3");
+  EXPECT_TRUE(analysed.steps("m_dARD_b1").empty());
+}
+
+TEST(History, TellsKeysAboveTheGateOfTheStandardSolver) {
+  const Analysed analysed("[MultiGate]\nByVolume = 0.5\nMultipleGateMethod = 1\n[/MultiGate]\n", zeb::FileKind::kStd);
+  const auto steps = analysed.steps("ByVolume");
+  ASSERT_EQ(steps.size(), 1u);
+  EXPECT_EQ(steps[0]->outcome, zeb::KeyOutcome::kGated);
+  EXPECT_EQ(analysed.value("ByVolume"), "0.02");
+}
+
+// The companion file stands beside the CMP file, under its name.
+class WithViscoelasticFile {
+ public:
+  explicit WithViscoelasticFile(const std::string& text)
+      : m_companion(std::filesystem::path(m_file.path()).replace_extension(".vecmp")) {
+    std::ofstream(m_companion) << text;
+  }
+  WithViscoelasticFile(const WithViscoelasticFile&) = delete;
+  WithViscoelasticFile& operator=(const WithViscoelasticFile&) = delete;
+  ~WithViscoelasticFile() { std::filesystem::remove(m_companion); }
+  zeb::ParameterFile read(zeb::ReadObserver& observer) const {
+    const zeb::OutputCapture quiet;
+    return zeb::readParameterFile(m_file.path(), zeb::FileKind::kCmp, {.viscoelastic = true}, nullptr, &observer);
+  }
+  std::vector<const zeb::HistoryStep*> steps(std::string_view member) const {
+    const auto* entry = zeb::findEntries(member, "CMP").at(0);
+    return m_history.stepsOf(*entry->row, m_set.cmp->getVEParm());
+  }
+  void explain() { m_set = read(m_history); }
+
+ private:
+  zebtest::TemporaryFile m_file{"", ".cmp"};
+  std::filesystem::path m_companion;
+  zeb::History m_history;
+  zeb::ParameterFile m_set;
+};
+
+TEST(History, TellsHeadValuesOfTheViscoelasticFileThatAreNotTaken) {
+  WithViscoelasticFile file("1006\n5 2 0\n20 0.2 30\n20 0.01 20\n1000 1e6\n0 1e4 0\n1 10 1000\n1 0.5 0\n-1\n");
+  file.explain();
+  const auto low = file.steps("m_dTLowBond");  // taken above 10 alone
+  ASSERT_EQ(low.size(), 1u);
+  EXPECT_EQ(low[0]->kind, Kind::kNotTaken);
+  EXPECT_EQ(low[0]->lineNumber, 2);
+  const auto taken = file.steps("m_dModifyLamdaLowT");
+  ASSERT_EQ(taken.size(), 1u);
+  EXPECT_EQ(taken[0]->kind, Kind::kLine);
+  EXPECT_EQ(taken[0]->after, "2");
+  const auto weight = file.steps("m_dSmoothFactor");
+  ASSERT_EQ(weight.size(), 1u);
+  EXPECT_EQ(weight[0]->lineNumber, 8);
+  EXPECT_EQ(weight[0]->after, "0.5");
+}
+
+TEST(History, TellsWhyTheViscoelasticFileIsRefused) {
+  WithViscoelasticFile file("1006\n50 2 0\n20 0.2 30\n20 0.01 20\n1000 1e6\n0 1e4 0\n1 10 1000\n4 0.5 0\n-1\n");
+  file.explain();
+  const auto steps = file.steps("m_dModifyLamdaLowT");
+  ASSERT_EQ(steps.size(), 2u);
+  EXPECT_EQ(steps[0]->kind, Kind::kLine);
+  EXPECT_EQ(steps[1]->kind, Kind::kRefused);
+  EXPECT_EQ(steps[1]->lineNumber, 9);
+}
+
+TEST(Provenance, ForgetsWhatARefusedViscoelasticFileSet) {
+  const WithViscoelasticFile file("1006\n50 2 0\n20 0.2 30\n20 0.01 20\n1000 1e6\n0 1e4 0\n1 10 1000\n4 0.5 0\n-1\n");
+  zeb::Provenance provenance;
+  const zeb::ParameterFile set = file.read(provenance);
+  const auto* entry = zeb::findEntries("m_dModifyLamdaLowT", "CMP").at(0);
+  void* block = set.cmp->getVEParm();
+  EXPECT_EQ(zeb::valueOf(*entry->row, block), entry->defaultValue);
+  EXPECT_EQ(provenance.origin(entry->row->field.locate(block)).text(), "default");
+}
+
+struct ListOrigin {
+  zeb::FileKind kind;
+  const char* text;
+  std::map<std::string, std::string> origins;  // by member
+};
+
+TEST(Provenance, NamesTheLinesThatAListsMembersStandOn) {
+  using enum zeb::FileKind;
+  for (const ListOrigin& list : {
+           ListOrigin{kCmp,
+                      "[RTM]\nIsVentInlet = 1\nNVentInlet = 2\nVentInletID = 4\nVentInletID = 9\n[/RTM]\n",
+                      {{"m_iIsVentInlet", "line 2"}, {"m_iNVentInlet", "line 3"}, {"m_piVentInletID", "lines 4-5"}}},
+           ListOrigin{kCmp,
+                      "[RTM]\nIsVentInlet = 0\n[/RTM]\n",
+                      {{"m_iIsVentInlet", "line 2"}, {"m_iNVentInlet", "default"}, {"m_piVentInletID", "default"}}},
+           ListOrigin{kCmp,
+                      "[MultiGate]\nMultipleGateMethod = 1\nNumberofInletGroups = 2\nWeightings = 0.4\nWeightings "
+                      "= 0.6\n[/MultiGate]\n",
+                      {{"m_iNumberofInletGroups", "line 3"}, {"m_pdInletWeightings", "lines 4-5"}}},
+           ListOrigin{kCmp,
+                      "[UNFSetting]\nFillType = 2\nnDispenserPoint = 2\nPoint_x1 = 1\n\nPoint_y2 = 2\n"
+                      "[/UNFSetting]\n",
+                      {{"m_iNDispenserPass", "line 3"}, {"m_pdDispenserPoint", "lines 4-6"}}},
+           ListOrigin{kCmp,
+                      "[UNFSetting]\nFillType = 2\nnDispenserPoint = 2\n[/UNFSetting]\n",
+                      {{"m_pdDispenserPoint", "line 3"}}},
+           ListOrigin{kCmx,
+                      "<FILL_ADVANCED_LONGFIBER>\nDiffusionModelType = 0\nCI = 0.01\n</FILL_ADVANCED_LONGFIBER>\n",
+                      {{"m_iDiffusionModelType", "line 2"}, {"m_dFiber_CI", "line 3"}, {"m_dARD_Cf", "default"}}},
+           ListOrigin{
+               kCmx,
+               "<FILL_OUTPUT_TIMES>\nValueNoFillOutputTime = 1\n1 = 0.5\n</FILL_OUTPUT_TIMES>\n",
+               {{"FILL_OUTPUT_TIMES.m_iNoOutTimeStep", "line 2"}, {"FILL_OUTPUT_TIMES.m_pOutTimeStep", "line 3"}}},
+           ListOrigin{kCmp,
+                      "[Whiteboard]\nElemagComsol 1.5\n[/Whiteboard]\n",
+                      {{"m_dGetTime_StartHeating", "line 2"}, {"m_dGetTime_EndHeating", "default"}}},
+       }) {
+    const zebtest::TemporaryFile file(list.text);
+    zeb::Provenance provenance;
+    const zeb::OutputCapture quiet;
+    const auto set = zeb::readParameterFile(file.path(), list.kind, {}, nullptr, &provenance);
+    for (const auto& [name, expected] : list.origins) {
+      const auto* entry = zeb::findEntries(name, zeb::formatOf(list.kind)).at(0);
+      for (const zeb::BlockView& view : set.blocks()) {
+        if (view.table != entry->table) continue;
+        EXPECT_EQ(provenance.origin(entry->row->field.locate(view.block)).text(), expected) << name << "\n"
+                                                                                            << list.text;
+      }
+    }
+  }
 }
 
 TEST(History, KnowsWhereSectionsOpen) {

@@ -35,6 +35,8 @@ struct Events final : zeb::ReadObserver {
       EXPECT_EQ(event.tail, "") << event.line;
     }
     EXPECT_NE(event.outcome, zeb::KeyOutcome::kUnparsed) << event.line;
+    EXPECT_NE(event.outcome, zeb::KeyOutcome::kGated) << event.line;
+    EXPECT_NE(event.outcome, zeb::KeyOutcome::kNotStored) << event.line;
     EXPECT_NE(event.outcome, zeb::KeyOutcome::kRefused) << event.line;
   }
   void linePositional(const zeb::Section& section, int line, int /*number*/, int converted, int expected,
@@ -108,6 +110,29 @@ TEST(CMPTemplate, MoldingTypesOnlyAddComments) {
   }
   const std::string gas = zeb::templateText({.molding = 6, .sections = {"ShortShot"}, .cmx = false});
   EXPECT_NE(gas.find("(molding type GAIM): times 4\n"), gas.npos) << gas;
+}
+
+TEST(CMPTemplate, LeavesToTheMoldingTypeWhatItChanges) {
+  // Gas-assisted molding makes 4.4 of the time limit of 1.1.
+  const std::string gas = zeb::templateText({.molding = 6, .sections = {"ShortShot"}, .cmx = false});
+  EXPECT_EQ(gas.find("\nTimeLimit ="), gas.npos) << gas;
+  EXPECT_NE(gas.find("it becomes 4.4"), gas.npos) << gas;
+  const std::string plain = zeb::templateText({.molding = 0, .sections = {"ShortShot"}, .cmx = false});
+  EXPECT_NE(plain.find("\nTimeLimit = 1.1\n"), plain.npos) << plain;
+}
+
+TEST(CMPTemplate, KeepsLinesBehindAShutGateAsComments) {
+  const std::string text = zeb::templateText({.molding = {}, .sections = {"AutoVPCtrl"}, .cmx = false});
+  EXPECT_NE(text.find("\nAutoVPMode = 0\n"), text.npos) << text;
+  EXPECT_NE(text.find("\n#     EstCavityPres = 0.1\n"), text.npos) << text;
+  EXPECT_EQ(text.find("\nEstCavityPres"), text.npos) << text;
+}
+
+TEST(Template, LinesFitAScreen) {
+  for (const bool cmx : {false, true}) {
+    std::istringstream text(zeb::templateText({.molding = {}, .sections = {}, .cmx = cmx}));
+    for (std::string line; std::getline(text, line);) EXPECT_LE(line.size(), 120u) << line;
+  }
 }
 
 TEST(CMPTemplate, NamesEveryKeyWithItsDescription) {

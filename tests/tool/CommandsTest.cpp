@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <map>
 #include <nlohmann/json.hpp>
 
 #include "tests/tool/RunTool.hpp"
@@ -32,7 +33,7 @@ const std::string kMaterials = std::string(ZEB_EXAMPLES_DIR) + "/materials";
 
 struct Refusal {
   const char* name;
-  std::vector<std::string> arguments;  // FILE and CMX stand for good files, FIFO for a named pipe, FOLDER for a folder
+  std::vector<std::string> arguments;  // see below
   const char* message;
 };
 
@@ -43,15 +44,19 @@ TEST_P(Refused, EndsWithAMessage) {
   const TemporaryFile settings(kMoments, ".cmx");
   const std::string fifo = file.path() + ".fifo";
   ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+  const TemporaryFile binary(std::string("\x89PNG\0\0", 6));
+  const std::string loop = file.path() + ".loop";
+  std::filesystem::create_symlink(loop, loop);
+  const std::map<std::string, std::string> paths{
+      {"FILE", file.path()}, {"CMX", settings.path()}, {"BINARY", binary.path()},
+      {"LOOP", loop},        {"FIFO", fifo},           {"FOLDER", std::filesystem::temp_directory_path().string()}};
   std::vector<std::string> arguments = GetParam().arguments;
   for (std::string& argument : arguments) {
-    if (argument == "FILE") argument = file.path();
-    if (argument == "CMX") argument = settings.path();
-    if (argument == "FIFO") argument = fifo;
-    if (argument == "FOLDER") argument = std::filesystem::temp_directory_path().string();
+    if (paths.count(argument) > 0) argument = paths.at(argument);
   }
   const ToolRun run = runTool(arguments);
   std::filesystem::remove(fifo);
+  std::filesystem::remove(loop);
   EXPECT_EQ(run.exitCode, 2);
   EXPECT_EQ(run.out, "");
   EXPECT_THAT(run.err, HasSubstr(GetParam().message));
@@ -63,10 +68,32 @@ void PrintTo(const Refusal& refusal, std::ostream* out) { *out << refusal.name; 
 INSTANTIATE_TEST_SUITE_P(
     Tool, Refused,
     testing::Values(
-        Refusal{"NoArguments", {}, "A subcommand is required"}, Refusal{"NoFile", {"show"}, "FILE is required"},
+        Refusal{"NoArguments", {}, "which command? show, check"},
+        Refusal{"NoFile", {"show"}, "FILE is required; compparm show --help tells more"},
+        Refusal{"UnknownCommand", {"nosuch"}, "there is no command nosuch; there are show, check"},
+        Refusal{"MisspeltCommand", {"shwo", "FILE"}, "there is no command shwo; did you mean show?"},
+        Refusal{"MisspeltOption", {"show", "FILE", "--chnged"}, "show has no option --chnged; did you mean --changed?"},
+        Refusal{"MisspeltOptionWithValue", {"diff", "FILE", "FILE", "--tolerence=1"}, "did you mean --tolerance?"},
+        Refusal{"MisspeltOptionWithoutFile", {"explain", "--viscoelastc"}, "did you mean --viscoelastic?"},
+        Refusal{"MisspeltMolding", {"diff", "FILE", "--against-molding", "RTN"}, "did you mean RTM or RIM?"},
+        Refusal{"MisspeltBlock", {"show", "FILE", "--block", "Outlt"}, "did you mean Outlet?"},
+        Refusal{"MisspeltSection", {"template", "--sections", "StableFlg"}, "did you mean StableFlag?"},
+        Refusal{"MisspeltKey", {"explain", "FILE", "AirPresure"}, "did you mean AirPressure"},
+        Refusal{"KeyOfAnotherKind", {"explain", "FILE", "FlagSlipBC"}, "; --as cmx knows it"},
+        Refusal{"Loop", {"show", "LOOP"}, "Too many levels of symbolic links"},
+        Refusal{"LongName", {"show", std::string(5000, 'x')}, "File name too long"},
+        Refusal{"CannotBeRead", {"show", "/proc/self/mem"}, "/proc/self/mem: cannot be read"},
+        Refusal{"Binary", {"show", "BINARY"}, "holds NUL bytes and no section"},
+        Refusal{"MoldingOfACmx", {"explain", "CMX", "Level1", "--molding", "RTM"}, "have no meaning for a CMX file"},
+        Refusal{"RawOfACmx", {"show", "CMX", "--raw"}, "the library has no dump for a CMX file"},
+        Refusal{"DiffOfTwoKinds", {"diff", "FILE", "CMX"}, "they have no parameters in common"},
+        Refusal{"DiffOfOne", {"diff", "FILE"}, "diff needs a second file"},
+        Refusal{"TemplateOfACmxForAMolding", {"template", "--as", "cmx", "--molding", "IM"}, "does not depend"},
         Refusal{"MissingFile", {"show", "no-such-file.cmp"}, "no-such-file.cmp: no such file"},
         Refusal{"Folder", {"show", "FOLDER"}, "is a directory"},
         Refusal{"NamedPipe", {"show", "FIFO"}, "is not a regular file"},
+        Refusal{"DiffWithNamedPipe", {"diff", "FILE", "FIFO"}, "is not a regular file"},
+        Refusal{"ExplainOfANamedPipe", {"explain", "FIFO", "VentMode"}, "is not a regular file"},
         Refusal{"Device", {"show", "/dev/null"}, "/dev/null: is not a regular file"},
         Refusal{"UnknownBlock", {"show", "FILE", "--block", "Nope"}, "no block or section is named Nope"},
         Refusal{"UnknownMolding", {"show", "FILE", "--molding", "NOPE"}, "--molding: expects one of IM, FAIM"},
@@ -76,7 +103,7 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"UnknownKind", {"show", "FILE", "--as", "nope"}, "--as"},
         Refusal{"RawWithFormat", {"show", "FILE", "--raw", "--format", "json"}, "--raw excludes --format"},
         Refusal{"CheckMissingFile", {"check", "no-such-file.cmp"}, "no-such-file.cmp: no such file"},
-        Refusal{"ExplainUnknownName", {"explain", "FILE", "Nope"}, "no key or member is named Nope"},
+        Refusal{"ExplainUnknownName", {"explain", "FILE", "Qqqqqqqqqq"}, "no key or member of a CMP file is named Qqq"},
         Refusal{"ExplainMissingFile", {"explain", "no-such-file.cmp", "AirPressure"}, "no such file"},
         Refusal{"DiffMissingFile", {"diff", "FILE", "no-such-file.cmp"}, "no-such-file.cmp: no such file"},
         Refusal{"UnknownMaterial", {"material", "nope", "--folder", kMaterials}, "material 'nope' not found"},
@@ -89,7 +116,29 @@ TEST(Tool, EmptyFileHoldsTheDefaults) {
   const TemporaryFile file("");
   const ToolRun run = runTool({"show", file.path(), "--changed"});
   EXPECT_EQ(run.exitCode, 0) << run.err;
+  EXPECT_THAT(run.out, HasSubstr("The file holds no section that its reader knows"));
   EXPECT_THAT(run.out, HasSubstr("0 values differ from the default.\n"));
+}
+
+TEST(Tool, ReadsABinaryFileWhereAskedTo) {
+  const TemporaryFile file(std::string("\x89PNG\0\0", 6));
+  const ToolRun run = runTool({"show", file.path(), "--as", "cmp"});
+  EXPECT_EQ(run.exitCode, 0) << run.err;
+  EXPECT_THAT(run.out, HasSubstr("The file holds no section that its reader knows"));
+}
+
+TEST(Tool, ColoursATerminalUnlessToldNotTo) {
+  const TemporaryFile file(kOutlet);
+  EXPECT_THAT(zebtest::runToolOnTerminal({"show", file.path()}, ""), HasSubstr("\x1b["));
+  EXPECT_THAT(zebtest::runToolOnTerminal({"show", file.path()}, "NO_COLOR=1"), Not(HasSubstr("\x1b[")));
+}
+
+TEST(Tool, WritesControlCharactersOfAFileOut) {
+  const TemporaryFile file("[General]\nValueInitChargeFiberExchangeName = \x1b[31mred\n[/General]\n");
+  const ToolRun shown = runTool({"show", file.path(), "--block", "General"});
+  const ToolRun explained = runTool({"explain", file.path(), "General.ValueInitChargeFiberExchangeName"});
+  EXPECT_THAT(shown.out + explained.out, Not(HasSubstr("\x1b")));
+  EXPECT_THAT(explained.out, HasSubstr("\\x1b[31mred"));
 }
 
 TEST(Tool, WritesNoEscapeCodesIntoPipes) {
@@ -108,33 +157,6 @@ TEST(Tool, WritesNoEscapeCodesIntoPipes) {
     EXPECT_FALSE((run.out + run.err).empty()) << call[0];
     EXPECT_THAT(run.out + run.err, Not(HasSubstr("\x1b"))) << call[0];
   }
-}
-
-// --- schedule ----------------------------------------------------------------------------------------------------
-
-TEST(Schedule, MergesTheMomentsOfTheFileWithTheGrid) {
-  const TemporaryFile file(kMoments, ".cmx");
-  const ToolRun run = runTool({"schedule", file.path(), "--fill-time", "10", "--split", "4", "--format", "json"});
-  ASSERT_EQ(run.exitCode, 0) << run.err;
-  const json document = json::parse(run.out);
-  const std::vector<std::pair<double, int>> expected{{1.0, -1}, {2.5, 0}, {5.0, -2}, {7.5, 0}, {9.0, -3}};
-  std::vector<std::pair<double, int>> moments;
-  for (const json& entry : document.at("moments")) {
-    moments.emplace_back(entry.at("moment").get<double>(), entry.at("source").get<int>());
-  }
-  EXPECT_EQ(moments, expected);
-  EXPECT_EQ(document.at("type"), 1);
-}
-
-TEST(Schedule, TellsThatTheListWasCutShort) {
-  // 4.0 does not rise above 5.005: it and what follows is left out, the grid moment 7.5 stays the last.
-  std::string text = kMoments;
-  text.replace(text.find("9.0"), 3, "4.0");
-  const TemporaryFile file(text, ".cmx");
-  const ToolRun run = runTool({"schedule", file.path(), "--fill-time", "10", "--split", "4"});
-  EXPECT_EQ(run.exitCode, 1);
-  EXPECT_THAT(run.out, HasSubstr("cut short"));
-  EXPECT_THAT(run.out, HasSubstr("4 output moments."));
 }
 
 // --- material ----------------------------------------------------------------------------------------------------
@@ -167,6 +189,33 @@ TEST(Explain, TellsTheLineTheConversionAndTheValue) {
   }
 }
 
+TEST(Explain, KnowsTheKindOfAFileByItsContent) {
+  const TemporaryFile file("<SOLID_FILL>\nValueGravityX = 9.8\nLevel1 = 3\n</SOLID_FILL>\n", ".cmx");
+  const ToolRun run = runTool({"explain", file.path(), "ValueGravyX"});
+  EXPECT_EQ(run.exitCode, 0) << run.err;
+  EXPECT_THAT(run.out, HasSubstr("SOLID_FILL.m_dGravX  key ValueGravyX or ValueGravityX  in <SOLID_FILL>\n"));
+  EXPECT_THAT(run.out, HasSubstr("line 2  ValueGravityX = 9.8\n"));
+  const json document = json::parse(runTool({"explain", file.path(), "Level1", "--format", "json"}).out);
+  EXPECT_EQ(document.at("kind"), "cmx");
+  EXPECT_EQ(document.at("parameters").at(0).at("value"), 3);
+}
+
+TEST(Explain, TellsOfTheCompanionFile) {
+  const TemporaryFile file(kOutlet);
+  EXPECT_THAT(runTool({"explain", file.path(), "VE_Para1"}).out,
+              HasSubstr("it stands in the companion file, which --viscoelastic reads"));
+}
+
+TEST(Explain, ReadsAsTheStandardSolver) {
+  const TemporaryFile file("[VER] 1013\n7 2 2 2 2 2\n");
+  const ToolRun standard = runTool({"explain", file.path(), "ilsolvU", "--as", "std"});
+  EXPECT_EQ(standard.exitCode, 0) << standard.err;
+  EXPECT_THAT(standard.out, HasSubstr("line 2  7 2 2 2 2 2\n      line 1, field 1 of the head: parsed \"7\"\n"));
+  const ToolRun other = runTool({"explain", file.path(), "m_ilsolvU"});
+  EXPECT_THAT(other.out, HasSubstr("line 1  [VER] 1013\n      not read: version 1013; the head is read behind version "
+                                   "1023 alone\n"));
+}
+
 // --- diff --------------------------------------------------------------------------------------------------------
 
 TEST(Diff, SameParametersEndWithZero) {
@@ -183,6 +232,23 @@ TEST(Diff, DifferentParametersEndWithOne) {
   EXPECT_EQ(run.exitCode, 1) << run.err;
   EXPECT_THAT(run.out, HasSubstr("Outlet.m_dAirPressure  AirPressure\n  - 2e+06  line 2\n  + 3e+06  line 3\n"));
   EXPECT_THAT(run.out, HasSubstr("1 parameter differs.\n"));
+}
+
+TEST(Diff, ComparesAnalysisSettings) {
+  const TemporaryFile left("<SOLID_FILL>\nLevel1 = 3\n</SOLID_FILL>\n", ".cmx");
+  const TemporaryFile right("<SOLID_FILL>\nLevel1 = 4\n</SOLID_FILL>\n", ".cmx");
+  const ToolRun run = runTool({"diff", left.path(), right.path()});
+  EXPECT_EQ(run.exitCode, 1) << run.err;
+  EXPECT_THAT(run.out, HasSubstr("SOLID_FILL.m_iUseTemperatureDLL_Level1  Level1\n  - 3  line 2\n  + 4  line 2\n"));
+  EXPECT_THAT(run.out, HasSubstr("1 parameter differs.\n"));
+}
+
+TEST(Diff, ComparesWhatTheStandardSolverSees) {
+  // FillType belongs to a section that this solver does not know.
+  const TemporaryFile left("[VER] 1013\n2 2\n"), right("[VER] 1013\n2 3\n[UNFSetting]\nFillType = 1\n");
+  const ToolRun run = runTool({"diff", left.path(), right.path(), "--as", "std"});
+  EXPECT_EQ(run.exitCode, 1) << run.err;
+  EXPECT_THAT(run.out, HasSubstr("Head.ilsolvV\n  - 2  line 2\n  + 3  line 2\n1 parameter differs.\n"));
 }
 
 TEST(Diff, ComparesMoldingTypesOfOneFile) {
@@ -206,7 +272,7 @@ TEST(Template, ReadsBackAsTheDefaults) {
     const char* extension;
     std::vector<std::string> reading;  // only a CMP file has repairs to switch off
   };
-  const std::vector<Kind> kinds{{{"template"}, ".cmp", {"--no-repair"}}, {{"template", "--cmx"}, ".cmx", {}}};
+  const std::vector<Kind> kinds{{{"template"}, ".cmp", {"--no-repair"}}, {{"template", "--as", "cmx"}, ".cmx", {}}};
   for (const Kind& kind : kinds) {
     const ToolRun written = runTool(kind.options);
     ASSERT_EQ(written.exitCode, 0) << written.err;
@@ -217,6 +283,35 @@ TEST(Template, ReadsBackAsTheDefaults) {
     const ToolRun read = runTool(arguments);
     EXPECT_EQ(read.exitCode, 0) << read.err;
     EXPECT_THAT(read.out, HasSubstr("\n0 values differ from the default.\n")) << kind.extension;
+  }
+}
+
+TEST(Template, OfEveryMoldingTypeChecksClean) {
+  for (int molding = 0; molding <= 14; ++molding) {
+    const std::string code = std::to_string(molding);
+    const TemporaryFile file(runTool({"template", "--molding", code}).out);
+    const ToolRun checked = runTool({"check", file.path(), "--molding", code});
+    EXPECT_EQ(checked.exitCode, 0) << code << '\n' << checked.out << checked.err;
+    const ToolRun read = runTool({"show", file.path(), "--molding", code, "--no-repair", "--changed"});
+    EXPECT_THAT(read.out, HasSubstr("\n0 values differ from the default.\n")) << code;
+  }
+}
+
+TEST(Template, OfSomeSectionsChecksClean) {
+  const std::vector<std::vector<std::string>> choices{{},
+                                                      {"VER"},
+                                                      {"VER", "General"},
+                                                      {"MultiGate", "UNFSetting", "AutoVPCtrl"},
+                                                      {"Whiteboard"},
+                                                      {"Fiber", "Foam"},
+                                                      {"FastCool", "StdCool", "3DCoolingChannel"}};
+  for (const auto& sections : choices) {
+    std::vector<std::string> arguments{"template"};
+    if (!sections.empty()) arguments.push_back("--sections");
+    arguments.insert(arguments.end(), sections.begin(), sections.end());
+    const TemporaryFile file(runTool(arguments).out);
+    const ToolRun checked = runTool({"check", file.path()});
+    EXPECT_EQ(checked.exitCode, 0) << testing::PrintToString(sections) << '\n' << checked.out << checked.err;
   }
 }
 

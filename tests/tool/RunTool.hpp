@@ -2,9 +2,11 @@
 #pragma once
 
 #include <fcntl.h>
+#include <pty.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -39,11 +41,11 @@ inline void redirect(int descriptor, const std::string& path) {
 
 }  // namespace tool_detail
 
-/// Runs the tool with these arguments in `folder` (empty: the current one). Both outputs are files, never a terminal.
-inline ToolRun runTool(const std::vector<std::string>& arguments, const std::string& folder = {}) {
+/// Runs the program with these arguments in `folder` (empty: the current one). Both outputs are files, never a
+/// terminal.
+inline ToolRun runProgram(std::string tool, const std::vector<std::string>& arguments, const std::string& folder = {}) {
   const TemporaryFile out("", ".out");
   const TemporaryFile err("", ".err");
-  std::string tool = ZEB_COMPPARM;
   std::vector<std::string> texts = arguments;
   std::vector<char*> argv{tool.data()};
   for (std::string& text : texts) argv.push_back(text.data());
@@ -66,6 +68,39 @@ inline ToolRun runTool(const std::vector<std::string>& arguments, const std::str
   run.out = contentOf(out.path());
   run.err = contentOf(err.path());
   return run;
+}
+
+inline ToolRun runTool(const std::vector<std::string>& arguments, const std::string& folder = {}) {
+  return runProgram(ZEB_COMPPARM, arguments, folder);
+}
+
+/// What the tool writes when both outputs are a terminal. `setting`, like "NO_COLOR=1", joins its environment.
+inline std::string runToolOnTerminal(const std::vector<std::string>& arguments, const char* setting) {
+  std::string tool = ZEB_COMPPARM, variable = setting;
+  std::vector<std::string> texts = arguments;
+  std::vector<char*> argv{tool.data()};
+  for (std::string& text : texts) argv.push_back(text.data());
+  argv.push_back(nullptr);
+
+  int terminal = -1;
+  const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
+  if (child < 0) throw std::runtime_error("cannot open a terminal");
+  if (child == 0) {
+    unsetenv("NO_COLOR");
+    if (!variable.empty()) putenv(variable.data());
+    alarm(tool_detail::kSecondsToEnd);
+    execv(tool.c_str(), argv.data());
+    _exit(127);
+  }
+  std::string text;
+  char buffer[4096];
+  // The read fails when the other side is closed.
+  for (ssize_t count = 0; (count = read(terminal, buffer, sizeof buffer)) > 0;) {
+    text.append(buffer, static_cast<std::size_t>(count));
+  }
+  close(terminal);
+  waitpid(child, nullptr, 0);
+  return text;
 }
 
 }  // namespace zebtest

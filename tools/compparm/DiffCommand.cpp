@@ -1,12 +1,15 @@
 // compparm diff: what differs between two analyses in the values that the solver uses.
 #include <iostream>
 #include <memory>
+#include <optional>
 
 #include "inspect/Difference.hpp"
 #include "inspect/OutputCapture.hpp"
+#include "inspect/ParameterFile.hpp"
 #include "inspect/Provenance.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
+#include "tools/compparm/HelpText.hpp"
 #include "tools/compparm/JsonText.hpp"
 #include "tools/compparm/Terminal.hpp"
 
@@ -17,38 +20,29 @@ namespace {
 struct DiffArguments {
   AnalysisArguments a;
   std::string otherFile;
-  std::string againstMolding;
-  int againstMaterial = -1;
+  std::optional<int> againstMolding, againstMaterial;
   double tolerance = 0.0;
-  bool json = false;
+  std::string format;
 };
 
 struct Side {
   AnalysisArguments analysis;
-  std::unique_ptr<CZEBKNCMPCompParm> set;
+  zeb::FileKind kind = zeb::FileKind::kCmp;
+  zeb::ParameterFile file;
   zeb::Provenance provenance;
   std::vector<zeb::BlockSettings> settings;
 
-  std::string title() const {
-    return analysis.file + " (" + analysis.moldingName() + ", material " + std::to_string(analysis.options.material) +
-           ")";
-  }
+  std::string title() const { return analysis.file + " (" + analysis.readAs(kind) + ")"; }
 };
 
 void read(Side& side) {
   const zeb::OutputCapture discarded;
-  side.set = zeb::analyse(side.analysis.file, side.analysis.options, nullptr, &side.provenance);
-  side.settings = zeb::settingsOf(zeb::blocksOf(*side.set), &side.provenance);
+  side.file = zeb::readParameterFile(side.analysis.file, side.kind, side.analysis.options, nullptr, &side.provenance);
+  side.settings = zeb::settingsOf(side.file.blocks(), &side.provenance);
 }
 
 Json sideOf(const zeb::Setting& setting) {
   return {{"value", jsonOf(*setting.row, setting.value)}, {"origin", setting.origin.text()}};
-}
-
-Json describe(const Side& side) {
-  return {{"file", side.analysis.file},
-          {"molding", side.analysis.moldingName()},
-          {"material", side.analysis.options.material}};
 }
 
 void printJson(const Side& a, const Side& b, const std::vector<zeb::Difference>& differences) {
@@ -60,7 +54,7 @@ void printJson(const Side& a, const Side& b, const std::vector<zeb::Difference>&
     json["b"] = sideOf(*difference.b);
     list.push_back(std::move(json));
   }
-  print({{"a", describe(a)}, {"b", describe(b)}, {"differences", std::move(list)}});
+  print({{"a", a.analysis.asJson(a.kind)}, {"b", b.analysis.asJson(b.kind)}, {"differences", std::move(list)}});
 }
 
 void printText(const Side& a, const Side& b, const std::vector<zeb::Difference>& differences) {
@@ -69,33 +63,40 @@ void printText(const Side& a, const Side& b, const std::vector<zeb::Difference>&
     std::cout << coloured(Colour::kBold, difference.block + "." + difference.a->member);
     if (!difference.a->row->key.empty()) std::cout << "  " << difference.a->row->key;
     std::cout << '\n'
-              << "  - " << difference.a->value << "  " << coloured(Colour::kDim, difference.a->origin.text()) << '\n'
-              << "  + " << difference.b->value << "  " << coloured(Colour::kDim, difference.b->origin.text()) << '\n';
+              << "  - " << printable(difference.a->value) << "  " << coloured(Colour::kDim, difference.a->origin.text())
+              << '\n'
+              << "  + " << printable(difference.b->value) << "  " << coloured(Colour::kDim, difference.b->origin.text())
+              << '\n';
   }
   std::cout << differences.size() << (differences.size() == 1 ? " parameter differs.\n" : " parameters differ.\n");
+}
+
+// Finds out the kinds of the sides too, once it is known that their files can be looked into.
+std::string problemOf(const DiffArguments& arguments, Side& a, Side& b) {
+  const bool hasOther = !arguments.otherFile.empty() || arguments.againstMolding || arguments.againstMaterial;
+  if (!hasOther) return "diff needs a second file, --against-molding or --against-material";
+  for (Side* side : {&a, &b}) {
+    std::string problem = side->analysis.problem();
+    if (!problem.empty()) return problem;
+    side->kind = side->analysis.kind();
+  }
+  if (a.kind == b.kind) return {};
+  return a.analysis.file + " is a " + std::string(zeb::formatOf(a.kind)) + " file and " + b.analysis.file + " a " +
+         std::string(zeb::formatOf(b.kind)) + " file: they have no parameters in common";
 }
 
 int run(const DiffArguments& arguments) {
   Side a, b;
   a.analysis = b.analysis = arguments.a;
   if (!arguments.otherFile.empty()) b.analysis.file = arguments.otherFile;
-  if (!arguments.againstMolding.empty()) {
-    const auto code = zeb::moldingCode(arguments.againstMolding);
-    if (!code) return fail("--against-molding expects one of " + zeb::moldingNames() + " or a code 0 to 14");
-    b.analysis.options.molding = *code;
-  }
-  if (arguments.againstMaterial >= 0) b.analysis.options.material = arguments.againstMaterial;
-  if (arguments.otherFile.empty() && arguments.againstMolding.empty() && arguments.againstMaterial < 0) {
-    return fail("diff needs a second file, --against-molding or --against-material");
-  }
-  for (const Side* side : {&a, &b}) {
-    const std::string problem = side->analysis.problem();
-    if (!problem.empty()) return fail(problem);
-  }
+  if (arguments.againstMolding) b.analysis.options.molding = *arguments.againstMolding;
+  if (arguments.againstMaterial) b.analysis.options.material = *arguments.againstMaterial;
+  const std::string problem = problemOf(arguments, a, b);
+  if (!problem.empty()) return fail(problem);
   read(a);
   read(b);
   const auto differences = zeb::differencesOf(a.settings, b.settings, arguments.tolerance);
-  arguments.json ? printJson(a, b, differences) : printText(a, b, differences);
+  arguments.format == "json" ? printJson(a, b, differences) : printText(a, b, differences);
   return differences.empty() ? kClean : kFindings;
 }
 
@@ -105,22 +106,27 @@ void addDiff(CLI::App& app, int& exitCode) {
   const auto arguments = std::make_shared<DiffArguments>();
   CLI::App* command = app.add_subcommand("diff", "Compare the parameters that a solver would use, not the text");
   arguments->a.addTo(*command);
-  command->add_option("OTHER", arguments->otherFile, "The file to compare with (default: the same)");
-  command->add_option("--against-molding", arguments->againstMolding, "Molding type of the other side")
-      ->type_name("NAME|CODE");
-  command->add_option("--against-material", arguments->againstMaterial, "Material type of the other side")
-      ->check(CLI::Range(0, 1))
+  command->add_option("OTHER", arguments->otherFile, "The file to compare with (default: the same)")->type_name("");
+  arguments->a.addKindTo(*command);
+  addMolding(
+      *command, "--against-molding", [arguments](int code) { arguments->againstMolding = code; },
+      "Molding type of the other side (default: the same)");
+  command
+      ->add_option("--against-material", arguments->againstMaterial,
+                   "Material type of the other side (default: the same)")
+      ->check(CLI::Range(0, 1).description(""))
       ->type_name("0|1");
   command
       ->add_option("--tolerance", arguments->tolerance,
                    "Numbers count as the same up to this part of the larger one (default 0: exactly)")
-      ->check(CLI::Range(0.0, 1.0))
+      ->check(CLI::Range(0.0, 1.0).description("from 0 to 1"))
       ->type_name("REL");
-  command
-      ->add_option_function<std::string>(
-          "--format", [arguments](const std::string& format) { arguments->json = format == "json"; }, "text or json")
-      ->check(CLI::IsMember({"text", "json"}))
-      ->type_name("FORMAT");
+  addFormat(*command, arguments->format, {"text", "json"});
+  command->footer(examplesText({{"diff old.cmp new.cmp", "two files"},
+                                {"diff old.cmx new.cmx --tolerance 1e-6", "numbers may differ in the last digits"},
+                                {"diff part.cmp --molding IM --against-molding RTM", "one file, two molding types"},
+                                {"diff part.cmp --against-material 1", "one file, two material types"}}) +
+                  "\nExit codes: 0 the same, 1 different, 2 error.");
   command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
 }
 

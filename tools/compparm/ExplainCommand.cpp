@@ -8,6 +8,7 @@
 #include "inspect/Settings.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
+#include "tools/compparm/HelpText.hpp"
 #include "tools/compparm/JsonText.hpp"
 #include "tools/compparm/Terminal.hpp"
 
@@ -15,35 +16,17 @@ namespace compparm {
 
 namespace {
 
-constexpr std::string_view kFormat = "CMP";
-
 struct ExplainArguments {
   AnalysisArguments analysis;
   std::string name;
-  bool json = false;
+  std::string format;
 };
 
 struct Explained {
   const zeb::CatalogueEntry* entry;
   void* block;
+  bool companionIsUnread;  // the file that would set it was not asked for
 };
-
-// Control characters of the file must not reach the terminal.
-std::string printable(std::string_view text) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
-  std::string result;
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte >= 0x20 && byte != 0x7f) {
-      result += c;
-    } else if (c == '\t') {
-      result += "\\t";
-    } else {
-      result += std::string("\\x") + kDigits[byte >> 4] + kDigits[byte & 15u];
-    }
-  }
-  return result;
-}
 
 std::string_view outcomeText(zeb::KeyOutcome outcome) {
   switch (outcome) {
@@ -69,6 +52,10 @@ std::string_view kindText(zeb::HistoryStep::Kind kind) {
       return "list";
     case zeb::HistoryStep::Kind::kMissingField:
       return "missing field";
+    case zeb::HistoryStep::Kind::kNotTaken:
+      return "field not taken";
+    case zeb::HistoryStep::Kind::kRefused:
+      return "refused";
     case zeb::HistoryStep::Kind::kRepair:
       return "repair";
   }
@@ -79,33 +66,68 @@ std::string place(const zeb::HistoryStep& step) {
   return (step.file.empty() ? "" : step.file + " ") + "line " + std::to_string(step.lineNumber);
 }
 
+// The place of a member's field in its positional line; 0 where it has none there.
+int fieldOf(const zeb::Row& row, int positionalLine) {
+  for (const zeb::Position at : row.at) {
+    if (at.line == positionalLine) return at.field;
+  }
+  return 0;
+}
+
+// "line 5, field 3 of [FastCool]"
+std::string fieldText(const zeb::HistoryStep& step) {
+  return "line " + std::to_string(step.positionalLine) + ", field " +
+         std::to_string(fieldOf(*step.row, step.positionalLine)) + " of " +
+         (step.section->headVersion != 0 || step.section->open.empty() ? "the head" : std::string(step.section->open));
+}
+
+// Why a head or section is not read; a version line does not know the head that it fails to announce.
+std::string reasonText(const zeb::HistoryStep& step, const Explained& explained) {
+  if (step.section != nullptr) return step.reason;
+  return step.reason + "; the head is read behind version " + std::to_string(explained.entry->section->headVersion) +
+         " alone";
+}
+
+Json sameLine(const zeb::HistoryStep& step, const zeb::History& history) {
+  Json others = Json::array();
+  for (const zeb::HistoryStep* other : history.othersOf(step)) {
+    others.push_back({{"key", other->key},
+                      {"member", other->target->field.member},
+                      {"value", jsonOf(*other->target, other->after)},
+                      {"outcome", outcomeText(other->outcome)}});
+  }
+  return others;
+}
+
 Json jsonStep(const zeb::HistoryStep& step, const Explained& explained, const zeb::History& history) {
+  using Kind = zeb::HistoryStep::Kind;
   const zeb::Row& row = *explained.entry->row;
   Json json = {{"kind", kindText(step.kind)}};
-  if (step.kind == zeb::HistoryStep::Kind::kRepair) {
+  if (step.kind == Kind::kRepair) {
     json["condition"] = step.condition;
     json["before"] = jsonOf(row, step.before);
-  } else {
-    if (!step.file.empty()) json["file"] = step.file;
-    json["line"] = step.lineNumber;
-    json["text"] = step.line;
+    json["value"] = jsonOf(row, step.after);
+    return json;
+  }
+  if (!step.file.empty()) json["file"] = step.file;
+  json["line"] = step.lineNumber;
+  json["text"] = step.line;
+  if (step.positionalLine > 0) json["field"] = fieldText(step);
+  if (!step.reason.empty()) json["reason"] = reasonText(step, explained);
+  if (step.kind == Kind::kLine || step.kind == Kind::kList) {
     json["outcome"] = outcomeText(step.outcome);
     if (!step.key.empty()) json["key"] = step.key;
     json["parsed"] = step.used;
     json["left"] = step.left;
     if (!step.listLines.empty()) json["listLines"] = step.listLines;
+  }
+  if (step.row != nullptr) {
     const auto rules = zeb::ruleTexts(*step.section, *step.row);
     if (!rules.empty()) json["rules"] = rules;
-    Json others = Json::array();
-    for (const zeb::HistoryStep* other : history.othersOf(step)) {
-      others.push_back({{"key", other->key},
-                        {"member", other->target->field.member},
-                        {"value", jsonOf(*other->target, other->after)},
-                        {"outcome", outcomeText(other->outcome)}});
-    }
-    if (!others.empty()) json["sameLine"] = std::move(others);
   }
-  json["value"] = jsonOf(row, step.after);
+  Json others = sameLine(step, history);
+  if (!others.empty()) json["sameLine"] = std::move(others);
+  if (!step.after.empty()) json["value"] = jsonOf(row, step.after);
   return json;
 }
 
@@ -121,6 +143,7 @@ Json describe(const Explained& explained, const zeb::History& history) {
                {"member", row.field.member},     {"getter", row.field.getter}};
   if (!row.key.empty()) json["key"] = row.key;
   if (!row.otherKey.empty()) json["otherKey"] = row.otherKey;
+  if (row.at[0].line > 0) json["position"] = zeb::positionText(row);
   json["type"] = zeb::typeText(row);
   json["unit"] = row.unit;
   json["rules"] = zeb::ruleTexts(entry);
@@ -151,20 +174,7 @@ std::string parsedText(const zeb::HistoryStep& step) {
   return text;
 }
 
-void printLineStep(const zeb::HistoryStep& step, const zeb::History& history) {
-  std::cout << "  " << coloured(Colour::kCyan, place(step)) << "  " << printable(step.line) << '\n';
-  if (step.kind == zeb::HistoryStep::Kind::kMissingField) {
-    std::cout << "      the field is missing and counts as 0";
-  } else if (step.kind == zeb::HistoryStep::Kind::kList) {
-    std::cout << "      set by the list of " << step.key;
-    for (const std::string& line : step.listLines) std::cout << "\n        " << printable(line);
-  } else {
-    std::cout << "      " << parsedText(step);
-    if (step.outcome != zeb::KeyOutcome::kStored) std::cout << "; " << outcomeText(step.outcome);
-  }
-  const zeb::Rule& rule = step.row->rule;
-  if (step.sets() && !rule.none()) std::cout << "; " << zeb::joined(zeb::ruleTexts(*step.section, *step.row));
-  std::cout << '\n';
+void printOthers(const zeb::HistoryStep& step, const zeb::History& history) {
   for (const zeb::HistoryStep* other : history.othersOf(step)) {
     std::cout << coloured(Colour::kYellow, "      the same line holds " + other->key + " (" +
                                                std::string(other->target->field.member) + "): ")
@@ -172,69 +182,108 @@ void printLineStep(const zeb::HistoryStep& step, const zeb::History& history) {
   }
 }
 
+void printLineStep(const zeb::HistoryStep& step, const Explained& explained, const zeb::History& history) {
+  using Kind = zeb::HistoryStep::Kind;
+  std::cout << "  " << coloured(Colour::kCyan, place(step)) << "  " << printable(step.line) << "\n      ";
+  if (step.positionalLine > 0) std::cout << fieldText(step) << ": ";
+  switch (step.kind) {
+    case Kind::kMissingField:
+      std::cout << step.reason << "; " << (step.sets() ? "the field counts as 0" : "the value stays");
+      break;
+    case Kind::kNotTaken:
+      std::cout << step.reason << "; the value stays";
+      break;
+    case Kind::kRefused:
+      std::cout << coloured(Colour::kYellow, "not read: ") << reasonText(step, explained);
+      break;
+    case Kind::kList:
+      std::cout << (step.key.empty() ? "set by the list" : "set by the list of " + step.key);
+      for (const std::string& line : step.listLines) std::cout << "\n        " << printable(line);
+      break;
+    default:
+      std::cout << parsedText(step);
+      if (step.outcome != zeb::KeyOutcome::kStored) std::cout << "; " << outcomeText(step.outcome);
+  }
+  if (step.kind == Kind::kLine && step.sets() && !step.row->rule.none()) {
+    std::cout << "; " << zeb::joined(zeb::ruleTexts(*step.section, *step.row));
+  }
+  std::cout << '\n';
+  printOthers(step, history);
+}
+
 void printText(const Explained& explained, const zeb::History& history) {
   const zeb::CatalogueEntry& entry = *explained.entry;
   printHeading(entry);
   std::cout << "  " << coloured(Colour::kCyan, "default") << "\n      -> " << printable(entry.defaultValue) << '\n';
-  const auto steps = history.stepsOf(*entry.row, explained.block);
   bool touched = false;
-  for (const zeb::HistoryStep* step : steps) {
+  for (const zeb::HistoryStep* step : history.stepsOf(*entry.row, explained.block)) {
     if (step->kind == zeb::HistoryStep::Kind::kRepair) {
       std::cout << "  " << coloured(Colour::kCyan, "repair") << "  " << step->condition
                 << (step->before == step->after ? ": nothing to change" : "") << '\n';
     } else {
-      printLineStep(*step, history);
+      printLineStep(*step, explained, history);
       touched = true;
     }
-    std::cout << "      -> " << printable(step->after) << '\n';
+    if (!step->after.empty()) std::cout << "      -> " << printable(step->after) << '\n';
   }
   if (!touched) {
     const bool opened = !history.openings(*entry.section).empty() || entry.section->open.empty();
-    std::cout << "  no line of the file sets it" << (opened ? "" : ": its section is not opened") << '\n';
+    std::cout << "  no line of the file sets it"
+              << (explained.companionIsUnread ? ": it stands in the companion file, which --viscoelastic reads"
+                  : opened                    ? ""
+                                              : ": its section is not opened")
+              << '\n';
   }
   std::cout << "  " << coloured(Colour::kBold, "final value  ")
             << coloured(Colour::kGreen, printable(zeb::valueOf(*entry.row, explained.block))) << "\n";
 }
 
-std::vector<Explained> explainedIn(const CZEBKNCMPCompParm& set,
-                                   const std::vector<const zeb::CatalogueEntry*>& entries) {
+std::vector<Explained> explainedIn(const zeb::ParameterFile& file,
+                                   const std::vector<const zeb::CatalogueEntry*>& entries,
+                                   const ExplainArguments& arguments) {
+  const bool readsCompanion = arguments.analysis.options.viscoelastic;
   std::vector<Explained> all;
   for (const zeb::CatalogueEntry* entry : entries) {
-    for (const zeb::BlockView& view : zeb::blocksOf(set)) {
-      if (view.table == entry->table) all.push_back({entry, view.block});
+    for (const zeb::BlockView& view : file.blocks()) {
+      if (view.table != entry->table) continue;
+      const bool isInCompanion = view.table == &zeb::tableOf<CZEBCMPVEParm>();
+      all.push_back({entry, view.block, isInCompanion && !readsCompanion});
     }
   }
   return all;
 }
 
-int failUnknown(const std::string& name) {
-  std::string text = "no key or member is named " + name;
-  std::string suggestions;
-  for (const std::string& near : zeb::nearestNames(name, kFormat)) {
-    suggestions += (suggestions.empty() ? "" : ", ") + near;
+int failUnknown(const std::string& name, zeb::FileKind kind) {
+  std::string text = "no key or member of a " + std::string(zeb::formatOf(kind)) + " file is named " + name;
+  for (const zeb::FileKind other : {zeb::FileKind::kCmp, zeb::FileKind::kCmx, zeb::FileKind::kStd}) {
+    if (other == kind || zeb::findEntries(name, zeb::formatOf(other)).empty()) continue;
+    return fail(text + "; --as " + std::string(zeb::kindName(other)) + " knows it");
   }
-  return fail(suggestions.empty() ? text : text + "; did you mean " + suggestions + "?");
+  return fail(text + didYouMean(name, zeb::nearestNames(name, zeb::formatOf(kind))));
 }
 
 int run(const ExplainArguments& arguments) {
   const std::string problem = arguments.analysis.problem();
   if (!problem.empty()) return fail(problem);
-  const auto entries = zeb::findEntries(arguments.name, kFormat);
-  if (entries.empty()) return failUnknown(arguments.name);
-  zeb::History history;
-  std::unique_ptr<CZEBKNCMPCompParm> set;
+  const zeb::FileKind kind = arguments.analysis.kind();
+  const auto entries = zeb::findEntries(arguments.name, zeb::formatOf(kind));
+  if (entries.empty()) return failUnknown(arguments.name, kind);
+  std::vector<const zeb::Row*> rows;
+  rows.reserve(entries.size());
+  for (const zeb::CatalogueEntry* entry : entries) rows.push_back(entry->row);
+  zeb::History history(rows);
+  zeb::ParameterFile file;
   {
     const zeb::OutputCapture discarded;
-    set = zeb::analyse(arguments.analysis.file, arguments.analysis.options, nullptr, &history);
+    file = zeb::readParameterFile(arguments.analysis.file, kind, arguments.analysis.options, nullptr, &history);
   }
-  const std::vector<Explained> all = explainedIn(*set, entries);
-  if (arguments.json) {
+  const std::vector<Explained> all = explainedIn(file, entries, arguments);
+  if (arguments.format == "json") {
     Json list = Json::array();
     for (const Explained& explained : all) list.push_back(describe(explained, history));
-    print({{"file", arguments.analysis.file},
-           {"molding", arguments.analysis.moldingName()},
-           {"material", arguments.analysis.options.material},
-           {"parameters", std::move(list)}});
+    Json document = arguments.analysis.asJson(kind);
+    document["parameters"] = std::move(list);
+    print(document);
     return kClean;
   }
   if (all.size() > 1) std::cout << arguments.name << " names " << all.size() << " parameters.\n\n";
@@ -252,12 +301,15 @@ void addExplain(CLI::App& app, int& exitCode) {
   CLI::App* command = app.add_subcommand("explain", "Tell how one parameter came to its value");
   arguments->analysis.addTo(*command);
   command->add_option("NAME", arguments->name, "A key, member or getter, alone or as Block.member, Section.key")
-      ->required();
-  command
-      ->add_option_function<std::string>(
-          "--format", [arguments](const std::string& format) { arguments->json = format == "json"; }, "text or json")
-      ->check(CLI::IsMember({"text", "json"}))
-      ->type_name("FORMAT");
+      ->required()
+      ->type_name("PARAMETER");
+  arguments->analysis.addKindTo(*command);
+  addFormat(*command, arguments->format, {"text", "json"});
+  command->footer(examplesText({{"explain part.cmp AirPressure", "from its default to the final value"},
+                                {"explain part.cmp ShortShot.TimeLimit --molding GAIM", "with that type's repairs"},
+                                {"explain part.cmp General.Debug --format json", "for scripts"},
+                                {"explain part.cmx Level1", "of the analysis settings"},
+                                {"explain part.cmp ddt --as std", "as the standard solver reads it"}}));
   command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
 }
 

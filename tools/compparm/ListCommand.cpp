@@ -4,7 +4,9 @@
 #include <memory>
 
 #include "inspect/Catalogue.hpp"
+#include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
+#include "tools/compparm/HelpText.hpp"
 #include "tools/compparm/JsonText.hpp"
 #include "tools/compparm/Terminal.hpp"
 
@@ -16,7 +18,7 @@ using Entries = std::vector<const zeb::CatalogueEntry*>;
 
 struct ListArguments {
   std::vector<std::string> words;
-  std::string format = "text";
+  std::string format;
 };
 
 void printJson(const Entries& entries) {
@@ -86,10 +88,13 @@ int run(const ListArguments& arguments) {
 void addList(CLI::App& app, int& exitCode) {
   const auto arguments = std::make_shared<ListArguments>();
   CLI::App* command = app.add_subcommand("list", "Sections, keys, types, defaults, units and rules of the formats");
-  command->add_option("WORDS", arguments->words, "Only what contains every word; case does not matter");
-  command->add_option("--format", arguments->format, "text, json or markdown")
-      ->check(CLI::IsMember({"text", "json", "markdown"}))
-      ->type_name("FORMAT");
+  command->add_option("WORDS", arguments->words, "Only what contains every word; case does not matter")->type_name("");
+  addFormat(*command, arguments->format, {"text", "json", "markdown"});
+  command->footer(examplesText({{"list", "everything"},
+                                {"list outlet pressure", "what contains both words"},
+                                {"list STD head", "the head of the standard solver"},
+                                {"list --format markdown", "the manual of all keys"}}) +
+                  "\nExit codes: 0, 1 when nothing is found.");
   command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
 }
 

@@ -17,7 +17,13 @@ std::string firstDifference(const std::string& rank0, const std::string& other, 
   std::istringstream expected(rank0), actual(other);
   std::string a, b;
   while (std::getline(expected, a) && std::getline(actual, b)) {
-    if (a != b) return "rank 0 has " + a + ", rank " + std::to_string(rank) + " has " + b;
+    if (a == b) continue;
+    return std::string("rank 0 has ")
+        .append(a)
+        .append(", rank ")
+        .append(std::to_string(rank))
+        .append(" has ")
+        .append(b);
   }
   return "rank " + std::to_string(rank) + " holds other values than rank 0";
 }

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <iostream>
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <sstream>
 
@@ -12,14 +11,16 @@
 #include "frame/TextOutput.hpp"
 #include "inspect/OutputCapture.hpp"
 #include "inspect/ParameterFile.hpp"
+#include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
+#include "tools/compparm/HelpText.hpp"
+#include "tools/compparm/JsonText.hpp"
 #include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
 using Type = COutput_F2C_MultiTiming::FillOutputType;
 
 constexpr int kLargestSplit = 1'000'000;
@@ -30,20 +31,21 @@ struct ScheduleArguments {
   double fillTime = 0.0;
   int split = 0;
   std::optional<int> type;
-  std::string format = "text";
+  std::string format;
 };
 
 struct Entry {
   double moment;
-  int source;  // 0: the grid; -1, -2, ...: the first, second, ... that stems from the file
-  bool merged;
+  int source;   // 0: the grid; -1, -2, ...: the first, second, ... that stems from the file
+  bool merged;  // a moment of the file, or several, fell into this one of the grid
 };
 
 struct Schedule {
   int type = 0;
   double span = 0.0;
   std::vector<double> fileMoments;
-  std::string cut;  // why not all of them are used; empty: they are
+  std::string cut;       // why not all of them are used; empty: they are
+  std::size_t kept = 0;  // of the file's moments, in front of the cut
   std::vector<Entry> entries;
   std::string messages;
 };
@@ -80,10 +82,28 @@ std::string listEnds(std::size_t id, const std::string& why, std::size_t count) 
          std::to_string(count - id + 1) + " of " + std::to_string(count) + ")";
 }
 
+std::vector<Entry> resultOf(COutput_F2C_MultiTiming& timing, int count) {
+  std::vector<Entry> entries;
+  for (int i = 1; i <= count; ++i) {
+    Entry entry{};
+    timing.Output_Step2(i, entry.moment, entry.source);
+    entries.push_back(entry);
+  }
+  return entries;
+}
+
+// The grid alone, as the calculation itself makes it: an entry of the file that stands on it is a merged one.
+std::vector<Entry> gridOf(const ScheduleArguments& arguments, const Schedule& schedule) {
+  COutput_F2C_MultiTiming timing;
+  timing.Input_Step1(arguments.fillTime, arguments.split, 0, static_cast<Type>(schedule.type));
+  int count = 0;
+  timing.Output_Step1(count);
+  return resultOf(timing, count);
+}
+
 // The calculation's own statuses say what was refused; an unset moment ends its list just as silently as a zero.
-void merge(COutput_F2C_MultiTiming& timing, Schedule& schedule) {
+void readIn(COutput_F2C_MultiTiming& timing, Schedule& schedule) {
   const std::vector<double>& moments = schedule.fileMoments;
-  std::size_t kept = 0;
   for (std::size_t id = 1; id <= moments.size(); ++id) {
     const double moment = moments[id - 1];
     const bool refused = timing.Input_Step2(static_cast<int>(id), moment) != 0;
@@ -93,24 +113,36 @@ void merge(COutput_F2C_MultiTiming& timing, Schedule& schedule) {
           listEnds(id, refused ? "(" + zeb::formatGeneral(moment) + ") lies outside " + valid : "is not above 0",
                    moments.size());
     }
-    if (schedule.cut.empty()) kept = id;
+    if (schedule.cut.empty()) schedule.kept = id;
   }
+}
+
+void merge(COutput_F2C_MultiTiming& timing, const std::vector<Entry>& grid, Schedule& schedule) {
+  const std::vector<double>& moments = schedule.fileMoments;
   int count = 0;
   if (timing.Output_Step1(count) == kNotAscending) {
     std::size_t id = 1;
-    while (id < kept && moments[id] > moments[id - 1]) ++id;
+    while (id < schedule.kept && moments[id] > moments[id - 1]) ++id;
+    schedule.kept = id;
     schedule.cut = listEnds(id + 1,
                             "(" + zeb::formatGeneral(moments[id]) + ") is not above the one before it (" +
                                 zeb::formatGeneral(moments[id - 1]) + ")",
                             moments.size());
   }
-  for (int i = 1; i <= count; ++i) {
-    Entry entry{};
-    timing.Output_Step2(i, entry.moment, entry.source);
-    // A merged entry stands at the grid's moment, which the file need not hold.
-    entry.merged = entry.source < 0 && std::find(moments.begin(), moments.end(), entry.moment) == moments.end();
-    schedule.entries.push_back(entry);
+  schedule.entries = resultOf(timing, count);
+  // Both are in ascending order.
+  auto next = grid.begin();
+  for (Entry& entry : schedule.entries) {
+    while (next != grid.end() && next->moment < entry.moment) ++next;
+    entry.merged = entry.source < 0 && next != grid.end() && next->moment == entry.moment;
   }
+}
+
+// Of the file's moments that are kept, those without an entry: they share one, or lie at the end of filling.
+std::size_t withoutEntry(const Schedule& schedule) {
+  const auto fromFile = [](const Entry& entry) { return entry.source < 0; };
+  const auto entries = std::count_if(schedule.entries.begin(), schedule.entries.end(), fromFile);
+  return schedule.kept - static_cast<std::size_t>(entries);
 }
 
 std::string sourceText(const Entry& entry) {
@@ -133,10 +165,11 @@ void printJson(const ScheduleArguments& arguments, const Schedule& schedule) {
                    {"split", arguments.split},
                    {"unit", unit(schedule.type)},
                    {"cmxMoments", schedule.fileMoments},
-                   {"moments", std::move(entries)}};
+                   {"moments", std::move(entries)},
+                   {"withoutEntry", withoutEntry(schedule)}};
   if (!schedule.cut.empty()) document["cut"] = schedule.cut;
   if (!schedule.messages.empty()) document["messages"] = schedule.messages;
-  std::cout << document.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+  print(document);
 }
 
 void printHeading(const ScheduleArguments& arguments, const Schedule& schedule) {
@@ -150,6 +183,12 @@ void printEnd(const Schedule& schedule) {
   std::istringstream lines(schedule.messages);
   for (std::string line; std::getline(lines, line);) std::cout << line << '\n';
   if (!schedule.cut.empty()) std::cout << coloured(Colour::kYellow, "The list is cut short: ") << schedule.cut << ".\n";
+  if (const std::size_t count = withoutEntry(schedule); count > 0) {
+    std::cout << count
+              << (count == 1 ? " moment of the file has no entry of its own: it shares one, or lies"
+                             : " moments of the file have no entry of their own: they share one, or lie")
+              << " at or behind the end of filling.\n";
+  }
   std::cout << schedule.entries.size() << (schedule.entries.size() == 1 ? " output moment" : " output moments")
             << ". The end of filling is not among them.\n";
 }
@@ -207,7 +246,8 @@ int run(const ScheduleArguments& arguments) {
     default:
       break;
   }
-  merge(timing, schedule);
+  readIn(timing, schedule);
+  merge(timing, gridOf(arguments, schedule), schedule);
   if (arguments.format == "json") {
     printJson(arguments, schedule);
   } else {
@@ -224,7 +264,7 @@ void addSchedule(CLI::App& app, int& exitCode) {
   const auto arguments = std::make_shared<ScheduleArguments>();
   CLI::App* command =
       app.add_subcommand("schedule", "Merge the fill moments of a CMX file with the default grid of output moments");
-  command->add_option("CMX", arguments->file, "The CMX file")->required();
+  command->add_option("CMX", arguments->file, "The CMX file")->required()->type_name("");
   command->add_option("--fill-time", arguments->fillTime, "Filling time in seconds, above 0")
       ->required()
       ->type_name("T");
@@ -234,10 +274,12 @@ void addSchedule(CLI::App& app, int& exitCode) {
                    "Scale of the moments: 1 seconds, 2 or 3 percent, any other a scale of your own (default: the "
                    "file's)")
       ->type_name("K");
-  command->add_option("--format", arguments->format, "text, json or plot (a time line)")
-      ->check(CLI::IsMember({"text", "json", "plot"}))
-      ->type_name("FORMAT");
-  command->footer("Exit codes: 0, 1 when the file's list of moments was cut short, 2 for invalid input.");
+  addFormat(*command, arguments->format, {"text", "json", "plot"});
+  command->footer(examplesText({{"schedule part.cmx --fill-time 1.2 --split 10", "the merged list"},
+                                {"schedule part.cmx --fill-time 1.2 --split 10 --format plot", "as a time line"},
+                                {"schedule part.cmx --fill-time 1.2 --split 10 --type 2", "moments in percent"}}) +
+                  "\n\"CMX n\" is the n-th entry that stems from the file. "
+                  "Exit codes: 0, 1 when the file's list is cut short, 2 error.");
   command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
 }
 

@@ -2,8 +2,6 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
-#include <nlohmann/json.hpp>
-#include <optional>
 #include <sstream>
 
 #include "inspect/OutputCapture.hpp"
@@ -12,6 +10,7 @@
 #include "inspect/Settings.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
+#include "tools/compparm/HelpText.hpp"
 #include "tools/compparm/JsonText.hpp"
 #include "tools/compparm/Ranks.hpp"
 #include "tools/compparm/Terminal.hpp"
@@ -22,11 +21,10 @@ namespace {
 
 struct ShowArguments {
   AnalysisArguments analysis;
-  std::optional<zeb::FileKind> as;
   std::vector<std::string> blocks;
   bool changedOnly = false;
   bool raw = false;
-  bool json = false;
+  std::string format;
   int ranks = 1;
 };
 
@@ -36,23 +34,15 @@ struct Shown {
   std::string messages;  // what the library printed while it read
   std::string refusal;   // of the viscoelastic file
   int lines = 0;
+  bool hasSections = false;
   RankComparison ranks;
 };
-
-constexpr std::string_view kKindNames[] = {"cmp", "cmx", "std"};
-
-std::string_view kindName(zeb::FileKind kind) { return kKindNames[static_cast<int>(kind)]; }
-
-std::optional<zeb::FileKind> kindNamed(const std::string& name) {
-  const auto at = std::find(std::begin(kKindNames), std::end(kKindNames), name) - std::begin(kKindNames);
-  if (at == std::ssize(kKindNames)) return {};
-  return static_cast<zeb::FileKind>(at);
-}
 
 Json jsonOrigin(const zeb::Origin& origin) {
   switch (origin.kind) {
     case zeb::Origin::Kind::kFile: {
       Json json = {{"kind", "file"}, {"line", origin.line}};
+      if (origin.lastLine > origin.line) json["lastLine"] = origin.lastLine;
       if (!origin.file.empty()) json["file"] = origin.file;
       return json;
     }
@@ -78,11 +68,9 @@ void printJson(const ShowArguments& arguments, const Shown& shown) {
     }
     blocks.push_back({{"block", block.name}, {"class", block.table->className}, {"members", std::move(members)}});
   }
-  Json document = {{"file", arguments.analysis.file}, {"kind", kindName(shown.kind)}};
-  if (shown.kind == zeb::FileKind::kCmp) {
-    document["molding"] = arguments.analysis.moldingName();
-    document["material"] = arguments.analysis.options.material;
-  }
+  Json document = arguments.analysis.asJson(shown.kind);
+  document["lines"] = shown.lines;
+  document["hasSections"] = shown.hasSections;
   document["blocks"] = std::move(blocks);
   if (shown.ranks.ranks > 1) {
     document["ranks"] = {{"count", shown.ranks.ranks}, {"same", shown.ranks.same()}};
@@ -90,8 +78,7 @@ void printJson(const ShowArguments& arguments, const Shown& shown) {
   }
   if (!shown.refusal.empty()) document["viscoelasticFileRefused"] = shown.refusal;
   if (!shown.messages.empty()) document["messages"] = shown.messages;
-  // Texts of the file may be no UTF-8: what is not is replaced.
-  std::cout << document.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+  print(document);
 }
 
 std::string heading(const zeb::BlockSettings& block) {
@@ -111,7 +98,7 @@ void printBlock(const zeb::BlockSettings& block) {
   }
   std::cout << heading(block) << '\n';
   for (const zeb::Setting& setting : block.settings) {
-    std::string value = padded(setting.value, valueWidth);
+    std::string value = padded(printable(setting.value), valueWidth);
     if (setting.isChanged()) value = coloured(Colour::kGreen, value);
     std::string note = setting.origin.text();
     if (setting.isChanged()) note += " (default " + setting.defaultValue + ")";
@@ -121,18 +108,9 @@ void printBlock(const zeb::BlockSettings& block) {
   std::cout << '\n';
 }
 
-std::string readAs(const AnalysisArguments& analysis, zeb::FileKind kind) {
-  if (kind == zeb::FileKind::kCmx) return "analysis settings (CMX)";
-  if (kind == zeb::FileKind::kStd) return "as the standard solver reads it";
-  const auto& options = analysis.options;
-  return "molding type " + analysis.moldingName() + ", material type " + std::to_string(options.material) +
-         (options.wax ? ", wax" : "") + (options.viscoelastic ? ", viscoelastic" : "") +
-         (options.repair ? "" : ", not repaired");
-}
-
 void printText(const ShowArguments& arguments, const Shown& shown) {
   std::cout << coloured(Colour::kBold, arguments.analysis.file) << "  " << shown.lines << " lines, "
-            << readAs(arguments.analysis, shown.kind) << "\n\n";
+            << arguments.analysis.readAs(shown.kind) << "\n\n";
   std::size_t changed = 0;
   for (const zeb::BlockSettings& block : shown.blocks) {
     if (!block.settings.empty()) printBlock(block);
@@ -142,8 +120,12 @@ void printText(const ShowArguments& arguments, const Shown& shown) {
   if (!shown.messages.empty()) {
     std::cout << coloured(Colour::kBold, "Printed while reading") << '\n';
     std::istringstream lines(shown.messages);
-    for (std::string line; std::getline(lines, line);) std::cout << "  " << line << '\n';
+    for (std::string line; std::getline(lines, line);) std::cout << "  " << printable(line) << '\n';
     std::cout << '\n';
+  }
+  if (!shown.hasSections) {
+    std::cout << coloured(Colour::kYellow, "The file holds no section that its reader knows: ")
+              << "every value is a default or a repair.\n";
   }
   if (!shown.refusal.empty()) {
     std::cout << coloured(Colour::kYellow, "The viscoelastic file is not taken: ") << shown.refusal
@@ -175,6 +157,15 @@ std::string unknownBlock(const ShowArguments& arguments, const zeb::ParameterFil
       return name;
   }
   return {};
+}
+
+std::vector<std::string> namesOf(const zeb::ParameterFile& set) {
+  std::vector<std::string> names;
+  for (const zeb::BlockView& block : set.blocks()) {
+    names.push_back(block.name);
+    for (const zeb::Section& section : block.table->sections) names.emplace_back(section.name);
+  }
+  return names;
 }
 
 // Reads on this rank and, where wanted, on others; afterwards `provenance` knows where this rank's values came from.
@@ -225,7 +216,9 @@ int show(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* mpi) 
   const int exitCode = reading.ranks.same() ? kClean : kFindings;
   if (mpi != nullptr && mpi->rank() != 0) return exitCode;
   const std::string unknown = unknownBlock(arguments, reading.set);
-  if (!unknown.empty()) return fail("no block or section is named " + unknown);
+  if (!unknown.empty()) {
+    return fail("no block or section is named " + unknown + didYouMean(unknown, namesOf(reading.set)));
+  }
   if (arguments.raw) {
     reading.set.cmp->OutputParameters();
     if (!reading.ranks.same()) return fail("the ranks differ: " + reading.ranks.difference), kFindings;
@@ -234,6 +227,7 @@ int show(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* mpi) 
   shown.blocks = zeb::settingsOf(chosenBlocks(arguments, reading.set), &provenance);
   shown.kind = kind;
   shown.lines = provenance.linesRead();
+  shown.hasSections = provenance.hasSections();
   shown.ranks = reading.ranks;
   shown.refusal = provenance.refusal();
   if (arguments.changedOnly) {
@@ -241,7 +235,7 @@ int show(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* mpi) 
       std::erase_if(block.settings, [](const zeb::Setting& setting) { return !setting.isChanged(); });
     }
   }
-  arguments.json ? printJson(arguments, shown) : printText(arguments, shown);
+  arguments.format == "json" ? printJson(arguments, shown) : printText(arguments, shown);
   return exitCode;
 }
 
@@ -249,15 +243,10 @@ int show(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* mpi) 
 int check(const ShowArguments& arguments, zeb::FileKind& kind) {
   const std::string problem = arguments.analysis.problem();
   if (!problem.empty()) return fail(problem);
-  const std::string& file = arguments.analysis.file;
-  kind = arguments.as.value_or(zeb::recogniseKind(file).value_or(zeb::FileKind::kCmp));
-  if (kind == zeb::FileKind::kCmp) return kClean;
-  const std::string reader = kind == zeb::FileKind::kCmx ? "a CMX file" : "the standard solver";
-  if (arguments.raw) return fail(file + ": the library has no dump for " + reader + ", so --raw cannot be had");
-  if (arguments.analysis.isForCmpOnly()) {
-    return fail(file + ": --molding, --material, --wax, --viscoelastic and --no-repair have no meaning for " + reader);
-  }
-  return kClean;
+  kind = arguments.analysis.kind();
+  if (!arguments.raw || kind == zeb::FileKind::kCmp) return kClean;
+  return fail(arguments.analysis.file + ": the library has no dump for " +
+              (kind == zeb::FileKind::kCmx ? "a CMX file" : "the standard solver") + ", so --raw cannot be had");
 }
 
 int run(const ShowArguments& arguments) {
@@ -282,28 +271,26 @@ void addShow(CLI::App& app, int& exitCode) {
   const auto arguments = std::make_shared<ShowArguments>();
   CLI::App* command = app.add_subcommand("show", "Read a CMP or CMX file as a solver would and show every block");
   arguments->analysis.addTo(*command);
-  command
-      ->add_option_function<std::string>(
-          "--as", [arguments](const std::string& name) { arguments->as = kindNamed(name); },
-          "Read the file as cmp, cmx or std (what the standard solver sees of a CMP file); default: what its first "
-          "block tag or section says")
-      ->check(CLI::IsMember({"cmp", "cmx", "std"}))
-      ->type_name("KIND");
+  arguments->analysis.addKindTo(*command);
   command
       ->add_option("--block", arguments->blocks,
                    "Only these blocks: block, class or section names (General, FIBER_ARD, SOLID_FILL)")
-      ->type_name("NAME");
+      ->type_name("BLOCK");
   command->add_flag("--changed", arguments->changedOnly, "Only members that differ from their default");
   command->add_option("--ranks", arguments->ranks, "Read on N in-process ranks and compare them value by value")
-      ->check(CLI::Range(1, 512))
+      ->check(CLI::Range(1, 512).description("1 to 512"))
       ->type_name("N");
   auto* raw = command->add_flag("--raw", arguments->raw, "The library's own dump of a CMP file, byte for byte");
-  command
-      ->add_option_function<std::string>(
-          "--format", [arguments](const std::string& format) { arguments->json = format == "json"; }, "text or json")
-      ->check(CLI::IsMember({"text", "json"}))
-      ->type_name("FORMAT")
-      ->excludes(raw);
+  addFormat(*command, arguments->format, {"text", "json"});
+  command->get_option("--format")->excludes(raw);
+  command->footer(examplesText({{"show part.cmp --changed", "only what differs from the default"},
+                                {"show part.cmp --molding RTM --material 1", "after that analysis' repairs"},
+                                {"show part.cmp --block General Outlet", "two blocks"},
+                                {"show part.cmp --viscoelastic --block VE", "with part.vecmp"},
+                                {"show part.cmx --format json", "the analysis settings, for scripts"},
+                                {"show part.cmp --as std", "what the standard solver sees"},
+                                {"show part.cmp --ranks 8", "read on 8 ranks and compare them value by value"}}) +
+                  "\nUnder mpirun the real ranks are compared. Exit codes: 0, 1 when ranks differ, 2 error.");
   command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
 }
 

@@ -2,9 +2,10 @@
 #include <iostream>
 #include <memory>
 
-#include "inspect/Analysis.hpp"
 #include "inspect/Template.hpp"
+#include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
+#include "tools/compparm/HelpText.hpp"
 #include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
@@ -14,16 +15,11 @@ namespace {
 int run(const zeb::TemplateOptions& options) {
   if (options.cmx && options.molding) return fail("a CMX file does not depend on the molding type");
   const std::string unknown = zeb::unknownTemplateSection(options);
-  if (!unknown.empty()) return fail("no section is named " + unknown);
+  if (!unknown.empty()) {
+    return fail("no section is named " + unknown + didYouMean(unknown, zeb::templateSections(options.cmx)));
+  }
   std::cout << zeb::templateText(options);
   return kClean;
-}
-
-void setMolding(zeb::TemplateOptions& options, const std::string& nameOrCode) {
-  options.molding = zeb::moldingCode(nameOrCode);
-  if (!options.molding) {
-    throw CLI::ValidationError("--molding", "expects one of " + zeb::moldingNames() + " or a code 0 to 14");
-  }
 }
 
 }  // namespace
@@ -33,12 +29,19 @@ void addTemplate(CLI::App& app, int& exitCode) {
   CLI::App* command = app.add_subcommand("template", "Write a commented file with every key at its default");
   command
       ->add_option_function<std::string>(
-          "--molding", [options](const std::string& text) { setMolding(*options, text); },
-          "Tell what this molding type changes after reading")
-      ->type_name("NAME|CODE");
+          "--as", [options](const std::string& name) { options->cmx = name == "cmx"; },
+          "A cmp or a cmx file (default cmp)")
+      ->check(CLI::IsMember({"cmp", "cmx"}))
+      ->type_name("KIND");
+  addMolding(
+      *command, "--molding", [options](int code) { options->molding = code; },
+      "Tell what this molding type changes after reading, and leave those keys to it");
   command->add_option("--sections", options->sections, "Only these sections or blocks; VER is the fixed-line head")
-      ->type_name("NAME");
-  command->add_flag("--cmx", options->cmx, "A CMX file instead of a CMP file");
+      ->type_name("SECTION");
+  command->footer(examplesText({{"template > part.cmp", "every section"},
+                                {"template --molding RTM > part.cmp", "for resin transfer molding"},
+                                {"template --sections General Outlet", "two sections"},
+                                {"template --as cmx > part.cmx", "the analysis settings"}}));
   command->callback([options, &exitCode] { exitCode = run(*options); });
 }
 

@@ -43,6 +43,22 @@ std::string coloured(Colour colour, std::string_view text) {
   return std::string(code(colour)) + std::string(text) + "\033[0m";
 }
 
+std::string printable(std::string_view text) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  std::string result;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte >= 0x20 && byte != 0x7f) {
+      result += c;
+    } else if (c == '\t') {
+      result += "\\t";
+    } else {
+      result += std::string("\\x") + kDigits[byte >> 4] + kDigits[byte & 15u];
+    }
+  }
+  return result;
+}
+
 int fail(const std::string& text) {
   std::cerr << "compparm: " << text << '\n';
   return kError;

@@ -14,6 +14,9 @@ enum class Colour { kBold, kDim, kRed, kGreen, kYellow, kCyan };
 /// The text in colour when standard output is a terminal and NO_COLOR is not set; as it stands otherwise.
 std::string coloured(Colour colour, std::string_view text);
 
+/// The text with its control characters written out, so that none of a file's reaches the terminal.
+std::string printable(std::string_view text);
+
 /// "compparm: <text>" on standard error. Returns kError.
 int fail(const std::string& text);
 

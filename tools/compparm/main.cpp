@@ -4,41 +4,82 @@
 #include <iostream>
 
 #include "tools/compparm/Commands.hpp"
+#include "tools/compparm/HelpText.hpp"
 #include "tools/compparm/Terminal.hpp"
 
-int main(int argc, char** argv) {
+namespace compparm {
+
+namespace {
+
+void addCommands(CLI::App& app, int& exitCode) {
+  addShow(app, exitCode);
+  addCheck(app, exitCode);
+  addExplain(app, exitCode);
+  addDiff(app, exitCode);
+  addSchedule(app, exitCode);
+  addMaterial(app, exitCode);
+  addTemplate(app, exitCode);
+  addList(app, exitCode);
+  const auto teach = [&](const char* name, const std::vector<Example>& examples) {
+    CLI::App* command = app.get_subcommand(name);
+    if (command->get_footer().empty()) command->footer(examplesText(examples));
+  };
+  teach("check", {{"check part.cmp", "what a solver would ignore or misread, line by line"},
+                  {"check part.cmp --molding RTM --material 1", "with the repairs of that analysis"},
+                  {"check part.cmp --format sarif", "for other programs"}});
+  teach("material", {{"material pa66-gf30 --folder materials", "every table and test curve"},
+                     {"material pa66-gf30 --folder materials --ranks 8", "distribute it and compare the copies"}});
+}
+
+// For packaging and the shell, not for people: `compparm manual` writes the manual page, `compparm complete WORD...`
+// the words that the last WORD can become.
+bool servesTheShell(const CLI::App& app, const std::vector<std::string>& words) {
+  if (words.empty()) return false;
+  if (words.front() == "manual") {
+    std::cout << manualPage(app);
+    return true;
+  }
+  if (words.front() != "complete") return false;
+  for (const std::string& word : completions(app, {words.begin() + 1, words.end()})) std::cout << word << '\n';
+  return true;
+}
+
+int run(int argc, char** argv) {
   CLI::App app{"Shows the computation parameters of an injection-molding analysis as the solver will use them.",
                "compparm"};
   app.require_subcommand(1);
-  app.set_version_flag("--version", "compparm " ZEB_VERSION);
-  app.footer(
-      "Examples:\n"
-      "  compparm show part.cmp                       every block, with defaults and origins\n"
-      "  compparm show part.cmx                       the analysis settings\n"
-      "  compparm schedule part.cmx --fill-time 1.2 --split 10    when filling writes results\n"
-      "  compparm material pa66-gf30 --folder materials           a material as every rank holds it\n"
-      "  compparm show part.cmp --changed             only what differs from the default\n"
-      "  compparm show part.cmp --molding RTM --material 1 --block General Outlet\n"
-      "  compparm show part.cmp --ranks 8             read on 8 ranks and compare them value by value\n"
-      "  mpirun -np 4 compparm show part.cmp          the same over real ranks\n"
-      "Exit codes: 0 clean, 1 findings or differences, 2 error.");
-  int exitCode = compparm::kClean;
-  compparm::addShow(app, exitCode);
-  compparm::addCheck(app, exitCode);
-  compparm::addSchedule(app, exitCode);
-  compparm::addMaterial(app, exitCode);
-  compparm::addExplain(app, exitCode);
-  compparm::addDiff(app, exitCode);
-  compparm::addTemplate(app, exitCode);
-  compparm::addList(app, exitCode);
+  app.set_version_flag("--version", "compparm " ZEB_VERSION, "Print the version and exit");
+  int exitCode = kClean;
+  addCommands(app, exitCode);
+  app.footer(examplesText({{"show part.cmp", "every block, with defaults and origins"},
+                           {"show part.cmp --changed", "only what differs from the default"},
+                           {"check part.cmp", "what the solver would silently ignore or misread"},
+                           {"explain part.cmp AirPressure", "how one parameter came to its value"},
+                           {"diff old.cmp new.cmp", "what differs for the solver, not in the text"},
+                           {"schedule part.cmx --fill-time 1.2 --split 10", "when filling writes results"},
+                           {"template --molding RTM", "a commented file with every default"},
+                           {"list outlet pressure", "keys by any word"},
+                           {"COMMAND --help", "options and examples of a command"}}) +
+             "\nExit codes: 0 clean, 1 findings or differences, 2 error.");
+  const std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
   try {
-    app.parse(argc, argv);
+    if (!servesTheShell(app, words)) app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? compparm::kClean : compparm::kError;
+    return error.get_exit_code() == 0 ? app.exit(error) : fail(problemOf(app, words, error.what()));
+  }
+  std::cout.flush();
+  if (!std::cout) return fail("cannot write to standard output");
+  return exitCode;
+}
+
+}  // namespace
+
+}  // namespace compparm
+
+int main(int argc, char** argv) {
+  try {
+    return compparm::run(argc, argv);
   } catch (const std::exception& error) {
     return compparm::fail(error.what());
   }
-  std::cout.flush();
-  if (!std::cout) return compparm::fail("cannot write to standard output");
-  return exitCode;
 }
