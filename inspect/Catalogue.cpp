@@ -167,14 +167,15 @@ std::vector<const CatalogueEntry*> findEntries(std::string_view name, std::strin
 
 std::vector<std::string> nearestNames(std::string_view name, std::string_view format, std::size_t most) {
   const auto dot = name.rfind('.');
-  std::vector<std::string> candidates;
+  std::vector<std::string_view> candidates;
   for (const CatalogueEntry& entry : catalogue()) {
     if (entry.format != format) continue;
     for (const std::string_view candidate : {entry.row->key, entry.row->otherKey, entry.row->field.member}) {
-      if (!candidate.empty()) candidates.emplace_back(candidate);
+      if (!candidate.empty()) candidates.push_back(candidate);
     }
   }
-  return nearestOf(dot == name.npos ? name : name.substr(dot + 1), candidates, most);
+  const auto near = nearestOf(dot == name.npos ? name : name.substr(dot + 1), candidates, most);
+  return {near.begin(), near.end()};
 }
 
 std::string typeText(const Row& row) {

@@ -2,14 +2,14 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
-#include "inspect/Analysis.hpp"
 #include "inspect/Diagnostic.hpp"
+#include "inspect/ParameterFile.hpp"
 
 namespace zeb {
 
-/// Adds the findings of the file; it must be readable (see whyUnreadable). Prints nothing.
-void checkFile(const std::string& fileName, const AnalysisOptions& options, DiagnosticList& found);
+/// Adds the findings of the file; it must be readable (see whyUnreadable). Prints nothing. `options` matter to
+/// FileKind::kCmp alone.
+void checkFile(const std::string& fileName, FileKind kind, const AnalysisOptions& options, DiagnosticList& found);
 
 }  // namespace zeb

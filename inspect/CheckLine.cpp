@@ -1,10 +1,12 @@
 // One line of a keyed section, judged by what the reader found in it.
 #include <algorithm>
+#include <cmath>
+#include <sstream>
+#include <utility>
 
-#include "frame/ParameterTable.hpp"
-#include "frame/ValueText.hpp"
-#include "inspect/CheckNames.hpp"
+#include "frame/SectionEngine.hpp"
 #include "inspect/CheckObserver.hpp"
+#include "inspect/CheckText.hpp"
 #include "inspect/Settings.hpp"
 
 namespace zeb {
@@ -23,11 +25,26 @@ bool beginsNumber(std::string_view text) {
   return !text.empty() && text.front() >= '0' && text.front() <= '9';
 }
 
-std::string quotedTag(std::string_view tag) { return "[" + std::string(tag) + "]"; }
-
 bool isBareExponent(std::string_view text) {
   const auto mark = text.find_first_of("eE");
   return mark != text.npos && text.find_first_of("0123456789", mark) == text.npos;
+}
+
+// ".0" behind a whole number takes nothing away from it.
+bool isZeroFraction(std::string_view tail) {
+  return tail.starts_with('.') && tail.find_first_not_of('0', 1) == tail.npos;
+}
+
+// What the text holds that the conversion took.
+std::string_view parsed(std::string_view value, std::string_view tail) {
+  return trimmed(value.substr(0, value.size() - tail.size()));
+}
+
+// What a member holds, short enough for a message. A list may be long: of its elements only the text is shown.
+std::string shown(const Row& row, void* block, std::string_view value, std::string_view tail) {
+  if (row.store != nullptr) return std::string(parsed(value, tail).substr(0, 60));
+  const std::string text = valueOf(row, block);
+  return text.size() > 60 ? text.substr(0, 60) + "..." : text;
 }
 
 }  // namespace
@@ -44,30 +61,34 @@ void CheckObserver::finishLine() {
   m_judged = true;
 }
 
+// --- Lines without a key ------------------------------------------------------------------------------------------
+
 void CheckObserver::judgeSectionLine() {
   const std::string_view line = trimmed(m_text);
   if (line.empty() || isComment(line)) return;
-  const std::string_view tag = tagOf(line, m_section->open.front());
-  if (!tag.empty()) return judgeTag(tag);
-  if (m_nested.empty()) judgeWithoutKey();
+  if (const Tag tag = tagOf(line, m_section->open.front())) return judgeTag(tag);
+  if (m_nestedClose.empty()) judgeWithoutKey();
 }
 
-void CheckObserver::judgeTag(std::string_view tag) {
-  const std::size_t at = m_text.find(m_section->open.front());
-  if (!tag.starts_with('/')) {
-    m_nested = tag;
+void CheckObserver::judgeTag(const Tag& tag) {
+  const std::size_t at = m_text.find(tag.text);
+  const std::string text(tag.text), outer = std::string(m_section->open);
+  if (!tag.closes) {
+    const Section* nested = m_names->sectionNamed(tag.name);
+    m_nestedClose = nested != nullptr ? std::string(nested->close) : text.substr(0, 1) + "/" + text.substr(1);
+    m_nestedSeen = true;
     add(CheckRule::kSectionInsideSection, at,
-        quotedTag(tag) + " stands inside " + std::string(m_section->open) + " of line " +
-            std::to_string(m_opening.line) + " and is not read",
+        text + " stands inside " + outer + " of line " + std::to_string(m_opening.line) + " and is not read",
         "close the section before with " + std::string(m_section->close));
     return;
   }
-  if (tag.substr(1) == m_nested) {
-    m_nested.clear();
+  if (tag.text == m_nestedClose) {
+    m_nestedClose.clear();
     return;
   }
-  m_explained = true;
-  add(CheckRule::kWrongClosingTag, at, quotedTag(tag) + " does not close " + std::string(m_section->open),
+  // Among lost sections a stray closing is not why this one runs on.
+  m_explained = m_explained || !m_nestedSeen;
+  add(CheckRule::kWrongClosingTag, at, text + " does not close " + outer + " of line " + std::to_string(m_opening.line),
       "write " + std::string(m_section->close));
 }
 
@@ -81,116 +102,131 @@ void CheckObserver::judgeWithoutKey() {
   if (!m_found.wants(CheckRule::kUnknownKey)) return m_found.skip(CheckRule::kUnknownKey);
   const auto near = nearKeys(*m_section, name);
   if (m_text.find('=') == std::string::npos && near.empty()) return;
-  const std::string elsewhere = sectionsWithKey(name);
+  const std::string elsewhere = m_names->sectionsWithKey(name);
   std::string hint;
   if (!elsewhere.empty()) hint = "it belongs to " + elsewhere;
-  if (!near.empty()) hint += (hint.empty() ? "" : "; ") + ("did you mean " + joined(near) + "?");
-  add(CheckRule::kUnknownKey, at, "'" + std::string(name) + "' is no key of " + std::string(m_section->open), hint);
+  if (!near.empty()) hint += (hint.empty() ? "" : "; ") + ("did you mean " + orList(near) + "?");
+  add(CheckRule::kUnknownKey, at, quoted(name) + " is no key of " + std::string(m_section->open), hint);
 }
 
+// --- Lines with keys ----------------------------------------------------------------------------------------------
+
 void CheckObserver::judgeHits() {
-  const std::string_view tag = tagOf(m_text, m_section->open.front());
-  if (!tag.empty() && m_text.find(m_section->close) == std::string::npos) judgeTag(tag);
-  if (isComment(m_text)) {
-    std::string keys;
-    std::size_t at = m_text.size();
-    for (const Hit& hit : m_hits) {
-      if (!isStored(hit.outcome)) continue;
-      at = std::min(at, m_text.find(hit.key));
-      keys += (keys.empty() ? "" : ", ") + std::string(hit.key) + " to " + valueOf(*hit.row, hit.block);
-    }
-    if (!keys.empty()) add(CheckRule::kCommentSetsKey, at, "the comment sets " + keys);
-    return;
+  const Tag tag = tagOf(m_text, m_section->open.front());
+  if (tag && m_text.find(m_section->close) == std::string::npos) judgeTag(tag);
+  if (isComment(m_text)) return judgeComment();
+  const Hit& own = *meantHit(static_cast<bool>(tag));
+  if (own.outcome == KeyOutcome::kGated) {
+    judgeGated(own);
+  } else {
+    judgeOwnKey(own);
   }
+  judgeOtherKeys(own);
+}
+
+void CheckObserver::judgeComment() {
+  std::string keys;
+  std::size_t at = m_text.size();
+  for (const Hit& hit : m_hits) {
+    if (!isStored(hit.outcome)) continue;
+    at = std::min(at, m_text.find(hit.key));
+    keys +=
+        (keys.empty() ? "" : ", ") + std::string(hit.key) + " to " + shown(*hit.row, hit.block, hit.value, hit.tail);
+  }
+  if (!keys.empty()) add(CheckRule::kCommentSetsKey, at, "the comment sets " + keys);
+}
+
+// The key that the line names; where it names none, the longest of the keys found is the one that was meant.
+const CheckObserver::Hit* CheckObserver::meantHit(bool isTag) {
   const std::string_view name = nameOf(m_text);
   const Hit* own = nullptr;
   for (const Hit& hit : m_hits) {
     if (trimmed(hit.key) == name) own = &hit;
   }
-  if (own == nullptr) {
-    // The longest of the keys found is the one that was meant.
-    own = &*std::max_element(m_hits.begin(), m_hits.end(),
-                             [](const Hit& a, const Hit& b) { return a.key.size() < b.key.size(); });
-    const bool positional = isPresence(*own->row);
-    if (tag.empty() && !positional && isStored(own->outcome)) {
-      const auto near = nearKeys(*m_section, name);
-      add(CheckRule::kInexactKey, m_text.find(own->key),
-          "'" + std::string(name) + "' is no key; the reader finds " + std::string(own->key) +
-              " in the line and sets it to " + valueOf(*own->row, own->block),
-          near.empty() ? "" : "did you mean " + joined(near) + "?");
-    }
-  }
-  if (own->outcome == KeyOutcome::kGated) {
-    judgeGated(*own);
-  } else {
-    judgeOwnKey(*own);
-  }
-  judgeOtherKeys(own);
-}
-
-void CheckObserver::judgeGated(const Hit& hit) {
-  if (m_gated.size() < DiagnosticList::kMostPerRule) {
-    m_gated.push_back({{m_line, m_text.substr(0, 400), m_text.find(hit.key)}, std::string(hit.key)});
-  }
+  if (own != nullptr) return own;
+  own = &*std::max_element(m_hits.begin(), m_hits.end(),
+                           [](const Hit& a, const Hit& b) { return a.key.size() < b.key.size(); });
+  if (isTag || isPresence(*own->row) || !isStored(own->outcome)) return own;
+  if (!m_found.wants(CheckRule::kInexactKey)) return m_found.skip(CheckRule::kInexactKey), own;
+  const auto near = nearKeys(*m_section, name);
+  add(CheckRule::kInexactKey, m_text.find(own->key),
+      quoted(name) + " is no key; the reader finds " + std::string(own->key) + " in the line and sets it to " +
+          shown(*own->row, own->block, own->value, own->tail),
+      near.empty() ? "" : "did you mean " + orList(near) + "?");
+  return own;
 }
 
 void CheckObserver::judgeOwnKey(const Hit& hit) {
   const std::string key(hit.key);
-  const std::size_t at = m_text.find(hit.key);
-  int& setAt = m_setAt[hit.key];
-  if (setAt > 0) {
-    add(CheckRule::kKeyRepeated, at, key + " was set in line " + std::to_string(setAt) + " already; this line wins");
-  }
-  setAt = m_line;
-  m_pending.erase(hit.key);
-  const auto equals = m_text.find('=');
+  if (isStored(hit.outcome)) judgeRepeated(hit);
   if (isPresence(*hit.row)) return;
+  const auto equals = m_text.find('=');
   if (equals == std::string::npos) {
-    return add(CheckRule::kMissingEquals, at + key.size(),
-               "no '=' behind " + key + (isText(*hit.row) ? "; an empty text is stored" : "; nothing is stored"));
+    return add(CheckRule::kMissingEquals, m_text.find(hit.key) + key.size(),
+               "no '=' behind " + key +
+                   (isText(*hit.row) ? "; an empty text is stored"
+                                     : "; " + key + " keeps " + shown(*hit.row, hit.block, hit.value, hit.tail)));
   }
   const auto second = m_text.find('=', equals + 1);
-  if (second != std::string::npos && !isText(*hit.row)) {
-    return add(CheckRule::kSeveralEquals, second,
-               "a second '='; " + (isStored(hit.outcome) ? key + " becomes " + valueOf(*hit.row, hit.block)
-                                                         : std::string("nothing is stored")));
-  }
+  if (second == std::string::npos || isText(*hit.row)) return judgeValue(hit);
+  add(CheckRule::kSeveralEquals, second,
+      "a second '='; " + key + (isStored(hit.outcome) ? " becomes " : " keeps ") +
+          shown(*hit.row, hit.block, hit.value, hit.tail));
+}
+
+void CheckObserver::judgeRepeated(const Hit& hit) {
+  const auto [earlier, isFirst] = m_setAt.try_emplace(hit.row, SetBy{m_line, hit.key});
+  m_pending.erase(hit.row);
+  if (isFirst) return;
+  const SetBy before = std::exchange(earlier->second, {m_line, hit.key});
+  std::string message = std::string(hit.key) + " was set in line " + std::to_string(before.line) + " already";
+  if (before.key != hit.key) message += ", as " + std::string(before.key);
+  add(CheckRule::kKeyRepeated, m_text.find(hit.key),
+      message + "; this line wins with " + shown(*hit.row, hit.block, hit.value, hit.tail));
+}
+
+void CheckObserver::judgeValue(const Hit& hit) {
+  const std::string key(hit.key);
   const std::size_t valueAt = m_text.size() - std::min(hit.value.size(), m_text.size());
   switch (hit.outcome) {
     case KeyOutcome::kUnparsed: {
-      const bool outOfRange = beginsNumber(hit.value) && !isBareExponent(hit.value);
-      add(outOfRange ? CheckRule::kOutOfRange : CheckRule::kUnparsedValue, valueAt,
-          trimmed(hit.value).empty() ? "no value; " + key + " keeps " + valueOf(*hit.row, hit.block)
-                                     : "'" + std::string(trimmed(hit.value)).substr(0, 60) + "' is no " +
-                                           (isInt(*hit.row) ? "int" : "number") + (outOfRange ? " in range" : "") +
-                                           "; " + key + " keeps " + valueOf(*hit.row, hit.block));
-      return;
+      const std::string keeps = "; " + key + " keeps " + shown(*hit.row, hit.block, {}, {});
+      const std::string_view value = trimmed(hit.value);
+      if (value.empty()) return add(CheckRule::kUnparsedValue, valueAt, "no value" + keeps);
+      const bool outOfRange = beginsNumber(value) && !isBareExponent(value);
+      const std::string type = isInt(*hit.row) ? "int" : "number";
+      return add(outOfRange ? CheckRule::kOutOfRange : CheckRule::kUnparsedValue, m_text.find(value, valueAt),
+                 quoted(value) + " is no " + type + (outOfRange ? " in range" : "") + keeps);
     }
     case KeyOutcome::kRefused:
       return add(CheckRule::kCountRefused, valueAt, "the count is outside of 0 to 1000000; 0 is used");
     case KeyOutcome::kNotStored:
-      return add(CheckRule::kPointBeyondCount, at, key + " is beyond the list's count and is not stored");
+      if (losesNothing(hit)) return;
+      return add(CheckRule::kPointBeyondCount, m_text.find(hit.key),
+                 key + " is beyond the list's count and is not stored");
     default:
       break;
   }
   if (isText(*hit.row)) judgeText(hit);
   judgeTail(hit);
-  if (isDefault(hit)) {
-    add(CheckRule::kEqualsDefault, valueAt, key + " is " + valueOf(*hit.row, hit.block) + " by default");
+  double typed = 0.0;
+  if (extractDouble(hit.value, typed) > 0) judgeReplaced(*m_section, *hit.row, hit.block, typed, valueAt);
+  if (m_found.wants(CheckRule::kEqualsDefault) && hit.row->store == nullptr &&
+      holdsDefault(*m_section, *hit.row, hit.block)) {
+    add(CheckRule::kEqualsDefault, valueAt,
+        key + " is " + shown(*hit.row, hit.block, hit.value, hit.tail) + " by default");
   }
 }
 
 void CheckObserver::judgeTail(const Hit& hit) {
   const std::string_view rest = trimmed(hit.tail);
-  if (rest.empty()) return;
-  const std::size_t at = m_text.size() - std::min(hit.tail.size(), m_text.size());
-  const std::string used =
-      isText(*hit.row)
-          ? valueOf(*hit.row, hit.block)
-          : std::string(trimmed(std::string_view(hit.value).substr(0, hit.value.size() - hit.tail.size())));
   const bool fraction = isInt(*hit.row) && hit.tail.starts_with('.');
+  if (rest.empty() || (fraction && isZeroFraction(rest))) return;
+  const std::size_t at = m_text.size() - std::min(hit.tail.size(), m_text.size());
+  const std::string used = isText(*hit.row) ? shown(*hit.row, hit.block, hit.value, hit.tail)
+                                            : std::string(parsed(hit.value, hit.tail).substr(0, 60));
   add(fraction ? CheckRule::kIntFraction : CheckRule::kTextAfterValue, at,
-      "reading stops here: " + used + " is used, '" + std::string(rest).substr(0, 60) + "' is ignored");
+      "reading stops here: " + used + " is used, " + quoted(rest) + " is ignored");
 }
 
 void CheckObserver::judgeText(const Hit& hit) {
@@ -205,29 +241,72 @@ void CheckObserver::judgeText(const Hit& hit) {
   }
 }
 
-void CheckObserver::judgeOtherKeys(const Hit* own) {
+void CheckObserver::judgeOtherKeys(const Hit& own) {
   for (const Hit& hit : m_hits) {
-    if (hit.key == own->key || hit.row == own->row || !isStored(hit.outcome)) continue;  // one key, several members
-    const auto earlier = m_setAt.find(hit.key);
-    std::string message = "the line also sets " + std::string(hit.key) + " to " + valueOf(*hit.row, hit.block);
-    if (earlier != m_setAt.end()) message += ", against line " + std::to_string(earlier->second);
-    const std::size_t inKey = own->key.find(hit.key);
-    const std::size_t at = inKey == own->key.npos ? m_text.find(hit.key) : m_text.find(own->key) + inKey;
-    m_pending[hit.key] = {{m_line, m_text.substr(0, 400), at}, std::move(message)};
+    if (hit.key == own.key || hit.row == own.row || !isStored(hit.outcome)) continue;  // one key, several members
+    const auto earlier = m_setAt.find(hit.row);
+    std::string message =
+        "the line also sets " + std::string(hit.key) + " to " + shown(*hit.row, hit.block, hit.value, hit.tail);
+    if (earlier != m_setAt.end()) message += ", against line " + std::to_string(earlier->second.line);
+    const std::size_t inKey = own.key.find(hit.key);
+    const std::size_t at = inKey == own.key.npos ? m_text.find(hit.key) : m_text.find(own.key) + inKey;
+    m_pending[hit.row] = {here(at), std::move(message)};
   }
 }
 
-bool CheckObserver::isDefault(const Hit& hit) const {
-  if (!m_found.wants(CheckRule::kEqualsDefault)) return false;
-  for (const BlockEntry& block : allBlocks()) {
-    const auto sections = block.table().sections;
-    if (std::none_of(sections.begin(), sections.end(), [&](const Section& s) { return &s == m_section; })) continue;
-    void* defaults = block.table().create();
-    const bool same = valueOf(*hit.row, hit.block) == valueOf(*hit.row, defaults);
-    block.table().destroy(defaults);
-    return same;
+// --- Gates and defaults -------------------------------------------------------------------------------------------
+
+void CheckObserver::judgeGated(const Hit& hit) {
+  if (m_gated.size() >= DiagnosticList::kMostPerRule) return m_found.skip(CheckRule::kKeyGated);
+  if (losesNothing(hit)) return;
+  const Row& gate = m_section->rows[m_section->readingOrder[static_cast<std::size_t>(m_section->gate)]];
+  const std::string stays =
+      hit.row->store != nullptr ? std::string("its point") : shown(*hit.row, hit.block, hit.value, hit.tail);
+  m_gated.push_back({here(m_text.find(hit.key)), std::string(hit.key), stays, valueOf(gate, hit.block), m_gateSetAt});
+}
+
+// Whether the solver ends up with the line's value although it ignores the line: read with the gate open, the line
+// stores what is there already.
+bool CheckObserver::losesNothing(const Hit& hit) const {
+  if (hit.row->store != nullptr) {
+    double coordinate = 0.0;  // points are made at the origin
+    return extractDouble(hit.value, coordinate) > 0 && coordinate == 0.0;
   }
-  return false;
+  const BlockTable* table = m_names->tableOf(*m_section);
+  if (table == nullptr) return false;
+  void* trial = table->create();
+  const Row& gate = m_section->rows[m_section->readingOrder[static_cast<std::size_t>(m_section->gate)]];
+  *static_cast<int*>(gate.field.locate(trial)) = gate.gateBelow;
+  std::istringstream text(m_text + "\n" + std::string(m_section->close) + "\n");
+  const LineSource source{};
+  LineReader lines(text, source, nullptr);
+  readSection(*m_section, trial, lines);
+  const bool same = valueOf(*hit.row, trial) == valueOf(*hit.row, hit.block);
+  table->destroy(trial);
+  return same;
+}
+
+bool CheckObserver::holdsDefault(const Section& section, const Row& row, void* block) {
+  const BlockTable* table = m_names->tableOf(section);
+  if (table == nullptr) return false;
+  void*& defaults = m_defaults[table];
+  if (defaults == nullptr) defaults = table->create();
+  return valueOf(row, block) == valueOf(row, defaults);
+}
+
+// What the row's rule makes of a value outside of its range. The default in its place is what was meant, most often:
+// many a file says 0 for it.
+void CheckObserver::judgeReplaced(const Section& section, const Row& row, void* block, double typed, std::size_t at) {
+  if (row.rule.none() || row.store != nullptr) return;
+  const bool asInt = isInt(row);
+  const double plain = (asInt ? std::trunc(typed) : typed) * row.rule.scale;
+  const void* member = row.field.locate(block);
+  const double held =
+      row.field.type == FieldType::kInt ? *static_cast<const int*>(member) : *static_cast<const double*>(member);
+  if (held == plain || std::isnan(typed) || holdsDefault(section, row, block)) return;
+  add(CheckRule::kValueReplaced, at,
+      number(plain) + " is out of range for " + std::string(row.key.empty() ? row.field.member : row.key) + ": " +
+          number(held) + " is used");
 }
 
 }  // namespace zeb

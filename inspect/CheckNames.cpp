@@ -1,50 +1,29 @@
 #include "inspect/CheckNames.hpp"
 
 #include <algorithm>
-#include <cctype>
 
+#include "cmx/CZEBCMXInternalTool.hpp"
 #include "frame/CZEBCMPInternalTool.hpp"
 #include "inspect/Inspection.hpp"
+#include "inspect/NearestNames.hpp"
+#include "stdcmp/StdParameters.hpp"
 
 namespace zeb {
 
 namespace {
 
-char lower(char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); }
-
-// Edits from one to the other, letters compared without case; a difference in case alone weighs nothing.
-std::size_t distance(std::string_view a, std::string_view b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  for (std::size_t j = 0; j <= b.size(); ++j) row[j] = j;
-  for (std::size_t i = 1; i <= a.size(); ++i) {
-    std::size_t diagonal = row[0];
-    row[0] = i;
-    for (std::size_t j = 1; j <= b.size(); ++j) {
-      const std::size_t changed = diagonal + (lower(a[i - 1]) == lower(b[j - 1]) ? 0 : 1);
-      diagonal = row[j];
-      row[j] = std::min({changed, row[j] + 1, row[j - 1] + 1});
-    }
+std::vector<const BlockTable*> cmpTables() {
+  std::vector<const BlockTable*> tables;
+  for (const BlockEntry& block : allBlocks()) {
+    const BlockTable& table = block.table();
+    // The viscoelastic block is not in this file.
+    if (&table != &zeb::tableOf<CZEBCMPVEParm>()) tables.push_back(&table);
   }
-  return row[b.size()];
+  return tables;
 }
 
-std::size_t limitFor(std::string_view name) { return name.size() <= 3 ? 1 : std::max<std::size_t>(2, name.size() / 4); }
-
-std::vector<std::string_view> nearest(std::string_view name, const std::vector<std::string_view>& known,
-                                      std::size_t most) {
-  std::vector<std::pair<std::size_t, std::string_view>> ranked;
-  constexpr std::size_t kLongestName = 64;
-  if (name.empty() || name.size() > kLongestName) return {};
-  const std::size_t limit = limitFor(name);
-  for (const std::string_view candidate : known) {
-    if (candidate.size() > name.size() + limit || name.size() > candidate.size() + limit) continue;
-    const std::size_t edits = distance(name, candidate);
-    if (edits <= limit) ranked.emplace_back(edits, candidate);
-  }
-  std::stable_sort(ranked.begin(), ranked.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
-  std::vector<std::string_view> names;
-  for (std::size_t i = 0; i < ranked.size() && i < most; ++i) names.push_back(ranked[i].second);
-  return names;
+bool isNumber(std::string_view text) {
+  return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
 }  // namespace
@@ -67,31 +46,81 @@ std::string_view nameOf(std::string_view line) {
   return equals != line.npos ? name : name.substr(0, name.find_first_of(" \t"));
 }
 
-std::string_view tagOf(std::string_view line, char bracket) {
+Tag tagOf(std::string_view line, char bracket) {
   line = trimmed(line);
   if (!line.starts_with(bracket)) return {};
+  Tag tag;
   const auto end = line.find(bracket == '<' ? '>' : ']');
-  return end == line.npos ? std::string_view() : line.substr(1, end - 1);
+  tag.whole = end != line.npos;
+  // Without its end only a single word passes for a tag.
+  if (!tag.whole && line.find_first_of(" \t=") != line.npos) return {};
+  tag.text = tag.whole ? line.substr(0, end + 1) : line;
+  tag.name = line.substr(1, tag.whole ? end - 1 : line.npos);
+  tag.closes = tag.name.starts_with('/');
+  if (tag.closes) tag.name.remove_prefix(1);
+  return tag;
 }
 
-std::span<const Section* const> namedSections() {
-  static const std::vector<const Section*> kSections = [] {
-    std::vector<const Section*> sections;
-    for (const BlockEntry& block : allBlocks()) {
-      for (const Section& section : block.table().sections) {
-        if (section.open.starts_with('[')) sections.push_back(&section);
+KnownNames::KnownNames(char bracket, std::span<const BlockTable* const> tables) : m_bracket(bracket) {
+  for (const BlockTable* table : tables) {
+    for (const Section& section : table->sections) {
+      if (section.open.empty() ? section.isPositional() : section.open.starts_with(bracket)) {
+        m_sections.push_back({&section, table});
       }
     }
-    return sections;
-  }();
-  return kSections;
+  }
 }
 
-const Section* sectionNamed(std::string_view name) {
-  const auto sections = namedSections();
+const KnownNames& KnownNames::of(FileKind kind) {
+  static const KnownNames kCmp('[', cmpTables());
+  static const KnownNames kCmx('<', CZEBCMXInternalTool::tables());
+  static const KnownNames kStd('[', StdParameters::tables());
+  return kind == FileKind::kCmp ? kCmp : kind == FileKind::kCmx ? kCmx : kStd;
+}
+
+const KnownNames& KnownNames::ofViscoelasticFile() {
+  static const BlockTable* const kTables[] = {&zeb::tableOf<CZEBCMPVEParm>()};
+  static const KnownNames kNames('<', kTables);
+  return kNames;
+}
+
+const Section* KnownNames::sectionNamed(std::string_view name) const {
+  const auto found = std::find_if(m_sections.begin(), m_sections.end(), [&](const Known& known) {
+    return known.section->name == name && !known.section->open.empty();
+  });
+  return found == m_sections.end() ? nullptr : found->section;
+}
+
+const BlockTable* KnownNames::tableOf(const Section& section) const {
   const auto found =
-      std::find_if(sections.begin(), sections.end(), [&](const Section* section) { return section->name == name; });
-  return found == sections.end() ? nullptr : *found;
+      std::find_if(m_sections.begin(), m_sections.end(), [&](const Known& known) { return known.section == &section; });
+  return found == m_sections.end() ? nullptr : found->table;
+}
+
+std::string KnownNames::sectionsWithKey(std::string_view name) const {
+  std::string text;
+  for (const Known& known : m_sections) {
+    if (hasKey(*known.section, name) || (isListWord(*known.section, name) && !isNumber(name))) {
+      text += (text.empty() ? "" : ", ") + std::string(known.section->open);
+    }
+  }
+  return text;
+}
+
+bool KnownNames::isPresenceKey(std::string_view name) const {
+  return std::any_of(m_sections.begin(), m_sections.end(), [&](const Known& known) {
+    const auto rows = known.section->rows;
+    return std::any_of(rows.begin(), rows.end(),
+                       [&](const Row& row) { return row.lookup == Lookup::kPresence && row.key == name; });
+  });
+}
+
+std::vector<std::string_view> KnownNames::nearSections(std::string_view name) const {
+  std::vector<std::string_view> names;
+  for (const Known& known : m_sections) {
+    if (!known.section->open.empty()) names.push_back(known.section->name);
+  }
+  return nearestOf(name, names, 2);
 }
 
 bool hasKey(const Section& section, std::string_view name) {
@@ -100,32 +129,15 @@ bool hasKey(const Section& section, std::string_view name) {
 
 bool isListWord(const Section& section, std::string_view name) {
   if (section.name == "MultiGate") return name == "Weightings";
+  if (section.name == "FILL_OUTPUT_TIMES" || section.name == "PACK_OUTPUT_TIMES") return isNumber(name);
   return section.name == "RTM" && (name == "NVentInlet" || name == "VentInletID");
 }
 
 std::vector<std::string_view> nearKeys(const Section& section, std::string_view name) {
-  return nearest(name, {section.filter.keys.begin(), section.filter.keys.end()}, 3);
+  return nearestOf(name, {section.filter.keys.begin(), section.filter.keys.end()});
 }
 
-std::vector<std::string_view> nearSections(std::string_view name) {
-  std::vector<std::string_view> names;
-  for (const Section* section : namedSections()) names.push_back(section->name);
-  return nearest(name, names, 2);
-}
-
-std::string sectionsWithKey(std::string_view name) {
-  std::string text;
-  for (const Section* section : namedSections()) {
-    if (hasKey(*section, name) || isListWord(*section, name)) {
-      text += (text.empty() ? "" : ", ") + std::string(section->open);
-    }
-  }
-  return text;
-}
-
-bool isNear(std::string_view a, std::string_view b) { return distance(a, b) <= limitFor(a); }
-
-std::string joined(const std::vector<std::string_view>& names) {
+std::string orList(const std::vector<std::string_view>& names) {
   std::string text;
   for (std::size_t i = 0; i < names.size(); ++i) {
     if (i > 0) text += i + 1 == names.size() ? " or " : ", ";

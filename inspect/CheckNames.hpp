@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "frame/ParameterTable.hpp"
+#include "inspect/ParameterFile.hpp"
 
 namespace zeb {
 
@@ -15,27 +16,56 @@ std::string_view trimmed(std::string_view text);
 bool isComment(std::string_view line);
 /// The text before the first '=', or the first word of a line without one.
 std::string_view nameOf(std::string_view line);
-/// The name in a line that consists of a tag ("/Outlet" for a closing one); empty for any other line.
-std::string_view tagOf(std::string_view line, char bracket);
 
-/// All sections of a CMP file that an opening announces.
-std::span<const Section* const> namedSections();
-const Section* sectionNamed(std::string_view name);
+/// A line that consists of a tag: "[Outlet]", "[/Outlet]", also "[Outlet" without its end.
+struct Tag {
+  std::string_view text;  ///< as it stands in the line; empty when the line is no tag
+  std::string_view name;  ///< "Outlet"
+  bool closes = false;
+  bool whole = true;  ///< false where the closing bracket is missing
+
+  explicit operator bool() const { return !text.empty(); }
+};
+Tag tagOf(std::string_view line, char bracket);
+
+/// The sections that one reader knows.
+class KnownNames {
+ public:
+  static const KnownNames& of(FileKind kind);
+  /// The tag blocks of the viscoelastic file.
+  static const KnownNames& ofViscoelasticFile();
+
+  /// '[' or '<'
+  char bracket() const { return m_bracket; }
+  /// Null when there is none of this name.
+  const Section* sectionNamed(std::string_view name) const;
+  /// The block that the section belongs to; null for a section of another format.
+  const BlockTable* tableOf(const Section& section) const;
+  /// Opening tags of the sections that have this very key, or such lines in a list, separated by commas.
+  std::string sectionsWithKey(std::string_view name) const;
+  /// Whether the bare word sets something in one of the sections.
+  bool isPresenceKey(std::string_view name) const;
+  /// At most two section names close to the name, nearest first.
+  std::vector<std::string_view> nearSections(std::string_view name) const;
+
+ private:
+  KnownNames(char bracket, std::span<const BlockTable* const> tables);
+
+  struct Known {
+    const Section* section;
+    const BlockTable* table;
+  };
+  std::vector<Known> m_sections;  // those with an opening, and the heads that have none
+  char m_bracket;
+};
 
 bool hasKey(const Section& section, std::string_view name);
-/// Words that stand in the lines of a section's list.
+/// Words that stand in the lines of a section's list. Numbers do where a section lists moments.
 bool isListWord(const Section& section, std::string_view name);
-
 /// At most three of the section's keys that are close to the name, nearest first.
 std::vector<std::string_view> nearKeys(const Section& section, std::string_view name);
-/// At most two section names close to the name, nearest first.
-std::vector<std::string_view> nearSections(std::string_view name);
-/// Opening tags of the sections that have this very key, separated by commas.
-std::string sectionsWithKey(std::string_view name);
-/// Whether one may be a misspelling of the other: case apart, few letters differ.
-bool isNear(std::string_view a, std::string_view b);
 
 /// "A, B or C"
-std::string joined(const std::vector<std::string_view>& names);
+std::string orList(const std::vector<std::string_view>& names);
 
 }  // namespace zeb

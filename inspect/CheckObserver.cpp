@@ -1,46 +1,43 @@
 #include "inspect/CheckObserver.hpp"
 
 #include <algorithm>
-#include <cmath>
-#include <cstdio>
 
 #include "frame/ParameterTable.hpp"
-#include "frame/ValueText.hpp"
-#include "inspect/CheckNames.hpp"
+#include "inspect/CheckRawFile.hpp"
+#include "inspect/CheckText.hpp"
 
 namespace zeb {
 
 namespace {
 
-// The elements of such a list are keys of their own, not lines behind the count.
-bool hasElementKeys(const Section& section) {
-  return std::any_of(section.rows.begin(), section.rows.end(), [](const Row& row) { return row.store != nullptr; });
-}
-
 constexpr int kHeadVersion = 1023, kStandardVersion = 1013;
-constexpr std::size_t kKeptText = 400;
 
-std::string quoted(std::string_view text) {
-  constexpr std::size_t kLongest = 60;
-  return "'" + std::string(text.substr(0, kLongest)) + (text.size() > kLongest ? "..." : "") + "'";
-}
-
-std::string number(double value) {
-  char text[40];
-  std::snprintf(text, sizeof text, "%.10g", value);
-  return text;
-}
+std::size_t orStart(std::size_t at) { return at == std::string::npos ? 0 : at; }
 
 }  // namespace
 
-void CheckObserver::add(CheckRule rule, std::size_t at, std::string message, std::string hint) {
-  m_found.add(rule, m_line, m_text, at == std::string::npos ? 0 : at, std::move(message), std::move(hint));
+CheckObserver::~CheckObserver() {
+  for (const auto& [table, block] : m_defaults) table->destroy(block);
 }
+
+void CheckObserver::add(CheckRule rule, std::size_t at, std::string message, std::string hint) {
+  m_found.add(rule, m_line, m_text, orStart(at), std::move(message), std::move(hint));
+}
+
+// --- Files and lines ----------------------------------------------------------------------------------------------
 
 void CheckObserver::fileStarted(std::string_view fileName) {
   finishLine();
-  if (m_files++ > 0) m_found.startFile(std::string(fileName));
-  m_section = nullptr;
+  endSection();
+  m_text.clear();
+  m_line = 0;
+  m_unknownSection.clear();
+  m_positional = nullptr;
+  if (m_files++ == 0) return;
+  // The viscoelastic file's name is the reader's to derive, so its bytes are looked at here.
+  m_names = &KnownNames::ofViscoelasticFile();
+  m_found.startFile(std::string(fileName));
+  checkRawFile(std::string(fileName), m_found);
 }
 
 void CheckObserver::lineRead(int lineNumber, std::string_view line) {
@@ -52,11 +49,51 @@ void CheckObserver::lineRead(int lineNumber, std::string_view line) {
 
 void CheckObserver::versionRead(int /*lineNumber*/, std::string_view /*line*/, bool parsed, int version) {
   m_judged = true;
-  if (version == kHeadVersion || version == kStandardVersion) return;
+  if (version == kHeadVersion || version == kStandardVersion || (isComment(m_text) && !parsed)) return;
   add(CheckRule::kVersionUnknown, m_text.find("[VER]"),
       parsed ? "version " + std::to_string(version) + " is unknown; no head is read"
              : "the version line holds no version; no head is read");
 }
+
+void CheckObserver::lineOutside(int /*lineNumber*/, std::string_view line) {
+  if (m_judged) return;  // a version line, reported once its head has been read
+  m_judged = true;
+  if (isComment(line)) return;
+  if (const Tag tag = tagOf(line, m_names->bracket())) return judgeTagOutside(tag);
+  const std::string_view name = nameOf(line);
+  if (!m_unknownSection.empty() || (line.find('=') == line.npos && !m_names->isPresenceKey(name))) return;
+  const std::string sections = m_names->sectionsWithKey(name);
+  if (sections.empty()) return;
+  add(CheckRule::kKeyOutsideSection, line.find(name), quoted(name) + " stands outside of every section and is ignored",
+      "it belongs to " + sections);
+}
+
+void CheckObserver::judgeTagOutside(const Tag& tag) {
+  const std::size_t at = m_text.find(tag.text);
+  const std::string text(tag.text);
+  if (tag.closes) {
+    const bool expected = tag.name == m_unknownSection || (m_positional != nullptr && m_positional->name == tag.name);
+    m_unknownSection.clear();
+    m_positional = nullptr;
+    if (!expected) add(CheckRule::kCloseWithoutOpen, at, text + " closes a section that is not open");
+    return;
+  }
+  m_unknownSection = tag.name;
+  if (!m_found.wants(CheckRule::kUnknownSection)) return m_found.skip(CheckRule::kUnknownSection);
+  if (m_kind == FileKind::kStd && KnownNames::of(FileKind::kCmp).sectionNamed(tag.name) != nullptr) {
+    return add(CheckRule::kUnknownSection, at, text + " is no section of the standard solver; its lines are ignored",
+               "the other solvers read it");
+  }
+  const auto near = m_names->nearSections(tag.name);
+  std::string hint;
+  if (!near.empty()) {
+    const Section& section = *m_names->sectionNamed(near.front());
+    hint = "did you mean " + std::string(section.open) + "? Section names are case-sensitive";
+  }
+  add(CheckRule::kUnknownSection, at, text + " is no section; its lines are ignored", hint);
+}
+
+// --- Sections -----------------------------------------------------------------------------------------------------
 
 void CheckObserver::sectionOpened(const Section& section, int /*lineNumber*/) {
   m_judged = true;
@@ -65,31 +102,56 @@ void CheckObserver::sectionOpened(const Section& section, int /*lineNumber*/) {
   m_unknownSection.clear();
   m_positionalShort = false;
   m_explained = false;
-  const auto at = section.open.empty() ? 0 : m_text.find(section.open);
-  m_opening = {m_line, m_text.substr(0, kKeptText), at == m_text.npos ? 0 : at};
+  const bool isFirst = m_text.find(section.open) != m_text.npos;
+  if (isFirst) {
+    m_openingText = m_text;
+    m_opening = here(m_text.find(section.open));
+  } else {
+    // The line that opened the section before opened this one, too.
+    m_opening = placeIn(m_opening.line, m_openingText, orStart(m_openingText.find(section.open)));
+    m_found.add(CheckRule::kSectionInsideSection, m_opening,
+                std::string(section.open) + " stands in the line of another opening; it is read from line " +
+                    std::to_string(m_line + 1) + " on, behind that section's end",
+                "give each opening a line of its own");
+  }
   if (section.open.empty()) return;
-  if (isComment(m_text)) {
-    add(CheckRule::kCommentOpensSection, at, "the comment opens " + std::string(section.open));
+  if (isComment(m_openingText)) {
+    m_found.add(CheckRule::kCommentOpensSection, m_opening, "the comment opens " + std::string(section.open));
   }
   int& first = m_sectionsSeen[&section];
   if (first > 0) {
-    add(CheckRule::kSectionRepeated, at,
-        std::string(section.open) + " stood in line " + std::to_string(first) + " already; later values win");
+    m_found.add(CheckRule::kSectionRepeated, m_opening,
+                std::string(section.open) + " stood in line " + std::to_string(first) + " already; later values win");
   }
-  if (first == 0) first = m_line;
+  if (first == 0) first = m_opening.line;
+  if (isFirst) judgeBesideTag(section.open);
 }
 
-void CheckObserver::sectionClosed(const Section& /*section*/, int /*lineNumber*/) {
+void CheckObserver::sectionClosed(const Section& section, int /*lineNumber*/) {
+  const bool endsList = m_judged;  // a list took the closing line
   if (m_hits.empty()) m_judged = true;
   finishLine();
+  if (!endsList && !section.closingLineIsRead) judgeBesideTag(section.close);
   endSection();
+}
+
+// Keys in the line of an opening or of a closing are not looked for.
+void CheckObserver::judgeBesideTag(std::string_view tag) {
+  if (m_section == nullptr || m_text.find('=') == m_text.npos) return;
+  std::string rest = m_text;
+  rest.replace(orStart(rest.find(tag)), tag.size(), tag.size(), ' ');
+  const std::string_view name = nameOf(rest);
+  if (!hasKey(*m_section, name)) return;
+  add(CheckRule::kKeyOutsideSection, rest.find(name),
+      quoted(name) + " stands in the line of " + std::string(tag) + " and is ignored",
+      "give it a line of its own between opening and closing");
 }
 
 void CheckObserver::sectionUnclosed(const Section& section, int /*lineNumber*/) {
   finishLine();
   endList();
   if (!m_explained) {
-    m_found.add(CheckRule::kUnclosedSection, m_opening.line, m_opening.text, m_opening.at,
+    m_found.add(CheckRule::kUnclosedSection, m_opening,
                 std::string(section.open) + " is never closed: it takes the rest of the file",
                 "add a line " + std::string(section.close));
   }
@@ -105,174 +167,81 @@ void CheckObserver::sectionRefused(const Section& section, int /*lineNumber*/, i
   m_section = nullptr;
 }
 
+void CheckObserver::endSection() {
+  endList();
+  for (auto& [key, pending] : m_pending) {
+    m_found.add(CheckRule::kSeveralKeys, std::move(pending.place), std::move(pending.message));
+  }
+  // Whether the gate opens further down is known only now.
+  for (const Gated& gated : m_gated) reportGated(gated);
+  m_gated.clear();
+  m_gateSetAt = m_gateOpenedAt = 0;
+  m_pending.clear();
+  m_setAt.clear();
+  m_nestedClose.clear();
+  m_nestedSeen = false;
+  m_section = nullptr;
+}
+
+void CheckObserver::reportGated(const Gated& gated) {
+  const Row& gate = m_section->rows[m_section->readingOrder[static_cast<std::size_t>(m_section->gate)]];
+  const std::string name(gate.key), kept = "; " + gated.key + " keeps " + gated.stays;
+  if (m_gateOpenedAt > gated.place.line) {
+    m_found.add(CheckRule::kKeyAboveGate, gated.place,
+                gated.key + " is ignored: " + name + ", which opens it, stands in line " +
+                    std::to_string(m_gateOpenedAt) + kept);
+    return;
+  }
+  m_found.add(CheckRule::kKeyGated, gated.place,
+              gated.key + " is ignored: " + name + " is " + gated.gateValue +
+                  (gated.gateSetAt > 0 ? " since line " + std::to_string(gated.gateSetAt) : " by default") + kept,
+              "set " + name + " to " + std::to_string(gate.gateBelow) + " or more above it, or remove the line");
+}
+
+// --- Keys and repairs ---------------------------------------------------------------------------------------------
+
 void CheckObserver::keyFound(const KeyEvent& event) {
   const void* member = event.row.field.locate(event.block);
   const bool stored = event.outcome == KeyOutcome::kStored;
   const auto at = event.key.empty() ? event.line.find(trimmed(event.value)) : event.line.find(event.key);
-  if (stored && m_files == 1) m_origins[member] = {m_line, std::string(event.line.substr(0, kKeptText)), at};
-  if (event.key.empty()) return;
+  if (stored && !isCompanion()) m_origins[member] = placeIn(m_line, event.line, orStart(at));
+  if (event.key.empty()) {
+    if (event.section.isPositional() || event.section.open.empty()) judgeField(event, orStart(at));
+    return;
+  }
   m_hits.push_back(
       {&event.row, event.block, event.key, event.outcome, std::string(event.value), std::string(event.tail)});
-  if (event.row.list != nullptr && stored) {
-    endList();
-    m_list = {};
-    m_list.announced = m_line;
-    m_list.text = event.line.substr(0, kKeptText);
-    if (event.row.count && !hasElementKeys(event.section)) m_list.expected = *static_cast<const int*>(member);
-    m_list.open = true;
+  if (event.row.gateBelow != kNoGate && stored) {
+    m_gateSetAt = m_line;
+    if (*static_cast<const int*>(member) >= event.row.gateBelow) m_gateOpenedAt = m_line;
   }
-}
-
-void CheckObserver::lineOfList(const Section& section, int /*lineNumber*/, std::string_view line, bool used) {
-  m_judged = true;
-  if (line.find(section.close) != line.npos) {
-    add(CheckRule::kListConsumedClose, line.find(section.close),
-        "the list of line " + std::to_string(m_list.announced) + " takes this closing line as an entry");
-    m_explained = m_list.complained = true;
-    return;
-  }
-  int count = 0;
-  if (used && nameOf(line) == "NVentInlet") {
-    extractInt(valueText(line), count);
-    m_list.expected = count;
-    return;
-  }
-  if (!used) {
-    add(CheckRule::kListTooShort, 0,
-        "the list of line " + std::to_string(m_list.announced) + " takes this line, but it is no usable entry");
-    m_list.complained = true;
-    return;
-  }
-  ++m_list.entries;
-  double weight = 0.0;
-  if (section.name != "MultiGate" || extractDouble(valueText(line), weight) == 0) return;
-  m_list.sum += weight;
-  ++m_list.parsed;
-  m_list.lastLine = m_line;
-  m_list.lastText = line.substr(0, kKeptText);
-}
-
-void CheckObserver::endList() {
-  if (!m_list.open) return;
-  m_list.open = false;
-  if (m_list.complained) return;
-  if (m_list.entries < m_list.expected) {
-    m_found.add(
-        CheckRule::kListTooShort, m_list.announced, m_list.text, 0,
-        "the list has " + std::to_string(m_list.entries) + " of " + std::to_string(m_list.expected) + " entries");
-  } else if (m_list.parsed > 0 && std::abs(m_list.sum - 1.0) > 1e-6) {
-    m_found.add(CheckRule::kWeightsSum, m_list.lastLine, m_list.lastText, 0,
-                "the weights sum to " + number(m_list.sum) + ", not to 1; the last one becomes one minus the others");
-  }
-}
-
-void CheckObserver::linePositional(const Section& section, int /*lineNumber*/, int positionalLine, int converted,
-                                   int expected, std::string_view tail) {
-  const bool fileEnded = m_judged;
-  m_judged = true;
-  m_positional = &section;
-  if (positionalLine == section.positional.lines) m_section = nullptr;
-  if (m_positionalShort) return;
-  const std::string what = section.open.empty() ? "the head" : std::string(section.open);
-  if (fileEnded || trimmed(m_text).starts_with('[') || trimmed(m_text).starts_with("</")) {
-    m_positionalShort = true;
-    const std::string message = what + " has only " + std::to_string(positionalLine - 1) + " of its lines; ";
-    if (fileEnded) {
-      m_found.add(CheckRule::kPositionalTooShort, m_opening.line, m_opening.text, m_opening.at,
-                  message + "the file ends");
-    } else {
-      add(CheckRule::kPositionalTooShort, 0, message + "this line is taken as its next one");
-    }
-    return;
-  }
-  const std::size_t at = m_text.size() - std::min(tail.size(), m_text.size());
-  if (converted < expected) {
-    add(CheckRule::kPositionalFields, at,
-        "line " + std::to_string(positionalLine) + " of " + what + ": " + std::to_string(converted) + " of " +
-            std::to_string(expected) + " fields can be read" +
-            (trimmed(tail).empty() ? "" : "; reading stops at " + quoted(trimmed(tail))));
-  } else if (expected > 0 && !trimmed(tail).empty()) {
-    add(CheckRule::kPositionalExtra, at,
-        quoted(trimmed(tail)) + " behind the " + std::to_string(expected) + " fields of line " +
-            std::to_string(positionalLine) + " of " + what + " is ignored");
-  }
-}
-
-void CheckObserver::lineOutside(int /*lineNumber*/, std::string_view line) {
-  if (m_judged) return;  // a version line, reported once its head has been read
-  m_judged = true;
-  if (m_files > 1 || isComment(line)) return;
-  const std::string_view tag = tagOf(line, '[');
-  const std::size_t at = line.find('[');
-  if (tag.starts_with('/')) {
-    const std::string_view name = tag.substr(1);
-    const bool expected = name == m_unknownSection || (m_positional != nullptr && m_positional->name == name);
-    m_unknownSection.clear();
-    m_positional = nullptr;
-    if (!expected)
-      add(CheckRule::kCloseWithoutOpen, at, "[" + std::string(tag) + "] closes a section that is not open");
-  } else if (!tag.empty()) {
-    m_unknownSection = tag;
-    const auto near = nearSections(tag);
-    add(CheckRule::kUnknownSection, at, "[" + std::string(tag) + "] is no section; its lines are ignored",
-        near.empty() ? "" : "did you mean [" + std::string(near.front()) + "]? Section names are case-sensitive");
-  } else if (m_unknownSection.empty() && line.find('=') != line.npos) {
-    const std::string_view name = nameOf(line);
-    const std::string sections = sectionsWithKey(name);
-    if (sections.empty()) return;
-    add(CheckRule::kKeyOutsideSection, line.find(name),
-        quoted(name) + " stands outside of every section and is ignored", "it belongs to " + sections);
-  }
+  if (event.row.list != nullptr && stored) startList(event);
 }
 
 void CheckObserver::viscoelasticRefused(int lineNumber, std::string_view reason) {
   finishLine();
+  lineNumber = std::min(lineNumber, m_line);  // the file may end before the line that decides
   m_found.add(CheckRule::kViscoelasticRefused, lineNumber, lineNumber == m_line ? m_text : std::string(), 0,
-              "rejected: " + std::string(reason));
+              std::string(reason) + "; nothing of it is used, and a solver writes a default file in its place");
+  m_section = nullptr;
 }
 
 void CheckObserver::repaired(const RepairEvent& event) {
   if (event.before == event.after || !m_origins.contains(event.memberAddress)) return;
-  auto [change, isNew] = m_changes.try_emplace(event.memberAddress, Change{event.before, event.after, {}, {}});
+  auto [change, isNew] = m_changes.try_emplace(event.memberAddress, Change{event.before, event.after, {}});
   change->second.after = event.after;
-  change->second.member = event.member;
   change->second.conditions += (isNew ? "" : ", ") + std::string(event.condition);
 }
 
 void CheckObserver::finish() {
   finishLine();
+  m_found.continueFile(m_mainFile);
   for (const auto& [member, change] : m_changes) {
     if (change.before == change.after) continue;
-    const Place& place = m_origins[member];
-    m_found.add(CheckRule::kRepairedValue, place.line, place.text, place.at,
+    m_found.add(CheckRule::kRepairedValue, m_origins[member],
                 "the repairs change the value from " + number(change.before) + " to " + number(change.after) + " (" +
                     change.conditions + ")");
   }
-}
-
-void CheckObserver::endSection() {
-  endList();
-  for (auto& [key, pending] : m_pending) {
-    m_found.add(CheckRule::kSeveralKeys, pending.place.line, pending.place.text, pending.place.at,
-                std::move(pending.message));
-  }
-  // Whether a gate opened further down is known only now.
-  const bool opened = m_section != nullptr && m_section->gate >= 0 &&
-                      m_setAt.contains(m_section->filter.keys[static_cast<std::size_t>(m_section->gate)]);
-  for (auto& [place, key] : m_gated) {
-    const std::string_view gate = m_section->filter.keys[static_cast<std::size_t>(m_section->gate)];
-    const int gateLine = opened ? m_setAt[gate] : 0;
-    const bool isAbove = opened && gateLine > place.line;
-    m_found.add(isAbove ? CheckRule::kKeyAboveGate : CheckRule::kKeyGated, place.line, place.text, place.at,
-                key + " is ignored: " +
-                    (isAbove ? std::string(gate) + ", which opens it, stands in line " + std::to_string(gateLine)
-                             : std::string(gate) + " keeps it shut"));
-  }
-  m_gated.clear();
-  m_pending.clear();
-  m_setAt.clear();
-  m_nested.clear();
-  m_section = nullptr;
 }
 
 }  // namespace zeb

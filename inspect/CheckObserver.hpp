@@ -2,20 +2,27 @@
 // comes, everything that the reader made of it is known.
 #pragma once
 
+#include <map>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 #include "frame/ReadObserver.hpp"
+#include "inspect/CheckNames.hpp"
 #include "inspect/Diagnostic.hpp"
 
 namespace zeb {
 
 class CheckObserver final : public ReadObserver {
  public:
-  explicit CheckObserver(DiagnosticList& found) : m_found(found) {}
+  /// The list's current file is the one that is going to be read.
+  CheckObserver(DiagnosticList& found, FileKind kind)
+      : m_found(found), m_kind(kind), m_names(&KnownNames::of(kind)), m_mainFile(found.currentFile()) {}
+  CheckObserver(const CheckObserver&) = delete;
+  CheckObserver& operator=(const CheckObserver&) = delete;
+  ~CheckObserver() override;
 
-  /// After the analysis: the last line and what the repairs changed.
+  /// After the analysis, while its blocks are there: the last line and what the repairs changed.
   void finish();
 
   void fileStarted(std::string_view fileName) override;
@@ -41,45 +48,75 @@ class CheckObserver final : public ReadObserver {
     KeyOutcome outcome;
     std::string value, tail;
   };
-  struct Place {
-    int line = 0;
-    std::string text;
-    std::size_t at = 0;
+  struct SetBy {
+    int line;
+    std::string_view key;
   };
   struct Pending {
     Place place;
     std::string message;
   };
+  struct Gated {
+    Place place;
+    std::string key, stays, gateValue;
+    int gateSetAt;
+  };
   struct Change {
     double before, after;
-    std::string member, conditions;
+    std::string conditions;
   };
   struct List {
     int announced = 0, entries = 0, expected = 0;
-    bool open = false, complained = false;
-    std::string text, lastText;
+    bool open = false, complained = false, takesLines = false, closed = false;
+    Place place;
     double sum = 0.0;
-    int parsed = 0, lastLine = 0;
+    int weights = 0;
+    Place lastWeight;
   };
 
   void add(CheckRule rule, std::size_t at, std::string message, std::string hint = {});
+  Place here(std::size_t at) const { return placeIn(m_line, m_text, at); }
+
+  // the line of a keyed section
   void finishLine();
   void judgeSectionLine();
-  void judgeTag(std::string_view tag);
+  void judgeTag(const Tag& tag);
+  void judgeBesideTag(std::string_view tag);
   void judgeHits();
+  const Hit* meantHit(bool isTag);
+  void judgeComment();
   void judgeOwnKey(const Hit& hit);
+  void judgeRepeated(const Hit& hit);
+  void judgeValue(const Hit& hit);
   void judgeTail(const Hit& hit);
   void judgeText(const Hit& hit);
   void judgeWithoutKey();
   void judgeGated(const Hit& hit);
-  void judgeOtherKeys(const Hit* own);
-  void judgeEquals();
-  bool isDefault(const Hit& hit) const;
+  void judgeOtherKeys(const Hit& own);
+  bool losesNothing(const Hit& gated) const;
+  bool holdsDefault(const Section& section, const Row& row, void* block);
+  void judgeReplaced(const Section& section, const Row& row, void* block, double typed, std::size_t at);
+
+  // lists and positional lines
+  void startList(const KeyEvent& event);
+  void judgeEntry(const Section& section, std::string_view line);
+  void judgeEntryTail(const Section& section, std::string_view line);
+  void judgeFinite(std::size_t at, double value, std::string_view text);
+  bool isTakenInPlaceOf(const Section& section, std::string_view line) const;
   void endList();
+  void judgeField(const KeyEvent& event, std::size_t at);
+  bool judgeShortPositional(const Section& section, int positionalLine, bool isFree);
+
   void endSection();
+  void reportGated(const Gated& gated);
+  void judgeTagOutside(const Tag& tag);
 
   DiagnosticList& m_found;
+  FileKind m_kind;
+  const KnownNames* m_names;
+  int m_mainFile;
   int m_files = 0;
+  bool isCompanion() const { return m_files > 1; }
 
   // the line
   std::string m_text;
@@ -90,11 +127,14 @@ class CheckObserver final : public ReadObserver {
   // the section that is being read
   const Section* m_section = nullptr;
   Place m_opening;
-  std::string m_nested;      // an opening inside the section whose lines are therefore lost
+  std::string m_openingText;  // the whole line of the last opening
+  std::string m_nestedClose;  // ends the lines of a section inside this one, which are therefore lost
+  bool m_nestedSeen = false;
   bool m_explained = false;  // why it is not closed has been said
-  std::unordered_map<std::string_view, int> m_setAt;
-  std::unordered_map<std::string_view, Pending> m_pending;
-  std::vector<std::pair<Place, std::string>> m_gated;
+  std::unordered_map<const Row*, SetBy> m_setAt;
+  std::map<const Row*, Pending> m_pending;
+  std::vector<Gated> m_gated;
+  int m_gateSetAt = 0, m_gateOpenedAt = 0;
   List m_list;
 
   // outside of sections
@@ -104,7 +144,8 @@ class CheckObserver final : public ReadObserver {
 
   std::unordered_map<const Section*, int> m_sectionsSeen;
   std::unordered_map<const void*, Place> m_origins;
-  std::unordered_map<const void*, Change> m_changes;
+  std::map<const void*, Change> m_changes;
+  std::unordered_map<const BlockTable*, void*> m_defaults;
 };
 
 }  // namespace zeb

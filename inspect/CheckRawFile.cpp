@@ -48,7 +48,6 @@ class RawFile {
   explicit RawFile(DiagnosticList& found) : m_found(found) {}
 
   void take(char c) {
-    m_empty = false;
     if (c == '\n') return endLine();
     if (m_length < kKept) m_text += c;
     if (c == '\0' && m_nul == kNone) m_nul = m_length;
@@ -59,15 +58,17 @@ class RawFile {
   }
 
   void finish() {
-    if (!m_empty && m_length > 0) {
+    if (m_length > 0) {
       m_found.add(CheckRule::kNoFinalNewline, m_line, m_text, m_text.size(), "the last line has no line end");
       if (m_heldCr) m_loneCr = m_length - 1;
       m_heldCr = false;
       endLine();
     }
     if (m_crLines > 0) {
-      m_found.add(CheckRule::kCarriageReturn, m_firstCrLine, {}, 0,
-                  std::to_string(m_crLines) + " line(s) end in CR LF, this is the first");
+      m_found.add(CheckRule::kCarriageReturn, m_firstCr,
+                  std::to_string(m_crLines) +
+                      (m_crLines == 1 ? " line ends in CR LF" : " lines end in CR LF, this is the first") +
+                      "; where the host's opener does not remove the CR, it becomes part of text values");
     }
   }
 
@@ -83,9 +84,9 @@ class RawFile {
     if (m_notUtf8 == kNone && !m_utf8.ends()) m_notUtf8 = m_length;
     m_utf8 = Utf8Check();
     if (m_heldCr) {
-      if (m_crLines++ == 0) m_firstCrLine = m_line;
       if (m_text.ends_with('\r')) m_text.pop_back();
       --m_length;
+      if (m_crLines++ == 0) m_firstCr = placeIn(m_line, m_text, m_text.size());
     }
     if (m_loneCr != kNone) {
       m_found.add(CheckRule::kCarriageReturn, m_line, m_text, m_loneCr, "a carriage return inside the line");
@@ -98,7 +99,7 @@ class RawFile {
     }
     if (m_length > kLongest) {
       m_found.add(CheckRule::kLineTooLong, m_line, m_text, kLongest,
-                  "the line has " + std::to_string(m_length) + " characters; in parallel it is cut here, after " +
+                  "the line has " + std::to_string(m_length) + " bytes; in parallel it is cut here, behind the first " +
                       std::to_string(kLongest));
     }
     m_text.clear();
@@ -114,16 +115,15 @@ class RawFile {
   std::size_t m_length = 0;
   std::size_t m_nul = kNone, m_loneCr = kNone, m_notUtf8 = kNone;
   bool m_heldCr = false;
-  bool m_empty = true;
   int m_line = 1;
-  int m_crLines = 0, m_firstCrLine = 0;
+  int m_crLines = 0;
+  Place m_firstCr;
 };
 
 }  // namespace
 
-void checkRawFile(const std::string& fileName, DiagnosticList& found) {
+void checkRawBytes(std::istream& stream, DiagnosticList& found) {
   constexpr std::size_t kPiece = 65536;
-  std::ifstream stream(fileName, std::ios::binary);
   const auto piece = std::make_unique<char[]>(kPiece);
   RawFile file(found);
   while (stream.good()) {
@@ -132,6 +132,11 @@ void checkRawFile(const std::string& fileName, DiagnosticList& found) {
     for (std::streamsize i = 0; i < count; ++i) file.take(piece[static_cast<std::size_t>(i)]);
   }
   file.finish();
+}
+
+void checkRawFile(const std::string& fileName, DiagnosticList& found) {
+  std::ifstream stream(fileName, std::ios::binary);
+  checkRawBytes(stream, found);
 }
 
 }  // namespace zeb

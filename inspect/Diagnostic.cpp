@@ -19,6 +19,17 @@ constexpr std::size_t kShown = 120;
 
 }  // namespace
 
+Place placeIn(int line, std::string_view text, std::size_t at) {
+  at = std::min(at, text.size());
+  while (at > 0 && at < text.size() && continues(text[at])) --at;
+  std::size_t first = text.size() <= kShown || at < kShownBefore ? 0 : at - kShownBefore;
+  while (first > 0 && continues(text[first])) --first;
+  std::size_t end = std::min(text.size(), first + kShown);
+  while (end > first && end < text.size() && continues(text[end])) --end;
+  return {line, characters(text.substr(0, at)) + 1, std::string(text.substr(first, end - first)),
+          characters(text.substr(0, first)) + 1};
+}
+
 DiagnosticList::DiagnosticList() : m_enabled(checkRules().size()), m_counts(checkRules().size()) {
   for (const RuleInfo& rule : checkRules()) enable(rule.rule, rule.byDefault);
 }
@@ -34,34 +45,30 @@ void DiagnosticList::skip(CheckRule rule) {
   if (m_enabled[static_cast<std::size_t>(rule)]) ++m_dropped;
 }
 
+void DiagnosticList::add(CheckRule rule, Place place, std::string message, std::string hint) {
+  if (!wants(rule)) return skip(rule);
+  ++m_counts[static_cast<std::size_t>(rule)];
+  const std::string file = m_file < 0 ? std::string() : m_files[static_cast<std::size_t>(m_file)];
+  if (hint.empty()) hint = info(rule).hint;
+  m_all.push_back({rule, file, m_file, std::move(place), std::move(message), std::move(hint)});
+}
+
 void DiagnosticList::add(CheckRule rule, int line, std::string_view text, std::size_t at, std::string message,
                          std::string hint) {
   if (!wants(rule)) return skip(rule);
-  ++m_counts[static_cast<std::size_t>(rule)];
-  at = std::min(at, text.size());
-  std::size_t first = text.size() <= kShown || at < kShownBefore ? 0 : at - kShownBefore;
-  while (first > 0 && continues(text[first])) --first;
-  Diagnostic found;
-  found.rule = rule;
-  found.file = m_file;
-  found.fileOrder = m_fileOrder;
-  found.line = line;
-  found.column = characters(text.substr(0, at)) + 1;
-  found.textColumn = characters(text.substr(0, first)) + 1;
-  found.text = text.substr(first, kShown);
-  found.message = std::move(message);
-  found.hint = hint.empty() ? std::string(info(rule).hint) : std::move(hint);
-  m_all.push_back(std::move(found));
+  add(rule, placeIn(line, text, at), std::move(message), std::move(hint));
 }
 
-void DiagnosticList::startFile(std::string name) {
-  m_file = std::move(name);
-  ++m_fileOrder;
+int DiagnosticList::startFile(std::string name) {
+  m_file = static_cast<int>(m_files.size());
+  m_files.push_back(std::move(name));
+  std::fill(m_counts.begin(), m_counts.end(), 0);
+  return m_file;
 }
 
 void DiagnosticList::sort() {
   std::stable_sort(m_all.begin(), m_all.end(), [](const Diagnostic& a, const Diagnostic& b) {
-    return std::tie(a.fileOrder, a.line, a.column) < std::tie(b.fileOrder, b.line, b.column);
+    return std::tie(a.fileOrder, a.place.line, a.place.column) < std::tie(b.fileOrder, b.place.line, b.place.column);
   });
 }
 

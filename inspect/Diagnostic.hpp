@@ -9,19 +9,27 @@
 
 namespace zeb {
 
+/// A place in a file, with as much of the line as is shown.
+struct Place {
+  int line = 0;        ///< from 1; 0 when the finding belongs to the whole file
+  int column = 1;      ///< in characters, from 1
+  std::string text;    ///< the part of the line that is shown
+  int textColumn = 1;  ///< column of the text's first character
+};
+
+/// The place of the byte `at` of a line.
+Place placeIn(int line, std::string_view text, std::size_t at);
+
 struct Diagnostic {
   CheckRule rule;
   std::string file;
   int fileOrder = 0;
-  int line = 0;    ///< from 1; 0 when the finding belongs to the whole file
-  int column = 1;  ///< in characters, from 1
+  Place place;
   std::string message;
-  std::string text;    ///< the part of the line that is shown
-  int textColumn = 1;  ///< column of the text's first character
   std::string hint;
 };
 
-/// Collects findings of the rules that are switched on, at most kMostPerRule of each.
+/// Collects findings of the rules that are switched on, at most kMostPerRule of each in a file.
 class DiagnosticList {
  public:
   static constexpr int kMostPerRule = 200;
@@ -33,9 +41,16 @@ class DiagnosticList {
   /// Counts a finding that is not worded, because wants() was false.
   void skip(CheckRule rule);
 
+  /// An empty hint stands for the rule's own.
+  void add(CheckRule rule, Place place, std::string message, std::string hint = {});
   /// `at` is an offset in bytes into `text`.
   void add(CheckRule rule, int line, std::string_view text, std::size_t at, std::string message, std::string hint = {});
-  void startFile(std::string name);
+
+  /// What is added from here on belongs to this file. Returns its number.
+  int startFile(std::string name);
+  /// Goes on with an earlier file; the number is startFile()'s.
+  void continueFile(int number) { m_file = number; }
+  int currentFile() const { return m_file; }
 
   std::vector<Diagnostic>& all() { return m_all; }
   /// By file, line and column.
@@ -47,8 +62,8 @@ class DiagnosticList {
   std::vector<Diagnostic> m_all;
   std::vector<bool> m_enabled;
   std::vector<int> m_counts;
-  std::string m_file;
-  int m_fileOrder = 0;
+  std::vector<std::string> m_files;
+  int m_file = -1;
   int m_dropped = 0;
 };
 

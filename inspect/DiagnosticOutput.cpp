@@ -27,8 +27,8 @@ std::string asUri(std::string_view path) {
 
 Json asResult(const Diagnostic& found, std::string_view severity) {
   Json location = {{"artifactLocation", {{"uri", asUri(found.file)}}}};
-  if (found.line > 0) {
-    location["region"] = {{"startLine", found.line}, {"startColumn", found.column}};
+  if (found.place.line > 0) {
+    location["region"] = {{"startLine", found.place.line}, {"startColumn", found.place.column}};
   }
   Json result;
   result["ruleId"] = info(found.rule).id;
@@ -43,21 +43,21 @@ Json asResult(const Diagnostic& found, std::string_view severity) {
 
 std::string headline(const Diagnostic& found, std::string_view severity) {
   std::string text = found.file;
-  if (found.line > 0) text += ":" + std::to_string(found.line) + ":" + std::to_string(found.column);
+  if (found.place.line > 0) text += ":" + std::to_string(found.place.line) + ":" + std::to_string(found.place.column);
   text += ": " + std::string(severity) + ": " + found.message + " [" + std::string(info(found.rule).id) + "]";
   std::replace_if(text.begin(), text.end(), isControl, '?');
   return text;
 }
 
 std::string excerpt(const Diagnostic& found) {
-  if (found.line == 0) return {};
-  const std::string cut = found.textColumn > 1 ? "..." : "";
+  if (found.place.line == 0) return {};
+  const std::string cut = found.place.textColumn > 1 ? "..." : "";
   std::string line = "  " + cut, caret = "  " + std::string(cut.size(), ' ');
-  int column = found.textColumn;
-  for (const char c : found.text) {
+  int column = found.place.textColumn;
+  for (const char c : found.place.text) {
     const bool continues = (static_cast<unsigned char>(c) & 0xC0) == 0x80;
     // A tab in the caret's line keeps it in place, however wide the terminal makes it.
-    if (!continues && column++ < found.column) caret += c == '\t' ? '\t' : ' ';
+    if (!continues && column++ < found.place.column) caret += c == '\t' ? '\t' : ' ';
     line += isControl(c) && c != '\t' ? '?' : c;
   }
   while (!line.empty() && line.back() == ' ') line.pop_back();
@@ -68,8 +68,8 @@ Json diagnosticsAsJson(std::span<const Diagnostic> all, std::string_view severit
   Json list = Json::array();
   for (const Diagnostic& found : all) {
     list.push_back({{"file", found.file},
-                    {"line", found.line},
-                    {"column", found.column},
+                    {"line", found.place.line},
+                    {"column", found.place.column},
                     {"severity", severity},
                     {"rule", info(found.rule).id},
                     {"message", found.message},

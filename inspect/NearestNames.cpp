@@ -1,59 +1,56 @@
 #include "inspect/NearestNames.hpp"
 
 #include <algorithm>
-#include <cctype>
-#include <numeric>
+#include <array>
 
 namespace zeb {
 
 namespace {
 
-// Longer names are no slip of the finger, and the distance takes time in the square of the length.
-constexpr std::size_t kLongestName = 100;
+constexpr std::size_t kLongestName = 64;  // longer names are no slip of the finger
 
-std::string lower(std::string_view text) {
-  std::string result(text);
-  std::transform(result.begin(), result.end(), result.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return result;
-}
+char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; }
 
-// Insertions, deletions, substitutions and swaps of neighbours that turn one text into the other.
-std::size_t distance(const std::string& a, const std::string& b) {
-  std::vector<std::size_t> beforeLast, last(b.size() + 1), row(b.size() + 1);
-  std::iota(last.begin(), last.end(), std::size_t{0});
+// Edits from one to the other, letters compared without case; a difference in case alone weighs nothing. Only as far as
+// the limit: what is farther apart gives one more. The lengths differ by the limit at most.
+std::size_t distance(std::string_view a, std::string_view b, std::size_t limit) {
+  std::array<std::size_t, 2 * kLongestName> row;
+  for (std::size_t j = 0; j <= b.size(); ++j) row[j] = j;
   for (std::size_t i = 1; i <= a.size(); ++i) {
-    row[0] = i;
-    for (std::size_t j = 1; j <= b.size(); ++j) {
-      const std::size_t cost = a[i - 1] == b[j - 1] ? 0 : 1;
-      row[j] = std::min({row[j - 1] + 1, last[j] + 1, last[j - 1] + cost});
-      const bool swapped = i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1];
-      if (swapped) row[j] = std::min(row[j], beforeLast[j - 2] + 1);
+    // Farther from the diagonal than the limit there is nothing to be found.
+    const std::size_t first = i > limit ? i - limit : 1, last = std::min(b.size(), i + limit);
+    std::size_t diagonal = row[first - 1];
+    row[first - 1] = first == 1 ? i : limit + 1;
+    std::size_t best = row[first - 1];
+    for (std::size_t j = first; j <= last; ++j) {
+      const std::size_t changed = diagonal + (lower(a[i - 1]) == lower(b[j - 1]) ? 0 : 1);
+      diagonal = row[j];
+      row[j] = std::min({changed, row[j] + 1, row[j - 1] + 1});
+      best = std::min(best, row[j]);
     }
-    beforeLast = last;
-    last = row;
+    if (best > limit) return limit + 1;
   }
-  return last[b.size()];
+  return row[b.size()];
 }
+
+std::size_t limitFor(std::string_view name) { return name.size() <= 3 ? 1 : std::max<std::size_t>(2, name.size() / 4); }
 
 }  // namespace
 
-std::vector<std::string> nearestOf(std::string_view name, const std::vector<std::string>& candidates,
-                                   std::size_t most) {
-  if (name.size() > kLongestName) return {};
-  const std::string wanted = lower(name);
-  const std::size_t farthest = std::max<std::size_t>(2, name.size() / 3);
-  std::vector<std::pair<std::size_t, std::string>> ranked;
-  for (const std::string& candidate : candidates) {
-    const std::size_t steps = distance(wanted, lower(candidate));
-    // Where every letter would have to change there is no likeness left.
-    if (steps <= farthest && steps < candidate.size()) ranked.emplace_back(steps, candidate);
+std::vector<std::string_view> nearestOf(std::string_view name, const std::vector<std::string_view>& candidates,
+                                        std::size_t most) {
+  std::vector<std::pair<std::size_t, std::string_view>> ranked;
+  if (name.empty() || name.size() > kLongestName) return {};
+  const std::size_t limit = limitFor(name);
+  for (const std::string_view candidate : candidates) {
+    if (candidate.size() > name.size() + limit || name.size() > candidate.size() + limit) continue;
+    const std::size_t edits = distance(name, candidate, limit);
+    if (edits <= limit) ranked.emplace_back(edits, candidate);
   }
-  std::sort(ranked.begin(), ranked.end());
-  ranked.erase(std::unique(ranked.begin(), ranked.end()), ranked.end());
-  std::vector<std::string> names;
-  for (const auto& [steps, candidate] : ranked) {
-    if (names.size() < most) names.push_back(candidate);
+  std::stable_sort(ranked.begin(), ranked.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+  std::vector<std::string_view> names;
+  for (std::size_t i = 0; i < ranked.size() && i < most; ++i) {
+    if (std::find(names.begin(), names.end(), ranked[i].second) == names.end()) names.push_back(ranked[i].second);
   }
   return names;
 }

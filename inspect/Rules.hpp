@@ -26,6 +26,8 @@ enum class CheckRule {
   kTextAfterValue,
   kIntFraction,
   kOutOfRange,
+  kNotFinite,
+  kValueReplaced,
   kCountRefused,
   kPointBeyondCount,
   kKeyRepeated,

@@ -1,162 +1,125 @@
-// Every rule with the smallest file that triggers it, its line, and a file like it that does not.
+// Every rule with the smallest file that triggers it, its place and message, and a file like it that does not.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <set>
+#include <sstream>
 
-#include "inspect/Check.hpp"
-#include "tests/support/TemporaryFile.hpp"
+#include "inspect/RulesManual.hpp"
+#include "tests/check/CheckSupport.hpp"
 
 namespace {
 
-struct RuleCase {
-  const char* rule;
-  std::string bad;
-  int line;
-  std::string good;
+using zebtest::Checking;
+using zebtest::findingsOf;
+using zebtest::idOf;
+using zebtest::told;
+
+// --- The examples of the manual -----------------------------------------------------------------------------------
+
+class RuleExamples : public testing::TestWithParam<zeb::RuleExample> {
+ protected:
+  RuleExamples() {
+    m_folder = std::filesystem::temp_directory_path() / ("zeb-rules-" + std::to_string(getpid()));
+    std::filesystem::create_directory(m_folder);
+  }
+  ~RuleExamples() override { std::filesystem::remove_all(m_folder); }
+
+  std::vector<zeb::Diagnostic> findings(std::string_view name, const std::string& content,
+                                        const std::string& companion) {
+    const zeb::RuleExample& example = GetParam();
+    Checking checking;
+    checking.kind = example.kind;
+    checking.options.molding = example.molding;
+    checking.options.viscoelastic = example.isViscoelastic();
+    if (!zeb::info(example.rule).byDefault) checking.enabled.emplace_back(zeb::info(example.rule).id);
+    std::ofstream(m_folder / name, std::ios::binary) << content;
+    std::ofstream(m_folder / "part.vecmp", std::ios::binary) << companion;
+    return findingsOf((m_folder / name).string(), checking);
+  }
+
+ private:
+  std::filesystem::path m_folder;
 };
 
-std::string in(const std::string& section, const std::string& lines) {
-  return "[" + section + "]\n" + lines + "[/" + section + "]\n";
+TEST_P(RuleExamples, FindsTheBadFileAndLeavesTheGoodOneAlone) {
+  const zeb::RuleExample& example = GetParam();
+  const auto bad = findings(example.badName, example.bad, example.badCompanion);
+  const auto isTheOne = [&](const zeb::Diagnostic& finding) {
+    return finding.rule == example.rule && finding.place.line == example.line &&
+           finding.place.column == example.column && finding.message == example.message;
+  };
+  EXPECT_EQ(std::count_if(bad.begin(), bad.end(), isTheOne), 1) << "found instead:\n" << told(bad);
+  EXPECT_EQ(told(findings("part.cmp", example.good, example.goodCompanion)), "");
 }
 
-std::vector<zeb::Diagnostic> findingsOf(const std::string& fileName) {
-  zeb::DiagnosticList found;
-  found.startFile(fileName);
-  zeb::checkFile(fileName, zeb::AnalysisOptions{}, found);
-  found.sort();
-  return found.all();
+std::string nameOf(const zeb::RuleExample& example) {
+  std::string name(zeb::info(example.rule).id);
+  std::replace(name.begin(), name.end(), '-', '_');
+  return name;
 }
 
-std::vector<zeb::Diagnostic> findingsIn(const std::string& content) {
-  const zebtest::TemporaryFile file(content);
-  return findingsOf(file.path());
-}
+}  // namespace
 
-std::string told(const std::vector<zeb::Diagnostic>& findings) {
-  std::string text;
-  for (const zeb::Diagnostic& finding : findings) {
-    text +=
-        std::to_string(finding.line) + ": " + finding.message + " [" + std::string(zeb::info(finding.rule).id) + "]\n";
+// So that a failure shows the rule, not the bytes of its example.
+namespace zeb {
+void PrintTo(const RuleExample& example, std::ostream* out) { *out << info(example.rule).id; }
+}  // namespace zeb
+
+namespace {
+
+INSTANTIATE_TEST_SUITE_P(Rules, RuleExamples, testing::ValuesIn(zeb::ruleExamples().begin(), zeb::ruleExamples().end()),
+                         [](const auto& example) { return nameOf(example.param); });
+
+TEST(Rules, EachHasOneExample) {
+  const auto rules = zeb::checkRules();
+  const auto examples = zeb::ruleExamples();
+  ASSERT_EQ(examples.size(), rules.size());
+  std::set<std::string_view> ids;
+  for (std::size_t i = 0; i < rules.size(); ++i) {
+    EXPECT_EQ(examples[i].rule, rules[i].rule) << rules[i].id;
+    EXPECT_TRUE(ids.insert(rules[i].id).second) << rules[i].id;
+    EXPECT_EQ(zeb::ruleNamed(rules[i].id), rules[i].rule);
+    EXPECT_FALSE(rules[i].about.empty() || rules[i].hint.empty() || examples[i].text.empty()) << rules[i].id;
   }
-  return text;
 }
 
-class CheckRules : public testing::TestWithParam<RuleCase> {};
-
-TEST_P(CheckRules, FindsTheSmallestBadFileAndLeavesTheGoodOneAlone) {
-  const RuleCase& c = GetParam();
-  const auto bad = findingsIn(c.bad), good = findingsIn(c.good);
-  bool found = false;
-  for (const auto& finding : bad) found |= zeb::info(finding.rule).id == c.rule && finding.line == c.line;
-  EXPECT_TRUE(found) << "found instead:\n" << told(bad);
-  EXPECT_EQ(told(good), "");
+TEST(Rules, ManualInTheRepositoryIsCurrent) {
+  std::ifstream file(ZEB_EXAMPLES_DIR "/../docs/rules.md");
+  ASSERT_TRUE(file) << "docs/rules.md is missing";
+  std::ostringstream text;
+  text << file.rdbuf();
+  EXPECT_TRUE(text.str() == zeb::rulesMarkdown()) << "docs/rules.md is stale: ./compparm check --rules > docs/rules.md";
 }
 
-const std::string kHead =
-    "2 2 2 2 2 2\n1 1 1 10\n1\n20 10 2 2 1 1\n100000 50 0.0005 0\n0.01\n0.8 0.8 0.8 1 0 0.8\n5 5 5 100 10 5\n"
-    "0.1 0.1 0.1 0.1 0.0001 0.001\n0.7 0.7 0.7 0.6 1 0.9\nx\n0\nx\n1 1\nx\n14 0 0.5\nx\n"
-    "0 1 10000 5 0 -1 -1 0.1 0 200\n2 0 0 0 0 0 0 0 0 10000\n";
-
-INSTANTIATE_TEST_SUITE_P(
-    Rules, CheckRules,
-    testing::Values(
-        RuleCase{"unknown-key", in("Outlet", "IsOutlett0 = 1\nIzOutlet = 1\n"), 3, in("Outlet", "IsOutlet = 1\n")},
-        RuleCase{"inexact-key", in("ShortShot", "TimeLimitt = 2\n"), 2, in("ShortShot", "TimeLimit = 2\n")},
-        RuleCase{"unknown-section", "[outlet]\nIsOutlet = 1\n[/outlet]\n", 1, in("Outlet", "IsOutlet = 1\n")},
-        RuleCase{"key-outside-section", "AirPressure = 1\n", 1, "just a word = 1\n"},
-        RuleCase{"unclosed-section", "[Outlet]\nIsOutlet = 1\n", 1, in("Outlet", "IsOutlet = 1\n")},
-        RuleCase{"wrong-closing-tag", "[FIBER_PLOT_DYNAMIC]\nExtenRate = 1\n[/FIBER_PLOT_DYNAMIC]\n[/PLOT_DYNAMIC]\n",
-                 3, "[FIBER_PLOT_DYNAMIC]\nExtenRate = 1\n[/PLOT_DYNAMIC]\n"},
-        RuleCase{"close-without-open", "[/Outlet]\n", 1, in("Outlet", "IsOutlet = 1\n")},
-        RuleCase{"section-inside-section", "[ShortShot]\n[Outlet]\n[/Outlet]\n[/ShortShot]\n", 2,
-                 "[ShortShot]\n[/ShortShot]\n[Outlet]\n[/Outlet]\n"},
-        RuleCase{"section-repeated", in("Outlet", "") + in("Outlet", ""), 3, in("Outlet", "")},
-        RuleCase{"several-keys", in("General", "FixCompressionFaceCK = 1\n"), 2,
-                 in("General", "FixCompressionFaceCK = 1\nCompressionFaceCK = 40\n")},
-        RuleCase{"comment-sets-key", in("ShortShot", "# TimeLimit = 2\n"), 2, in("ShortShot", "# nothing here\n")},
-        RuleCase{"missing-equals", in("ShortShot", "TimeLimit 2\n"), 2, in("ShortShot", "TimeLimit = 2\n")},
-        RuleCase{"several-equals", in("ShortShot", "TimeLimit = 2 = 3\n"), 2, in("ShortShot", "TimeLimit = 2\n")},
-        RuleCase{"unparsed-value", in("ShortShot", "TimeLimit = two\n"), 2, in("ShortShot", "TimeLimit = 2\n")},
-        RuleCase{"text-after-value", in("General", "nParticleSubDt = 1e5\n"), 2,
-                 in("General", "nParticleSubDt = 100000\n")},
-        RuleCase{"int-fraction", in("General", "TempSubdt = 2.5\n"), 2, in("General", "TempSubdt = 2\n")},
-        RuleCase{"value-out-of-range", in("General", "TempSubdt = 2147483648\n"), 2,
-                 in("General", "TempSubdt = 2147483647\n")},
-        RuleCase{"count-refused", in("MultiGate", "MultipleGateMethod = 1\nNumberofInletGroups = -1\n"), 3,
-                 in("MultiGate", "MultipleGateMethod = 1\nNumberofInletGroups = 0\n")},
-        RuleCase{"key-repeated", in("ShortShot", "TimeLimit = 2\nTimeLimit = 3\n"), 3,
-                 in("ShortShot", "TimeLimit = 2\nFRLimit = 3\n")},
-        RuleCase{"key-gated", in("AutoVPCtrl", "AutoVPMode = 0\nEstCavityPres = 2\n"), 3,
-                 in("AutoVPCtrl", "AutoVPMode = 1\nEstCavityPres = 2\n")},
-        RuleCase{"key-above-gate", in("AutoVPCtrl", "EstCavityPres = 2\nAutoVPMode = 1\n"), 2,
-                 in("AutoVPCtrl", "AutoVPMode = 1\nEstCavityPres = 2\n")},
-        RuleCase{"list-consumed-close", "[MultiGate]\nMultipleGateMethod = 1\nNumberofInletGroups = 1\n[/MultiGate]\n",
-                 4, in("MultiGate", "MultipleGateMethod = 1\nNumberofInletGroups = 1\nWeightings = 1\n")},
-        RuleCase{
-            "weights-sum",
-            in("MultiGate", "MultipleGateMethod = 1\nNumberofInletGroups = 2\nWeightings = 0.3\nWeightings = 0.3\n"), 5,
-            in("MultiGate", "MultipleGateMethod = 1\nNumberofInletGroups = 2\nWeightings = 0.3\nWeightings = 0.7\n")},
-        RuleCase{"positional-too-short", "[VER] 1023\n" + kHead.substr(0, 40), 1, "[VER] 1023\n" + kHead},
-        RuleCase{"positional-version", "[FastCool]\n1016\n", 2, "[VER] 1023\n" + kHead},
-        RuleCase{"line-too-long", "# " + std::string(253, 'x') + "\n", 1, "# " + std::string(252, 'x') + "\n"},
-        RuleCase{"carriage-return", in("ShortShot", "") + "# text\r\n", 3, in("ShortShot", "") + "# text\n"},
-        RuleCase{"nul-byte", std::string("# a\0b\n", 6), 1, "# ab\n"},
-        RuleCase{"trailing-blanks", in("Compression", "FilePathOfLocation = a b  \n"), 2,
-                 in("Compression", "FilePathOfLocation = a b\n")},
-        RuleCase{"tab-before-text", in("Compression", "FilePathOfLocation = \ta\n"), 2,
-                 in("Compression", "FilePathOfLocation = a\n")},
-        RuleCase{"no-final-newline", "[ShortShot]\n[/ShortShot]", 2, "[ShortShot]\n[/ShortShot]\n"},
-        RuleCase{"byte-order-mark", "\xEF\xBB\xBF[ShortShot]\n[/ShortShot]\n", 1, "[ShortShot]\n[/ShortShot]\n"},
-        RuleCase{"not-utf8", "# \xFF\n", 1, "# \xC3\xBC\n"},
-        RuleCase{"version-unknown", "[VER] 1024\n", 1, "[VER] 1023\n" + kHead}),
-    [](const testing::TestParamInfo<RuleCase>& parameter) {
-      std::string name = parameter.param.rule;
-      std::replace(name.begin(), name.end(), '-', '_');
-      return name;
-    });
-
-TEST(CheckRulesForMoldings, TellWhatTheRepairsOverride) {
-  const zebtest::TemporaryFile file(in("ShortShot", "TimeLimit = 2\n"));
-  zeb::AnalysisOptions gasAssisted;
-  gasAssisted.molding = 6;
-  zeb::DiagnosticList found;
-  found.startFile(file.path());
-  zeb::checkFile(file.path(), gasAssisted, found);
-  ASSERT_EQ(found.all().size(), 1u);
-  EXPECT_EQ(zeb::info(found.all()[0].rule).id, "repaired-value");
-  EXPECT_EQ(found.all()[0].line, 2);
-}
-
-TEST(CheckRulesForMoldings, EqualsDefaultSpeaksOnlyWhenAsked) {
-  const zebtest::TemporaryFile file(in("ShortShot", "TimeLimit = 1.1\n"));
-  EXPECT_EQ(told(findingsOf(file.path())), "");
-  zeb::DiagnosticList found;
-  found.enable(*zeb::ruleNamed("equals-default"), true);
-  found.startFile(file.path());
-  zeb::checkFile(file.path(), zeb::AnalysisOptions{}, found);
-  ASSERT_EQ(found.all().size(), 1u);
-}
+// --- The examples of the repository -------------------------------------------------------------------------------
 
 TEST(CheckExamples, AreClean) {
   int files = 0;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(ZEB_EXAMPLES_DIR)) {
     const std::string path = entry.path().string();
-    // One case is broken on purpose, one is for the standard solver, which reads it by other rules.
-    if (entry.path().extension() != ".cmp" || path.find("broken-cover") != path.npos ||
-        path.find("standard-flow") != path.npos)
-      continue;
-    EXPECT_EQ(told(findingsOf(path)), "") << path;
+    const std::string extension = entry.path().extension().string();
+    if ((extension != ".cmp" && extension != ".cmx") || path.find("broken-cover") != path.npos) continue;
+    const bool isStd = path.find("standard-flow") != path.npos;
+    const auto kind = isStd ? zeb::FileKind::kStd : zeb::recogniseKind(path).value();
+    EXPECT_EQ(told(findingsOf(path, {.kind = kind})), "") << path;
     ++files;
   }
-  EXPECT_GE(files, 6);
+  EXPECT_GE(files, 10);
+}
+
+TEST(CheckExamples, CompanionIsClean) {
+  Checking checking;
+  checking.options.viscoelastic = true;
+  EXPECT_EQ(told(findingsOf(std::string(ZEB_EXAMPLES_DIR) + "/thin-wall-cover/thin-wall-cover.cmp", checking)), "");
 }
 
 TEST(CheckExamples, TellTheFaultsOfTheBrokenCoverByLine) {
   std::set<std::pair<int, std::string>> actual;
   for (const auto& finding : findingsOf(std::string(ZEB_EXAMPLES_DIR) + "/broken-cover/broken-cover.cmp")) {
-    actual.emplace(finding.line, std::string(zeb::info(finding.rule).id));
+    actual.emplace(finding.place.line, idOf(finding));
   }
   const std::set<std::pair<int, std::string>> expected = {
       {6, "unknown-key"},          {7, "text-after-value"},       {8, "int-fraction"},    {9, "comment-sets-key"},

@@ -96,7 +96,7 @@ TEST(Catalogue, SuggestsTheNearestNames) {
 }
 
 TEST(Catalogue, SuggestsNothingForANameWithoutLikeness) {
-  EXPECT_EQ(zeb::nearestOf("shwo", {"show", "schedule", "list"}), std::vector<std::string>{"show"});
+  EXPECT_EQ(zeb::nearestOf("shwo", {"show", "schedule", "list"}), std::vector<std::string_view>{"show"});
   EXPECT_EQ(zeb::nearestOf("rtm", {"IM", "RTM", "BIIM"}).front(), "RTM");
   EXPECT_TRUE(zeb::nearestOf("xy", {"IM", "RTM"}).empty());
   EXPECT_TRUE(zeb::nearestOf(std::string(100'000, 'x'), {"show"}).empty());

@@ -75,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"MisspeltOption", {"show", "FILE", "--chnged"}, "show has no option --chnged; did you mean --changed?"},
         Refusal{"MisspeltOptionWithValue", {"diff", "FILE", "FILE", "--tolerence=1"}, "did you mean --tolerance?"},
         Refusal{"MisspeltOptionWithoutFile", {"explain", "--viscoelastc"}, "did you mean --viscoelastic?"},
-        Refusal{"MisspeltMolding", {"diff", "FILE", "--against-molding", "RTN"}, "did you mean RTM or RIM?"},
+        Refusal{"MisspeltMolding", {"diff", "FILE", "--against-molding", "RTN"}, "did you mean RTM?"},
         Refusal{"MisspeltBlock", {"show", "FILE", "--block", "Outlt"}, "did you mean Outlet?"},
         Refusal{"MisspeltSection", {"template", "--sections", "StableFlg"}, "did you mean StableFlag?"},
         Refusal{"MisspeltKey", {"explain", "FILE", "AirPresure"}, "did you mean AirPressure"},

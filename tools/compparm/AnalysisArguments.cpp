@@ -64,7 +64,7 @@ void AnalysisArguments::addKindTo(CLI::App& command) {
   command
       .add_option_function<std::string>(
           "--as", [this](const std::string& name) { as = zeb::kindNamed(name); },
-          "Read the file as cmp, cmx or std (what the standard solver sees of a CMP file); default: what its first "
+          "Read it as cmp, cmx or std (what the standard solver sees of a CMP file); default: what the file's first "
           "block tag or section says")
       ->check(CLI::IsMember(zeb::kindNames()))
       ->type_name("KIND");

@@ -1,9 +1,11 @@
 // compparm check: says what the formats forgive silently, before a job is queued.
 #include <iostream>
 #include <memory>
+#include <optional>
 
 #include "inspect/Check.hpp"
 #include "inspect/DiagnosticOutput.hpp"
+#include "inspect/RulesManual.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/Terminal.hpp"
@@ -17,6 +19,7 @@ struct CheckArguments {
   std::vector<std::string> files, enabled, disabled;
   std::string format = "text";
   bool errors = false;
+  bool manual = false;
 };
 
 void printText(zeb::DiagnosticList& found, const std::string& severity) {
@@ -41,17 +44,27 @@ void print(const CheckArguments& arguments, zeb::DiagnosticList& found) {
 }
 
 int run(const CheckArguments& arguments) {
+  if (arguments.manual) {
+    std::cout << zeb::rulesMarkdown();
+    return kClean;
+  }
+  if (arguments.files.empty()) return fail("FILE is required");
+  if (arguments.analysis.as.value_or(zeb::FileKind::kCmp) != zeb::FileKind::kCmp &&
+      arguments.analysis.options != zeb::AnalysisOptions()) {
+    return fail("--molding, --material, --wax, --viscoelastic and --no-repair have a meaning for CMP files only");
+  }
   zeb::DiagnosticList found;
   for (const std::string& id : arguments.enabled) found.enable(*zeb::ruleNamed(id), true);
   for (const std::string& id : arguments.disabled) found.enable(*zeb::ruleNamed(id), false);
   int exitCode = kClean;
   for (const std::string& file : arguments.files) {
     const std::string reason = zeb::whyUnreadable(file);
-    if (reason.empty()) {
-      zeb::checkFile(file, arguments.analysis.options, found);
-    } else {
-      exitCode = fail(file + ": " + reason);
+    if (!reason.empty()) {
+      exitCode = fail(std::string(file).append(": ").append(reason));
+      continue;
     }
+    const auto kind = arguments.analysis.as.value_or(zeb::recogniseKind(file).value_or(zeb::FileKind::kCmp));
+    zeb::checkFile(file, kind, arguments.analysis.options, found);
   }
   found.sort();
   print(arguments, found);
@@ -67,7 +80,8 @@ void addCheck(CLI::App& app, int& exitCode) {
   arguments->analysis.addTo(*command);
   // This command takes several files.
   command->remove_option(command->get_option("FILE"));
-  command->add_option("FILE", arguments->files, "The parameter files")->required();
+  command->add_option("FILE", arguments->files, "The parameter files");
+  arguments->analysis.addKindTo(*command);
   std::vector<std::string> ids;
   for (const zeb::RuleInfo& rule : zeb::checkRules()) ids.emplace_back(rule.id);
   const auto addRules = [&](const char* name, std::vector<std::string>& rules, const char* about) {
@@ -81,6 +95,7 @@ void addCheck(CLI::App& app, int& exitCode) {
   command->add_option("--format", arguments->format, "text, json or sarif")
       ->check(CLI::IsMember({"text", "json", "sarif"}))
       ->type_name("FORMAT");
+  command->add_flag("--rules", arguments->manual, "Print the manual of all rules, with examples");
   command->add_flag("--error-on-warning", arguments->errors, "Report findings as errors");
   command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
 }

@@ -88,8 +88,8 @@ std::string examplesText(const std::vector<Example>& examples) {
 }
 
 std::string didYouMean(std::string_view name, const std::vector<std::string>& known) {
-  const std::vector<std::string> near = zeb::nearestOf(name, known);
-  return near.empty() ? "" : "; did you mean " + inWords(near, " or ") + "?";
+  const auto near = zeb::nearestOf(name, {known.begin(), known.end()});
+  return near.empty() ? "" : "; did you mean " + inWords({near.begin(), near.end()}, " or ") + "?";
 }
 
 std::vector<const CLI::App*> commandsOf(const CLI::App& app) {

@@ -1,0 +1,193 @@
+// Lists behind a count, and the lines of positional sections.
+#include <algorithm>
+#include <cmath>
+
+#include "frame/SectionEngine.hpp"
+#include "inspect/CheckObserver.hpp"
+#include "inspect/CheckText.hpp"
+
+namespace zeb {
+
+namespace {
+
+// The one list that goes on to the end of the file, the closing line included.
+bool takesRestOfFile(const Section& section) { return section.name == "PLOT_TRANSIENT_EXTENSION_MATERIAL"; }
+
+// Which lists take their entries by the formatted scan, to which nan, inf and hexadecimal are numbers.
+bool scansEntries(const Section& section) {
+  return section.name == "FILL_OUTPUT_TIMES" || section.name == "PACK_OUTPUT_TIMES" ||
+         section.name == "FILL_ADVANCED_LONGFIBER";
+}
+
+// Which lists hold whole numbers.
+bool listsInts(const Section& section) { return section.name == "RTM"; }
+
+}  // namespace
+
+void CheckObserver::startList(const KeyEvent& event) {
+  endList();
+  m_list = {};
+  m_list.announced = m_line;
+  m_list.place = here(m_text.find(event.key));
+  if (event.row.count || takesRestOfFile(event.section)) {
+    m_list.expected = *static_cast<const int*>(event.row.field.locate(event.block));
+  }
+  m_list.open = true;
+}
+
+void CheckObserver::lineOfList(const Section& section, int /*lineNumber*/, std::string_view line, bool used) {
+  m_judged = true;
+  m_list.takesLines = true;
+  const std::string list = "the list of line " + std::to_string(m_list.announced);
+  const auto close = line.find(section.close);
+  if (close != line.npos && !m_list.closed) {
+    m_list.closed = true;
+    if (takesRestOfFile(section) && m_list.entries >= m_list.expected) return;
+    add(CheckRule::kListConsumedClose, close,
+        list + " takes this closing line as an entry; it has " + std::to_string(m_list.entries) + " of " +
+            std::to_string(m_list.expected) + " entries");
+    m_explained = m_list.complained = true;
+    return;
+  }
+  if (used) return judgeEntry(section, line);
+  if (takesRestOfFile(section) && m_list.entries >= m_list.expected) {
+    if (!trimmed(line).empty() && !isComment(line)) {
+      add(CheckRule::kListTooLong, 0, list + " takes everything to the end of the file: this line is not read");
+    }
+    return;
+  }
+  add(CheckRule::kListTooShort, 0, list + " takes this line, but it is no usable entry");
+  m_list.complained = true;
+}
+
+void CheckObserver::judgeEntry(const Section& section, std::string_view line) {
+  const std::string list = "the list of line " + std::to_string(m_list.announced);
+  if (listsInts(section) && nameOf(line) == "NVentInlet") {
+    int count = 0;
+    extractInt(valueText(line), count);
+    if (count < 0 || count > kLargestCount) {
+      m_list.complained = true;
+      return add(CheckRule::kCountRefused, line.find("NVentInlet"), "the count is outside of 0 to 1000000; 0 is used");
+    }
+    m_list.expected = count;
+    return judgeEntryTail(section, line);
+  }
+  ++m_list.entries;
+  if (isTakenInPlaceOf(section, line)) {
+    m_list.complained = true;
+    return add(CheckRule::kListTooShort, line.find(nameOf(line)),
+               list + " takes this line of " + std::string(nameOf(line)) + " as an entry");
+  }
+  judgeEntryTail(section, line);
+  double weight = 0.0;
+  if (section.name != "MultiGate" || extractDouble(valueText(line), weight) == 0) return;
+  m_list.sum += weight;
+  ++m_list.weights;
+  m_list.lastWeight = here(line.find(valueText(line)));
+}
+
+// Whether the line sets a key of the section in the eyes of whoever wrote it.
+bool CheckObserver::isTakenInPlaceOf(const Section& section, std::string_view line) const {
+  const std::string_view name = nameOf(line);
+  return std::any_of(section.rows.begin(), section.rows.end(), [&](const Row& row) {
+    return row.store == nullptr && !name.empty() && (row.key == name || row.otherKey == name);
+  });
+}
+
+void CheckObserver::judgeEntryTail(const Section& section, std::string_view line) {
+  const std::string_view value = valueText(line);
+  int whole = 0;
+  double real = 0.0;
+  std::size_t used = 0;
+  if (scansEntries(section)) {
+    FieldScanner scanner(value);
+    scanner.next(real);
+    used = value.size() - scanner.rest().size();
+    judgeFinite(line.size() - value.size(), real, trimmed(value.substr(0, used)));
+  } else {
+    used = listsInts(section) ? extractInt(value, whole) : extractDouble(value, real);
+  }
+  const std::string_view rest = trimmed(value.substr(used));
+  if (used == 0 || rest.empty()) return;
+  const bool fraction = listsInts(section) && value.substr(used).starts_with('.');
+  add(fraction ? CheckRule::kIntFraction : CheckRule::kTextAfterValue, line.size() - value.size() + used,
+      "reading stops here: " + std::string(trimmed(value.substr(0, used))) + " is used, " + quoted(rest) +
+          " is ignored");
+}
+
+void CheckObserver::judgeFinite(std::size_t at, double value, std::string_view text) {
+  if (std::isfinite(value)) return;
+  add(CheckRule::kNotFinite, at, quoted(text) + " is read as " + number(value) + " and used");
+}
+
+void CheckObserver::endList() {
+  if (!m_list.open) return;
+  m_list.open = false;
+  if (m_list.complained) return;
+  if (m_list.takesLines && m_list.entries < m_list.expected) {
+    m_found.add(
+        CheckRule::kListTooShort, m_list.place,
+        "the list has " + std::to_string(m_list.entries) + " of " + std::to_string(m_list.expected) + " entries");
+  } else if (m_list.weights > 0 && std::abs(m_list.sum - 1.0) > 1e-6) {
+    m_found.add(CheckRule::kWeightsSum, m_list.lastWeight,
+                "the weights sum to " + number(m_list.sum) + ", not to 1; the last one becomes one minus the others");
+  }
+}
+
+// --- Positional lines ---------------------------------------------------------------------------------------------
+
+void CheckObserver::linePositional(const Section& section, int /*lineNumber*/, int positionalLine, int converted,
+                                   int expected, std::string_view tail) {
+  const bool fileEnded = m_judged;
+  m_judged = true;
+  m_positional = &section;
+  if (positionalLine == section.positional.lines) m_section = nullptr;
+  if (m_positionalShort) return;
+  if (fileEnded || judgeShortPositional(section, positionalLine, expected == 0)) {
+    m_positionalShort = true;
+    if (!fileEnded) return;
+    m_found.add(CheckRule::kPositionalTooShort, m_opening,
+                std::string(section.open.empty() ? "the head" : section.open) + " has only " +
+                    std::to_string(positionalLine - 1) + " of its lines; the file ends");
+    return;
+  }
+  const std::string place =
+      "line " + std::to_string(positionalLine) + " of " + std::string(section.open.empty() ? "the head" : section.open);
+  const std::size_t tailAt = m_text.size() - std::min(tail.size(), m_text.size());
+  const std::string_view rest = trimmed(tail);
+  const std::size_t at = rest.empty() ? m_text.size() : m_text.find(rest, tailAt);
+  if (converted < expected) {
+    add(CheckRule::kPositionalFields, at,
+        place + ": " + std::to_string(converted) + " of " + std::to_string(expected) + " fields can be read" +
+            (rest.empty() ? "" : "; reading stops at " + quoted(rest)));
+  } else if (expected > 0 && !rest.empty()) {
+    add(CheckRule::kPositionalExtra, at,
+        quoted(rest) + " behind the " + std::to_string(expected) + " field" + (expected > 1 ? "s" : "") + " of " +
+            place + " is ignored");
+  }
+}
+
+void CheckObserver::judgeField(const KeyEvent& event, std::size_t at) {
+  const FieldType type = event.row.field.type;
+  if (type == FieldType::kDouble) {
+    judgeFinite(at, *static_cast<const double*>(event.row.field.locate(event.block)), trimmed(event.value));
+  }
+  FieldScanner scanner(event.value);
+  double typed = 0.0;
+  const bool isNumber = type == FieldType::kDouble || type == FieldType::kInt;
+  if (isNumber && scanner.next(typed)) judgeReplaced(event.section, event.row, event.block, typed, at);
+}
+
+// A tag among the lines: they are too few, and the section of the tag is lost with them. Lines without fields may hold
+// any text, a bracketed word as well.
+bool CheckObserver::judgeShortPositional(const Section& section, int positionalLine, bool isFree) {
+  const Tag tag = tagOf(m_text, m_names->bracket());
+  if (!tag || (isFree && m_names->sectionNamed(tag.name) == nullptr)) return false;
+  if (!tag.closes) m_unknownSection = tag.name;
+  add(CheckRule::kPositionalTooShort, m_text.find(tag.text),
+      std::string(section.open.empty() ? "the head" : section.open) + " has only " +
+          std::to_string(positionalLine - 1) + " of its lines; this line is taken as its next one");
+  return true;
+}
+
+}  // namespace zeb

@@ -1,0 +1,22 @@
+// How the checker's messages show texts and numbers.
+#pragma once
+
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+namespace zeb {
+
+/// In single quotation marks, the end of a long text left out.
+inline std::string quoted(std::string_view text) {
+  constexpr std::size_t kLongest = 60;
+  return "'" + std::string(text.substr(0, kLongest)) + (text.size() > kLongest ? "..." : "") + "'";
+}
+
+inline std::string number(double value) {
+  char text[40];
+  std::snprintf(text, sizeof text, "%.10g", value);
+  return text;
+}
+
+}  // namespace zeb
