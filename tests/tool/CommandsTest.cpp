@@ -65,6 +65,15 @@ TEST_P(Refused, EndsWithAMessage) {
 // So that a failure shows the case's name, not its bytes.
 void PrintTo(const Refusal& refusal, std::ostream* out) { *out << refusal.name; }
 
+TEST(RanksOption, IsRefusedWhereMpirunHasStartedRanks) {
+  const TemporaryFile file(kOutlet);
+  ASSERT_EQ(setenv("OMPI_COMM_WORLD_SIZE", "2", 1), 0);
+  const ToolRun run = runTool({"show", file.path(), "--ranks", "8"});
+  unsetenv("OMPI_COMM_WORLD_SIZE");
+  EXPECT_EQ(run.exitCode, 2);
+  EXPECT_THAT(run.err, HasSubstr("--ranks: mpirun has started ranks of its own"));
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Tool, Refused,
     testing::Values(

@@ -260,9 +260,7 @@ void addMaterial(CLI::App& app, int& exitCode) {
       ->expected(1)
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
       ->type_name("DIR");
-  command->add_option("--ranks", arguments->ranks, "Distribute it to N in-process ranks and compare their copies")
-      ->check(CLI::Range(1, 512))
-      ->type_name("N");
+  addRanks(*command, arguments->ranks, "Distribute it to N in-process ranks and compare their copies");
   command
       ->add_option_function<std::string>(
           "--format", [arguments](const std::string& format) { arguments->json = format == "json"; }, "text or json")

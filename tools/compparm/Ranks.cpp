@@ -45,6 +45,16 @@ Function* symbol(void* library, const char* name) {
 
 }  // namespace
 
+void addRanks(CLI::App& command, int& ranks, const char* about) {
+  const auto isFree = [](const std::string&) {
+    return MpiRun::isPresent() ? "mpirun has started ranks of its own: leave the option out" : "";
+  };
+  command.add_option("--ranks", ranks, about)
+      ->check(CLI::Range(1, 512).description("1 to 512"))
+      ->check(isFree)
+      ->type_name("N");
+}
+
 RankComparison compareThreads(int ranks, const RankTask& task) {
   std::vector<std::string> values(static_cast<std::size_t>(ranks));
   zeb::ThreadTeam team(ranks);

@@ -1,6 +1,7 @@
 // The same analysis on several ranks, compared value by value.
 #pragma once
 
+#include <CLI/CLI.hpp>
 #include <functional>
 #include <string>
 
@@ -17,6 +18,9 @@ struct RankComparison {
 
   bool same() const { return difference.empty(); }
 };
+
+/// Adds --ranks, the number of in-process ranks. Under mpirun, which brings its own, it is an error.
+void addRanks(CLI::App& command, int& ranks, const char* about);
 
 /// Runs the task on `ranks` in-process ranks, rank 0 on the calling thread.
 RankComparison compareThreads(int ranks, const RankTask& task);

@@ -277,9 +277,7 @@ void addShow(CLI::App& app, int& exitCode) {
                    "Only these blocks: block, class or section names (General, FIBER_ARD, SOLID_FILL)")
       ->type_name("BLOCK");
   command->add_flag("--changed", arguments->changedOnly, "Only members that differ from their default");
-  command->add_option("--ranks", arguments->ranks, "Read on N in-process ranks and compare them value by value")
-      ->check(CLI::Range(1, 512).description("1 to 512"))
-      ->type_name("N");
+  addRanks(*command, arguments->ranks, "Read on N in-process ranks and compare them value by value");
   auto* raw = command->add_flag("--raw", arguments->raw, "The library's own dump of a CMP file, byte for byte");
   addFormat(*command, arguments->format, {"text", "json"});
   command->get_option("--format")->excludes(raw);

@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "tools/compparm/Ranks.hpp"
+
 namespace compparm {
 
 namespace {
@@ -13,7 +15,9 @@ namespace {
 bool wantsColour() {
   static const bool kWanted = [] {
     const char* noColour = std::getenv("NO_COLOR");
-    return (noColour == nullptr || *noColour == '\0') && isatty(STDOUT_FILENO) == 1;
+    // mpirun gives its ranks a terminal of its own, wherever their output goes in the end.
+    const bool isTerminal = isatty(STDOUT_FILENO) == 1 && !MpiRun::isPresent();
+    return isTerminal && (noColour == nullptr || *noColour == '\0');
   }();
   return kWanted;
 }
