@@ -15,5 +15,6 @@ set(zebMpiEnvironment
 if(ZEB_SANITIZE)
   # Open MPI replaces allocation functions, which the sanitizer does too, and keeps memory to the end of the process in
   # modules that it has unloaded by then, so that it cannot be told from ours: leaks are looked for in the other tests.
-  list(APPEND zebMpiEnvironment OMPI_MCA_memory=^patcher ASAN_OPTIONS=detect_leaks=0)
+  # detect_odr_violation as in tests/CMakeLists.txt.
+  list(APPEND zebMpiEnvironment OMPI_MCA_memory=^patcher ASAN_OPTIONS=detect_leaks=0:detect_odr_violation=1)
 endif()

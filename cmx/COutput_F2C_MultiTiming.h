@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-/// Merges a default grid of output moments with the moments of the CMX file's <FILL_OUTPUT_TIMES> block.
+/// Merges a default grid of output moments with the moments of the CMX file's `<FILL_OUTPUT_TIMES>` block.
 ///
 /// Order of calls: SetDebugMode() if wanted, Input_Step1() once, Input_Step2() for each CMX moment, Output_Step1(),
 /// then Output_Step2() for 1 to the count it gave. All results are status codes, 0 is success; nothing is thrown. In

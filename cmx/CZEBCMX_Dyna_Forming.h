@@ -3,7 +3,7 @@
 
 #include "frame/BlockAccess.h"
 
-/// Forming of fiber mats, from the block <Dyna_Forming>. Plain values; assignment copies them.
+/// Forming of fiber mats, from the block `<Dyna_Forming>`. Plain values; assignment copies them.
 class CZEBCMX_Dyna_Forming {
  public:
   CZEBCMX_Dyna_Forming();

@@ -3,7 +3,7 @@
 
 #include "frame/BlockAccess.h"
 
-/// Orientation, breakage and concentration of (long) fibers, from the block <FILL_ADVANCED_LONGFIBER>. The key
+/// Orientation, breakage and concentration of (long) fibers, from the block `<FILL_ADVANCED_LONGFIBER>`. The key
 /// DiffusionModelType is followed at once by the lines of its model's coefficients, "name = value" each with blanks
 /// around the '=': five for model 2, two for model 1, one for model 0, none for any other. Their order counts, not
 /// their names. Plain values; assignment copies them.

@@ -3,7 +3,7 @@
 
 #include "frame/BlockAccess.h"
 
-/// Bubble growth of microcellular injection molding, from the block <FILL_ADVANCED_MCIM>. Plain values; assignment
+/// Bubble growth of microcellular injection molding, from the block `<FILL_ADVANCED_MCIM>`. Plain values; assignment
 /// copies them.
 class CZEBCMX_FILL_ADVANCED_MCIM {
  public:

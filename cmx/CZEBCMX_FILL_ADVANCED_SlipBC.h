@@ -3,7 +3,7 @@
 
 #include "frame/BlockAccess.h"
 
-/// Slip of the melt at the wall, from the block <FILL_ADVANCED_SlipBC>. A line that sets FlagSlipBCDebug sets
+/// Slip of the melt at the wall, from the block `<FILL_ADVANCED_SlipBC>`. A line that sets FlagSlipBCDebug sets
 /// FlagSlipBC as well, since the longer key holds the shorter one. Plain values; assignment copies them.
 class CZEBCMX_FILL_ADVANCED_SlipBC {
  public:

@@ -4,7 +4,7 @@
 #include "frame/BlockAccess.h"
 #include "frame/SharedArray.h"
 
-/// Output moments of packing, from the block <PACK_OUTPUT_TIMES>. The key ValueNoPackOutputTime is followed at once by
+/// Output moments of packing, from the block `<PACK_OUTPUT_TIMES>`. The key ValueNoPackOutputTime is followed at once by
 /// its number of lines "id = moment", blanks around the '='; their order counts, not their IDs. Assignment shares the
 /// moments.
 class CZEBCMX_PACK_OUTPUT_TIMES {

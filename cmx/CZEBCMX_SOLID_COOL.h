@@ -3,7 +3,7 @@
 
 #include "frame/BlockAccess.h"
 
-/// Choice of the cooling solver, from the block <SOLID_COOL>. A plain value; assignment copies it.
+/// Choice of the cooling solver, from the block `<SOLID_COOL>`. A plain value; assignment copies it.
 class CZEBCMX_SOLID_COOL {
  public:
   CZEBCMX_SOLID_COOL();

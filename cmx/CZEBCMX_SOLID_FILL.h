@@ -4,7 +4,7 @@
 #include "frame/BlockAccess.h"
 #include "frame/SharedArray.h"
 
-/// Settings of the solid (3-D) filling analysis, from the block <SOLID_FILL>. Gravity has two accepted spellings of
+/// Settings of the solid (3-D) filling analysis, from the block `<SOLID_FILL>`. Gravity has two accepted spellings of
 /// its keys, ValueGravyX and ValueGravityX (also for Y and Z). Assignment shares the text.
 class CZEBCMX_SOLID_FILL {
  public:

@@ -3,7 +3,7 @@
 
 #include "frame/BlockAccess.h"
 
-/// Extended packing calculation, from the block <SOLID_PACK>. Plain values; assignment copies them.
+/// Extended packing calculation, from the block `<SOLID_PACK>`. Plain values; assignment copies them.
 class CZEBCMX_SOLID_PACK {
  public:
   CZEBCMX_SOLID_PACK();

@@ -3,7 +3,7 @@
 
 #include "frame/BlockAccess.h"
 
-/// Viscoelastic analysis, from the block <SOLID_VE>. A plain value; assignment copies it.
+/// Viscoelastic analysis, from the block `<SOLID_VE>`. A plain value; assignment copies it.
 class CZEBCMX_SOLID_VE {
  public:
   CZEBCMX_SOLID_VE();

@@ -3,7 +3,7 @@
 
 #include "frame/BlockAccess.h"
 
-/// Settings of the task manager, from the block <TASKMANAGER>. A plain value; assignment copies it.
+/// Settings of the task manager, from the block `<TASKMANAGER>`. A plain value; assignment copies it.
 class CZEBCMX_TASKMANAGER {
  public:
   CZEBCMX_TASKMANAGER();
