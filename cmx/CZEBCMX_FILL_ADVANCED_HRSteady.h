@@ -4,8 +4,8 @@
 #include "frame/BlockAccess.h"
 #include "frame/SharedArray.h"
 
-/// Steady hot runner analysis, from the block `<FILL_ADVANCED_HRSteady>`. The key ValueHRGateType is followed at once by
-/// one line "name = value" for each gate, when ValueNoHRGate stood above it. A line that sets ValueFlowRateDiffRatio
+/// Steady hot runner analysis, from the block `<FILL_ADVANCED_HRSteady>`. The key ValueHRGateType is followed at once
+/// by one line "name = value" for each gate, when ValueNoHRGate stood above it. A line that sets ValueFlowRateDiffRatio
 /// sets the flow rate as well, since the longer key holds the shorter one. Assignment shares the gates' values.
 class CZEBCMX_FILL_ADVANCED_HRSteady {
  public:

@@ -4,9 +4,9 @@
 #include "frame/BlockAccess.h"
 #include "frame/SharedArray.h"
 
-/// Output moments of packing, from the block `<PACK_OUTPUT_TIMES>`. The key ValueNoPackOutputTime is followed at once by
-/// its number of lines "id = moment", blanks around the '='; their order counts, not their IDs. Assignment shares the
-/// moments.
+/// Output moments of packing, from the block `<PACK_OUTPUT_TIMES>`. The key ValueNoPackOutputTime is followed at once
+/// by its number of lines "id = moment", blanks around the '='; their order counts, not their IDs. Assignment shares
+/// the moments.
 class CZEBCMX_PACK_OUTPUT_TIMES {
  public:
   CZEBCMX_PACK_OUTPUT_TIMES();
