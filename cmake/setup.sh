@@ -22,7 +22,8 @@ zeb_install() {
     return 0 # not Debian: CMake says what it misses
   fi
   for package in "$@"; do
-    if [[ $(dpkg-query -W -f='${db:Status-Status} ' "$package" 2>/dev/null) != *"installed "* ]]; then
+    # A package that others mention is known as "not-installed".
+    if [[ " $(dpkg-query -W -f='${db:Status-Status} ' "$package" 2>/dev/null)" != *" installed "* ]]; then
       missing+=("$package")
     fi
   done
