@@ -199,7 +199,7 @@ void CheckObserver::judgeValue(const Hit& hit) {
                  quoted(value) + " is no " + type + (outOfRange ? " in range" : "") + keeps);
     }
     case KeyOutcome::kRefused:
-      return add(CheckRule::kCountRefused, valueAt, "the count is outside of 0 to 1000000; 0 is used");
+      return add(CheckRule::kCountRefused, valueAt, countRefused());
     case KeyOutcome::kNotStored:
       if (losesNothing(hit)) return;
       return add(CheckRule::kPointBeyondCount, m_text.find(hit.key),

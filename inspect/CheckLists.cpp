@@ -67,7 +67,7 @@ void CheckObserver::judgeEntry(const Section& section, std::string_view line) {
     extractInt(valueText(line), count);
     if (count < 0 || count > kLargestCount) {
       m_list.complained = true;
-      return add(CheckRule::kCountRefused, line.find("NVentInlet"), "the count is outside of 0 to 1000000; 0 is used");
+      return add(CheckRule::kCountRefused, line.find("NVentInlet"), countRefused());
     }
     m_list.expected = count;
     return judgeEntryTail(section, line);

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "frame/ParameterTable.hpp"
+
 namespace zeb {
 
 /// In single quotation marks, the end of a long text left out.
@@ -17,6 +19,11 @@ inline std::string number(double value) {
   char text[40];
   std::snprintf(text, sizeof text, "%.10g", value);
   return text;
+}
+
+/// What becomes of a count that the reader refuses.
+inline std::string countRefused() {
+  return "the count is outside of 0 to " + std::to_string(kLargestCount) + "; 0 is used";
 }
 
 }  // namespace zeb
