@@ -114,6 +114,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPMultiGateParm>() {
        .doc = "Limit of the variation of SP. Meaning defined by the solver."},
       {.field = field<&T::m_iNumberofInletGroups, &T::iNumberofInletGroups>(),
        .key = "NumberofInletGroups", .count = true, .list = kReadWeightings, .fills = "m_pdInletWeightings",
+       .lines = {.entryName = kWeightKey, .sumsToOne = true},
        .label = "m_iNumberofInletGroups\t\t\t\t= ",
        .doc = "Number of inlet groups (0 to 1000000); as many lines with their weights follow."},
       {.field = field<&T::m_pdInletWeightings, &T::pdInletWeightings>(),

@@ -8,6 +8,10 @@
 
 namespace {
 
+// The lines of the vent inlets: their count, then one for each.
+constexpr std::string_view kVentCountKey = "NVentInlet";
+constexpr std::string_view kVentKey = "VentInletID";
+
 bool readInt(const std::string& line, std::string_view key, int& value) {
   return line.find(key) != line.npos && zeb::extractInt(zeb::valueText(line), value) > 0;
 }
@@ -99,7 +103,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRTMParm>() {
     const auto takeLine = [&] { return nextLineOfList(context, line) && !isClosedBy(context.section, line); };
     if (!takeLine()) return ListResult::kSectionEnded;
     int count = 0;
-    const bool counted = readInt(line, "NVentInlet", count);
+    const bool counted = readInt(line, kVentCountKey, count);
     const bool valid = count >= 0 && count <= kLargestCount;
     if (counted) {
       block.m_iNVentInlet = valid ? count : 0;  // with a refused one, the list that an earlier line filled is gone
@@ -108,13 +112,13 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRTMParm>() {
     reportLineOfList(context, line, counted);
     if (!counted) return ListResult::kNextLine;
     if (!valid) {
-      refuseCount(context, "NVentInlet", count);
+      refuseCount(context, kVentCountKey, count);
       return ListResult::kNextLine;
     }
     int* const numbers = block.m_piVentInletID.allocate(static_cast<std::size_t>(count) + 1);
     for (int i = 1; i <= count; ++i) {
       if (!takeLine()) return ListResult::kSectionEnded;
-      reportLineOfList(context, line, readInt(line, "VentInletID", numbers[i]));
+      reportLineOfList(context, line, readInt(line, kVentKey, numbers[i]));
     }
     return ListResult::kNextLine;
   };
@@ -253,6 +257,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRTMParm>() {
        .doc = "Output of the erroneous mesh. Meaning defined by the solver."},
       {.field = field<&T::m_iIsVentInlet, &T::iIsVentInlet>(), .key = "IsVentInlet", .list = kReadVentInlets,
        .fills = "m_iNVentInlet m_piVentInletID",
+       .lines = {.countName = kVentCountKey, .entryName = kVentKey, .number = ListLines::Number::kInt},
        .doc = "List of vent inlets; 1 announces it on the next lines."},
       {.field = field<&T::m_iNVentInlet, &T::iNVentInlet>(),
        .doc = "Number of vent inlets (0 to 1000000), from the key NVentInlet on the line after IsVentInlet."},

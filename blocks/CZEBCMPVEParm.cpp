@@ -295,6 +295,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPVEParm>() {
        .key = "FlagIsPlotElongVis_Transient", .doc = "Flag: the transient elongational viscosity is plotted if 1."},
       {.field = field<&T::m_nTransient_InputStrainRate, &T::getMatFunPlotParam_Transient_NSetofInput_StrainRate>(),
        .key = "TotalSetofInputSRate", .list = kReadStrainRates, .fills = "m_dTransient_InputStrainRate",
+       .lines = {.toEndOfFile = true},
        .doc = "Number of input strain rates; above 0 it announces them, negative: none."},
       {.field = field<&T::m_dTransient_InputStrainRate, &T::getMatFunPlotParam_Transient_InputStrainRate>(),
        .key = kStrainRateKey, .store = kNoElement, .doc = "Input strain rates, one a line, to the end of the file."},

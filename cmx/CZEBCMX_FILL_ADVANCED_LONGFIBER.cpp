@@ -79,6 +79,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_LONGFIBER>() {
       {.field = field<&T::m_iDiffusionModelType, &T::iDiffusionModelType>(), .key = "DiffusionModelType",
        .list = kReadCoefficients,
        .fills = "m_dARD_b1 m_dARD_b2 m_dARD_b3 m_dARD_b4 m_dARD_b5 m_dARD_Cf m_dARD_Cm m_dFiber_CI",
+       .lines = {.number = ListLines::Number::kScanned},
        .doc = "Fiber diffusion model, 0, 1 or 2; the lines of its coefficients follow."},
       {.field = field<&T::m_dARD_b1, &T::dARD_b1>(), .doc = "Coefficient b1 of fiber diffusion model 2."},
       {.field = field<&T::m_dARD_b2, &T::dARD_b2>(), .doc = "Coefficient b2 of fiber diffusion model 2."},

@@ -29,7 +29,8 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_OUTPUT_TIMES>() {
        .rule = {.replace = {equal(3, 2)}},
        .doc = "Scale of the moments, 1 seconds, 2 percent; a 3 in the file becomes 2."},
       {.field = field<&T::m_iNoOutTimeStep, &T::NoOutTimeStep>(), .key = "ValueNoFillOutputTime", .count = true,
-       .list = kReadMoments, .fills = "m_pOutTimeStep", .doc = "Number of output moments, 0 to 1,000,000."},
+       .list = kReadMoments, .fills = "m_pOutTimeStep", .lines = kMomentLines,
+       .doc = "Number of output moments, 0 to 1,000,000."},
       {.field = field<&T::m_pOutTimeStep, &T::pOutTimeStep>(), .doc = "Output moments in the order of their lines."},
   };
   // clang-format on

@@ -20,7 +20,8 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_PACK_OUTPUT_TIMES>() {
   // clang-format off
   static constexpr Row kRows[] = {
       {.field = field<&T::m_iNoOutTimeStep, &T::iNoOutTimeStep>(), .key = "ValueNoPackOutputTime", .count = true,
-       .list = kReadMoments, .fills = "m_pOutTimeStep", .doc = "Number of output moments, 0 to 1,000,000."},
+       .list = kReadMoments, .fills = "m_pOutTimeStep", .lines = kMomentLines,
+       .doc = "Number of output moments, 0 to 1,000,000."},
       {.field = field<&T::m_pOutTimeStep, &T::pOutTimeStep>(), .doc = "Output moments in the order of their lines."},
   };
   // clang-format on

@@ -91,6 +91,20 @@ enum class ListResult : std::uint8_t {
 };
 /// Reads the lines of a list that a key announces; called after the key's value is stored.
 using ListReader = ListResult (*)(ListContext& context);
+/// What the lines of a list hold, for whoever explains or checks them; the list's reader knows it by itself.
+struct ListLines {
+  enum class Number : std::uint8_t {
+    kDouble,
+    kInt,
+    kScanned,  // by the formatted scan, to which nan, inf and hexadecimal are numbers
+  };
+  std::string_view countName = {};  // before the '=' of a first line that holds the count; empty: the key has it
+  std::string_view entryName = {};  // before the '=' of each entry; empty: any text
+  bool numbered = false;            // numbers stand there
+  Number number = Number::kDouble;
+  bool sumsToOne = false;
+  bool toEndOfFile = false;  // it takes all lines that are left, the closing line included
+};
 /// Stores a number that is an element of a list; false when the list has no such element.
 using ElementStore = bool (*)(void* block, double value);
 
@@ -107,6 +121,7 @@ struct Row {
   ElementStore store = nullptr;  // an element of the field's array instead of the field
   ListReader list = nullptr;
   std::string_view fills = {};  // the members without a key of their own that the list sets, separated by blanks
+  ListLines lines = {};
   Echo echo = {};
   std::string_view label = {};  // in the dump; empty: never dumped
   DumpFormat dump = DumpFormat::kByType;

@@ -8,28 +8,13 @@
 
 namespace zeb {
 
-namespace {
-
-// The one list that goes on to the end of the file, the closing line included.
-bool takesRestOfFile(const Section& section) { return section.name == "PLOT_TRANSIENT_EXTENSION_MATERIAL"; }
-
-// Which lists take their entries by the formatted scan, to which nan, inf and hexadecimal are numbers.
-bool scansEntries(const Section& section) {
-  return section.name == "FILL_OUTPUT_TIMES" || section.name == "PACK_OUTPUT_TIMES" ||
-         section.name == "FILL_ADVANCED_LONGFIBER";
-}
-
-// Which lists hold whole numbers.
-bool listsInts(const Section& section) { return section.name == "RTM"; }
-
-}  // namespace
-
 void CheckObserver::startList(const KeyEvent& event) {
   endList();
   m_list = {};
+  m_list.lines = event.row.lines;
   m_list.announced = m_line;
   m_list.place = here(m_text.find(event.key));
-  if (event.row.count || takesRestOfFile(event.section)) {
+  if (event.row.count || m_list.lines.toEndOfFile) {
     m_list.expected = *static_cast<const int*>(event.row.field.locate(event.block));
   }
   m_list.open = true;
@@ -42,7 +27,7 @@ void CheckObserver::lineOfList(const Section& section, int /*lineNumber*/, std::
   const auto close = line.find(section.close);
   if (close != line.npos && !m_list.closed) {
     m_list.closed = true;
-    if (takesRestOfFile(section) && m_list.entries >= m_list.expected) return;
+    if (m_list.lines.toEndOfFile && m_list.entries >= m_list.expected) return;
     add(CheckRule::kListConsumedClose, close,
         list + " takes this closing line as an entry; it has " + std::to_string(m_list.entries) + " of " +
             std::to_string(m_list.expected) + " entries");
@@ -50,7 +35,7 @@ void CheckObserver::lineOfList(const Section& section, int /*lineNumber*/, std::
     return;
   }
   if (used) return judgeEntry(section, line);
-  if (takesRestOfFile(section) && m_list.entries >= m_list.expected) {
+  if (m_list.lines.toEndOfFile && m_list.entries >= m_list.expected) {
     if (!trimmed(line).empty() && !isComment(line)) {
       add(CheckRule::kListTooLong, 0, list + " takes everything to the end of the file: this line is not read");
     }
@@ -62,15 +47,15 @@ void CheckObserver::lineOfList(const Section& section, int /*lineNumber*/, std::
 
 void CheckObserver::judgeEntry(const Section& section, std::string_view line) {
   const std::string list = "the list of line " + std::to_string(m_list.announced);
-  if (listsInts(section) && nameOf(line) == "NVentInlet") {
+  if (!m_list.lines.countName.empty() && nameOf(line) == m_list.lines.countName) {
     int count = 0;
     extractInt(valueText(line), count);
     if (count < 0 || count > kLargestCount) {
       m_list.complained = true;
-      return add(CheckRule::kCountRefused, line.find("NVentInlet"), countRefused());
+      return add(CheckRule::kCountRefused, line.find(m_list.lines.countName), countRefused());
     }
     m_list.expected = count;
-    return judgeEntryTail(section, line);
+    return judgeEntryTail(line);
   }
   ++m_list.entries;
   if (isTakenInPlaceOf(section, line)) {
@@ -78,9 +63,9 @@ void CheckObserver::judgeEntry(const Section& section, std::string_view line) {
     return add(CheckRule::kListTooShort, line.find(nameOf(line)),
                list + " takes this line of " + std::string(nameOf(line)) + " as an entry");
   }
-  judgeEntryTail(section, line);
+  judgeEntryTail(line);
   double weight = 0.0;
-  if (section.name != "MultiGate" || extractDouble(valueText(line), weight) == 0) return;
+  if (!m_list.lines.sumsToOne || extractDouble(valueText(line), weight) == 0) return;
   m_list.sum += weight;
   ++m_list.weights;
   m_list.lastWeight = here(line.find(valueText(line)));
@@ -94,22 +79,23 @@ bool CheckObserver::isTakenInPlaceOf(const Section& section, std::string_view li
   });
 }
 
-void CheckObserver::judgeEntryTail(const Section& section, std::string_view line) {
+void CheckObserver::judgeEntryTail(std::string_view line) {
   const std::string_view value = valueText(line);
   int whole = 0;
   double real = 0.0;
   std::size_t used = 0;
-  if (scansEntries(section)) {
+  const bool isInt = m_list.lines.number == ListLines::Number::kInt;
+  if (m_list.lines.number == ListLines::Number::kScanned) {
     FieldScanner scanner(value);
     scanner.next(real);
     used = value.size() - scanner.rest().size();
     judgeFinite(line.size() - value.size(), real, trimmed(value.substr(0, used)));
   } else {
-    used = listsInts(section) ? extractInt(value, whole) : extractDouble(value, real);
+    used = isInt ? extractInt(value, whole) : extractDouble(value, real);
   }
   const std::string_view rest = trimmed(value.substr(used));
   if (used == 0 || rest.empty()) return;
-  const bool fraction = listsInts(section) && value.substr(used).starts_with('.');
+  const bool fraction = isInt && value.substr(used).starts_with('.');
   add(fraction ? CheckRule::kIntFraction : CheckRule::kTextAfterValue, line.size() - value.size() + used,
       "reading stops here: " + std::string(trimmed(value.substr(0, used))) + " is used, " + quoted(rest) +
           " is ignored");

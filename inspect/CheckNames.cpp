@@ -84,6 +84,15 @@ const KnownNames& KnownNames::ofViscoelasticFile() {
   return kNames;
 }
 
+bool KnownNames::isHeadVersion(int version) {
+  const auto isOf = [&](const KnownNames& names) {
+    return std::any_of(names.m_sections.begin(), names.m_sections.end(), [&](const Known& known) {
+      return known.section->headVersion != 0 && known.section->headVersion == version;
+    });
+  };
+  return isOf(of(FileKind::kCmp)) || isOf(of(FileKind::kStd));
+}
+
 const Section* KnownNames::sectionNamed(std::string_view name) const {
   const auto found = std::find_if(m_sections.begin(), m_sections.end(), [&](const Known& known) {
     return known.section->name == name && !known.section->open.empty();
@@ -128,9 +137,9 @@ bool hasKey(const Section& section, std::string_view name) {
 }
 
 bool isListWord(const Section& section, std::string_view name) {
-  if (section.name == "MultiGate") return name == "Weightings";
-  if (section.name == "FILL_OUTPUT_TIMES" || section.name == "PACK_OUTPUT_TIMES") return isNumber(name);
-  return section.name == "RTM" && (name == "NVentInlet" || name == "VentInletID");
+  return !name.empty() && std::any_of(section.rows.begin(), section.rows.end(), [&](const Row& row) {
+    return name == row.lines.countName || name == row.lines.entryName || (row.lines.numbered && isNumber(name));
+  });
 }
 
 std::vector<std::string_view> nearKeys(const Section& section, std::string_view name) {

@@ -35,6 +35,9 @@ class KnownNames {
   /// The tag blocks of the viscoelastic file.
   static const KnownNames& ofViscoelasticFile();
 
+  /// Whether a head of any CMP reader stands behind "[VER]" and this number.
+  static bool isHeadVersion(int version);
+
   /// '[' or '<'
   char bracket() const { return m_bracket; }
   /// Null when there is none of this name.
@@ -60,7 +63,7 @@ class KnownNames {
 };
 
 bool hasKey(const Section& section, std::string_view name);
-/// Words that stand in the lines of a section's list. Numbers do where a section lists moments.
+/// What stands before the '=' in the lines of one of the section's lists.
 bool isListWord(const Section& section, std::string_view name);
 /// At most three of the section's keys that are close to the name, nearest first.
 std::vector<std::string_view> nearKeys(const Section& section, std::string_view name);

@@ -10,8 +10,6 @@ namespace zeb {
 
 namespace {
 
-constexpr int kHeadVersion = 1023, kStandardVersion = 1013;
-
 std::size_t orStart(std::size_t at) { return at == std::string::npos ? 0 : at; }
 
 }  // namespace
@@ -42,6 +40,7 @@ void CheckObserver::fileStarted(std::string_view fileName) {
 
 void CheckObserver::lineRead(int lineNumber, std::string_view line) {
   finishLine();
+  m_textBefore.swap(m_text);
   m_text = line;
   m_line = lineNumber;
   m_judged = false;
@@ -49,7 +48,7 @@ void CheckObserver::lineRead(int lineNumber, std::string_view line) {
 
 void CheckObserver::versionRead(int /*lineNumber*/, std::string_view /*line*/, bool parsed, int version) {
   m_judged = true;
-  if (version == kHeadVersion || version == kStandardVersion || (isComment(m_text) && !parsed)) return;
+  if ((parsed && KnownNames::isHeadVersion(version)) || (isComment(m_text) && !parsed)) return;
   add(CheckRule::kVersionUnknown, m_text.find("[VER]"),
       parsed ? "version " + std::to_string(version) + " is unknown; no head is read"
              : "the version line holds no version; no head is read");
@@ -221,7 +220,8 @@ void CheckObserver::keyFound(const KeyEvent& event) {
 void CheckObserver::viscoelasticRefused(int lineNumber, std::string_view reason) {
   finishLine();
   lineNumber = std::min(lineNumber, m_line);  // the file may end before the line that decides
-  m_found.add(CheckRule::kViscoelasticRefused, lineNumber, lineNumber == m_line ? m_text : std::string(), 0,
+  // What line 8 says is judged when line 9 has been read.
+  m_found.add(CheckRule::kViscoelasticRefused, lineNumber, lineNumber == m_line ? m_text : m_textBefore, 0,
               std::string(reason) + "; nothing of it is used, and a solver writes a default file in its place");
   m_section = nullptr;
 }

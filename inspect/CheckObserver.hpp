@@ -66,6 +66,7 @@ class CheckObserver final : public ReadObserver {
     std::string conditions;
   };
   struct List {
+    ListLines lines;
     int announced = 0, entries = 0, expected = 0;
     bool open = false, complained = false, takesLines = false, closed = false;
     Place place;
@@ -100,7 +101,7 @@ class CheckObserver final : public ReadObserver {
   // lists and positional lines
   void startList(const KeyEvent& event);
   void judgeEntry(const Section& section, std::string_view line);
-  void judgeEntryTail(const Section& section, std::string_view line);
+  void judgeEntryTail(std::string_view line);
   void judgeFinite(std::size_t at, double value, std::string_view text);
   bool isTakenInPlaceOf(const Section& section, std::string_view line) const;
   void endList();
@@ -120,6 +121,7 @@ class CheckObserver final : public ReadObserver {
 
   // the line
   std::string m_text;
+  std::string m_textBefore;  // of the line before
   int m_line = 0;
   bool m_judged = true;  // nothing is left to be said about it
   std::vector<Hit> m_hits;

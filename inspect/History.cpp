@@ -54,14 +54,14 @@ bool concerns(const HistoryStep& step, const Section* section) {
 
 }  // namespace
 
-std::vector<const HistoryStep*> History::stepsOf(const Row& row, void* block) const {
+std::vector<const HistoryStep*> History::stepsOf(const Row& row, void* block, Elements elements) const {
   const void* address = row.field.locate(block);
   const Section* section = sectionOf(row);
   std::vector<const HistoryStep*> steps;
   for (const HistoryStep& step : m_steps) {
     const bool same = step.address != nullptr ? step.address == address : step.target == &row;
-    const bool otherElement =
-        row.store != nullptr && step.target != nullptr && step.target->store != nullptr && step.target != &row;
+    const bool otherElement = elements == Elements::kOwn && row.store != nullptr && step.target != nullptr &&
+                              step.target->store != nullptr && step.target != &row;
     if ((same && !otherElement) || concerns(step, section)) steps.push_back(&step);
   }
   return steps;

@@ -52,9 +52,11 @@ class History final : public ReadObserver {
   /// Keeps only the lines that touch these members, whatever else they hold.
   explicit History(std::vector<const Row*> wanted) : m_wanted(std::move(wanted)) {}
 
-  /// The steps of the row's member in `block`, in order. An element of an array has the steps of its own key and of
-  /// whatever sets the whole array.
-  std::vector<const HistoryStep*> stepsOf(const Row& row, void* block) const;
+  /// Of a row that is one element of an array: its own key's steps, or also those of the other elements' keys.
+  enum class Elements { kOwn, kAll };
+
+  /// The steps of the row's member in `block`, in order, with those that set the whole array.
+  std::vector<const HistoryStep*> stepsOf(const Row& row, void* block, Elements elements = Elements::kOwn) const;
   /// The other keys that stand in the line of the step.
   std::vector<const HistoryStep*> othersOf(const HistoryStep& step) const;
   /// The lines that opened the section, in order.

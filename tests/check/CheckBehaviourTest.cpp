@@ -253,21 +253,35 @@ TEST(CheckLimits, KeepsTheFirstFindingsOfARuleInEachFile) {
 constexpr const char* kCompanion =
     "1006\n100 200 0\n0.1 0.1 0.1\n0.1 0.1 0\n1 20000\n20 20 0\n0.1 0.1 0.1\n1 0.5 0\n-1\n";
 
-std::vector<std::string> companionFindings(const std::string& content, const std::string& companion, int molding = 0) {
+std::vector<zeb::Diagnostic> findingsWith(const std::string& content, const std::string& companion, int molding) {
   const zebtest::TemporaryFile file(content);
   const std::string name = file.path().substr(0, file.path().rfind('.')) + ".vecmp";
   std::ofstream(name, std::ios::binary) << companion;
   Checking checking;
   checking.options.viscoelastic = true;
   checking.options.molding = molding;
-  const auto findings = zebtest::findingsOf(file.path(), checking);
+  auto findings = zebtest::findingsOf(file.path(), checking);
   std::filesystem::remove(name);
+  return findings;
+}
+
+std::vector<std::string> companionFindings(const std::string& content, const std::string& companion, int molding = 0) {
   std::vector<std::string> texts;
-  for (const auto& finding : findings) {
-    texts.push_back((finding.file == name ? "vecmp " : "cmp ") + std::to_string(finding.place.line) + " " +
+  for (const auto& finding : findingsWith(content, companion, molding)) {
+    texts.push_back((finding.file.ends_with(".vecmp") ? "vecmp " : "cmp ") + std::to_string(finding.place.line) + " " +
                     zebtest::idOf(finding));
   }
   return texts;
+}
+
+// Line and text that the refusal of the companion points to.
+std::string companionExcerpt(const std::string& companion) {
+  for (const auto& finding : findingsWith("", companion, 0)) {
+    if (finding.rule == zeb::CheckRule::kViscoelasticRefused) {
+      return std::to_string(finding.place.line) + " " + finding.place.text;
+    }
+  }
+  return "no refusal";
 }
 
 using Texts = std::vector<std::string>;
@@ -300,6 +314,14 @@ TEST(CheckCompanion, AMissingOneIsAFinding) {
   ASSERT_EQ(findings.size(), 1u) << told(findings);
   EXPECT_EQ(zebtest::idOf(findings[0]), "viscoelastic-refused");
   EXPECT_EQ(findings[0].place.line, 0);
+}
+
+TEST(CheckCompanion, ARefusalShowsTheLineThatDecided) {
+  const std::string lines2To7 = "100 200 0\n0.1 0.1 0.1\n0.1 0.1 0\n1 20000\n20 20 0\n0.1 0.1 0.1\n";
+  EXPECT_EQ(companionExcerpt("1005\n" + lines2To7 + "1 0.5 0\n-1\n"), "1 1005");
+  EXPECT_EQ(companionExcerpt("1006\n" + lines2To7 + "99 0.5 0\n-1\n"), "8 99 0.5 0");
+  EXPECT_EQ(companionExcerpt("1006\n" + lines2To7 + "99 0.5 0\n"), "8 99 0.5 0");
+  EXPECT_EQ(companionExcerpt("1006\n" + lines2To7 + "2 0.5 0\n-1\n"), "9 -1");
 }
 
 TEST(CheckCompanion, AnEmptyOneIsRefusedAsAWhole) {

@@ -13,6 +13,7 @@ namespace {
 using nlohmann::json;
 using testing::HasSubstr;
 using testing::Not;
+using testing::StartsWith;
 using zebtest::runTool;
 using zebtest::TemporaryFile;
 using zebtest::ToolRun;
@@ -207,6 +208,26 @@ TEST(Explain, KnowsTheKindOfAFileByItsContent) {
   const json document = json::parse(runTool({"explain", file.path(), "Level1", "--format", "json"}).out);
   EXPECT_EQ(document.at("kind"), "cmx");
   EXPECT_EQ(document.at("parameters").at(0).at("value"), 3);
+}
+
+TEST(Explain, TellsAnArrayWithKeysForItsElementsAsOne) {
+  const TemporaryFile file(
+      "[UNFSetting]\nFillType = 2\nnDispenserPoint = 2\nPoint_y1 = 0.5\nPoint_x2 = 3\n[/UNFSetting]\n");
+  const ToolRun whole = runTool({"explain", file.path(), "m_pdDispenserPoint"});
+  EXPECT_EQ(whole.exitCode, 0) << whole.err;
+  EXPECT_THAT(whole.out, StartsWith("UNFSetting.m_pdDispenserPoint  keys Point_x1, Point_y1, Point_x2, "));
+  EXPECT_THAT(whole.out, HasSubstr("line 4  Point_y1 = 0.5\n      parsed \"0.5\"\n"
+                                   "      -> [0, 0, 0, 0, 0.5, 0, 0, 0]\n"
+                                   "  line 5  Point_x2 = 3\n      parsed \"3\"\n"
+                                   "      -> [0, 0, 0, 0, 0.5, 0, 3, 0]\n"
+                                   "  final value  [0, 0, 0, 0, 0.5, 0, 3, 0]\n"));
+  const json document = json::parse(runTool({"explain", file.path(), "m_pdDispenserPoint", "--format", "json"}).out);
+  ASSERT_EQ(document.at("parameters").size(), 1u);
+  EXPECT_EQ(document.at("parameters").at(0).at("keys").size(), 10u);
+  EXPECT_EQ(document.at("parameters").at(0).at("type"), "doubles");
+  const ToolRun element = runTool({"explain", file.path(), "Point_x2"});
+  EXPECT_THAT(element.out, StartsWith("UNFSetting.m_pdDispenserPoint  key Point_x2  in [UNFSetting]\n"));
+  EXPECT_THAT(element.out, Not(HasSubstr("line 4")));
 }
 
 TEST(Explain, TellsOfTheCompanionFile) {

@@ -25,7 +25,18 @@ struct ExplainArguments {
 struct Explained {
   const zeb::CatalogueEntry* entry;
   void* block;
-  bool companionIsUnread;  // the file that would set it was not asked for
+  bool companionIsUnread;                            // the file that would set it was not asked for
+  std::vector<const zeb::CatalogueEntry*> elements;  // of an array asked for as a whole; empty: the entry alone
+
+  bool isArray() const { return !elements.empty(); }
+  std::string_view description() const {
+    return isArray() ? "An array; each of the keys sets one element." : entry->row->doc;
+  }
+  std::string type() const { return isArray() ? "doubles" : zeb::typeText(*entry->row); }
+  std::vector<const zeb::HistoryStep*> steps(const zeb::History& history) const {
+    using Elements = zeb::History::Elements;
+    return history.stepsOf(*entry->row, block, isArray() ? Elements::kAll : Elements::kOwn);
+  }
 };
 
 std::string_view outcomeText(zeb::KeyOutcome outcome) {
@@ -135,33 +146,42 @@ Json describe(const Explained& explained, const zeb::History& history) {
   const zeb::CatalogueEntry& entry = *explained.entry;
   const zeb::Row& row = *entry.row;
   Json chain = Json::array();
-  for (const zeb::HistoryStep* step : history.stepsOf(row, explained.block)) {
+  for (const zeb::HistoryStep* step : explained.steps(history)) {
     chain.push_back(jsonStep(*step, explained, history));
   }
   Json json = {{"block", entry.block},           {"class", entry.table->className},
                {"section", entry.sectionText()}, {"sectionLines", history.openings(*entry.section)},
                {"member", row.field.member},     {"getter", row.field.getter}};
-  if (!row.key.empty()) json["key"] = row.key;
+  if (explained.isArray()) {
+    json["keys"] = Json::array();
+    for (const zeb::CatalogueEntry* element : explained.elements) json["keys"].push_back(element->row->key);
+  } else if (!row.key.empty()) {
+    json["key"] = row.key;
+  }
   if (!row.otherKey.empty()) json["otherKey"] = row.otherKey;
   if (row.at[0].line > 0) json["position"] = zeb::positionText(row);
-  json["type"] = zeb::typeText(row);
+  json["type"] = explained.type();
   json["unit"] = row.unit;
   json["rules"] = zeb::ruleTexts(entry);
-  json["description"] = row.doc;
+  json["description"] = explained.description();
   json["default"] = jsonOf(row, entry.defaultValue);
   json["chain"] = std::move(chain);
   json["value"] = jsonOf(row, zeb::valueOf(row, explained.block));
   return json;
 }
 
-void printHeading(const zeb::CatalogueEntry& entry) {
+void printHeading(const Explained& explained) {
+  const zeb::CatalogueEntry& entry = *explained.entry;
   const zeb::Row& row = *entry.row;
   std::cout << coloured(Colour::kBold, entry.name());
-  if (!row.key.empty()) std::cout << "  key " << row.key;
+  if (!row.key.empty()) std::cout << (explained.isArray() ? "  keys " : "  key ") << row.key;
+  for (const zeb::CatalogueEntry* element : explained.elements) {
+    if (element != &entry) std::cout << ", " << element->row->key;
+  }
   if (!row.otherKey.empty()) std::cout << " or " << row.otherKey;
   if (row.at[0].line > 0) std::cout << "  " << zeb::positionText(row);
   if (!entry.sectionText().empty()) std::cout << "  in " << entry.sectionText();
-  std::cout << "\n  " << row.doc << "\n  " << zeb::typeText(row);
+  std::cout << "\n  " << explained.description() << "\n  " << explained.type();
   if (!row.unit.empty()) std::cout << ", " << row.unit;
   const std::string rules = zeb::joined(zeb::ruleTexts(entry));
   if (!rules.empty()) std::cout << "; " << rules;
@@ -213,10 +233,10 @@ void printLineStep(const zeb::HistoryStep& step, const Explained& explained, con
 
 void printText(const Explained& explained, const zeb::History& history) {
   const zeb::CatalogueEntry& entry = *explained.entry;
-  printHeading(entry);
+  printHeading(explained);
   std::cout << "  " << coloured(Colour::kCyan, "default") << "\n      -> " << printable(entry.defaultValue) << '\n';
   bool touched = false;
-  for (const zeb::HistoryStep* step : history.stepsOf(*entry.row, explained.block)) {
+  for (const zeb::HistoryStep* step : explained.steps(history)) {
     if (step->kind == zeb::HistoryStep::Kind::kRepair) {
       std::cout << "  " << coloured(Colour::kCyan, "repair") << "  " << step->condition
                 << (step->before == step->after ? ": nothing to change" : "") << '\n';
@@ -238,6 +258,22 @@ void printText(const Explained& explained, const zeb::History& history) {
             << coloured(Colour::kGreen, printable(zeb::valueOf(*entry.row, explained.block))) << "\n";
 }
 
+bool isOneArray(const Explained& explained, const zeb::CatalogueEntry& entry, void* block) {
+  const zeb::Row &first = *explained.entry->row, &other = *entry.row;
+  return first.store != nullptr && other.store != nullptr &&
+         first.field.locate(explained.block) == other.field.locate(block);
+}
+
+// Elements of one array are told as the array.
+void addTo(std::vector<Explained>& all, Explained explained) {
+  if (all.empty() || !isOneArray(all.back(), *explained.entry, explained.block)) {
+    return all.push_back(std::move(explained));
+  }
+  Explained& array = all.back();
+  if (!array.isArray()) array.elements.push_back(array.entry);
+  array.elements.push_back(explained.entry);
+}
+
 std::vector<Explained> explainedIn(const zeb::ParameterFile& file,
                                    const std::vector<const zeb::CatalogueEntry*>& entries,
                                    const ExplainArguments& arguments) {
@@ -247,7 +283,7 @@ std::vector<Explained> explainedIn(const zeb::ParameterFile& file,
     for (const zeb::BlockView& view : file.blocks()) {
       if (view.table != entry->table) continue;
       const bool isInCompanion = view.table == &zeb::tableOf<CZEBCMPVEParm>();
-      all.push_back({entry, view.block, isInCompanion && !readsCompanion});
+      addTo(all, {entry, view.block, isInCompanion && !readsCompanion, {}});
     }
   }
   return all;
