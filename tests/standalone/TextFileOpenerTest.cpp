@@ -1,7 +1,7 @@
 // The plain text-file opener: text-mode delivery, failures at opening, and streams that are used again.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <locale>
@@ -12,6 +12,8 @@
 
 #include "platform/ZEB3DTool.h"
 #include "tests/standalone/TestFolder.h"
+#include "tests/support/TemporaryFile.hpp"
+#include "tests/support/WithoutPrivileges.hpp"
 
 namespace zeb::test {
 namespace {
@@ -128,11 +130,15 @@ TEST_F(TextFileOpener, FailsForWhatCannotBeRead) {
 }
 
 TEST_F(TextFileOpener, FailsWithoutPermission) {
-  if (geteuid() == 0) GTEST_SKIP() << "root may read everything";
-  const std::string file = folder.write("secret.txt", "x");
-  std::filesystem::permissions(file, std::filesystem::perms::none);
+  const zebtest::WithoutPrivileges nobody;
+  if (!nobody.holds()) GTEST_SKIP() << "root may read everything";
+  const zebtest::TemporaryFile file("x");
   std::ifstream stream;
-  open(stream, file);
+  open(stream, file.path());
+  EXPECT_TRUE(stream.is_open());
+  stream.close();
+  std::filesystem::permissions(file.path(), std::filesystem::perms::none);
+  open(stream, file.path());
   EXPECT_TRUE(stream.fail());
   EXPECT_FALSE(stream.is_open());
 }

@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <filesystem>
 #include <map>
 #include <nlohmann/json.hpp>
 
+#include "tests/support/WithoutPrivileges.hpp"
 #include "tests/tool/RunTool.hpp"
 
 namespace {
@@ -121,6 +123,23 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"ScheduleSplit", {"schedule", "CMX", "--fill-time", "10", "--split", "2"}, "at least 3 steps"},
         Refusal{"ScheduleTime", {"schedule", "CMX", "--fill-time", "0", "--split", "4"}, "must be above 0 s"}),
     [](const auto& test) { return std::string(test.param.name); });
+
+TEST(Tool, RefusesAFileThatMayNotBeRead) {
+  const zebtest::WithoutPrivileges nobody;
+  if (!nobody.holds() || eaccess(ZEB_COMPPARM, X_OK) != 0) GTEST_SKIP() << "nobody but root may run the tool here";
+  const TemporaryFile file(kOutlet);
+  ASSERT_EQ(runTool({"check", file.path()}).exitCode, 0);
+  std::filesystem::permissions(file.path(), std::filesystem::perms::none);
+  for (const std::vector<std::string>& arguments : {std::vector<std::string>{"check", file.path()},
+                                                    {"show", file.path()},
+                                                    {"explain", file.path(), "AirPressure"},
+                                                    {"diff", file.path(), file.path()}}) {
+    const ToolRun run = runTool(arguments);
+    EXPECT_EQ(run.exitCode, 2) << arguments[0];
+    EXPECT_EQ(run.err, "compparm: " + file.path() + ": Permission denied\n") << arguments[0];
+    EXPECT_EQ(run.out, "") << arguments[0];
+  }
+}
 
 TEST(Tool, EmptyFileHoldsTheDefaults) {
   const TemporaryFile file("");

@@ -56,6 +56,8 @@ inline ToolRun runProgram(std::string tool, const std::vector<std::string>& argu
   if (child == 0) {
     tool_detail::redirect(STDOUT_FILENO, out.path());
     tool_detail::redirect(STDERR_FILENO, err.path());
+    // With two identities the program would not look for its libraries beside itself.
+    if (setreuid(geteuid(), geteuid()) != 0) _exit(126);
     if (!folder.empty() && chdir(folder.c_str()) != 0) _exit(126);
     alarm(tool_detail::kSecondsToEnd);
     execv(tool.c_str(), argv.data());
