@@ -9,6 +9,7 @@
 #include "bench/PlainReader.hpp"
 #include "bench/Ratios.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
+#include "inspect/Silence.hpp"
 
 namespace {
 
@@ -36,7 +37,7 @@ std::string pathOf(std::string_view name) {
 }
 
 bool run(std::string_view work, const std::string& path, long count) {
-  const Silence silence;
+  const zeb::Silence silence;
   CZEBKNCMPCompParm parameters(0, 0);
   PlainReader plain;
   for (; count > 0; --count) {

@@ -8,10 +8,11 @@
 #include <cmath>
 #include <cstdio>
 #include <functional>
-#include <iostream>
 #include <map>
 #include <string>
 #include <vector>
+
+#include "inspect/Silence.hpp"
 
 namespace zebbench {
 
@@ -25,23 +26,6 @@ inline double median(std::vector<double> values) {
 inline double smallest(const std::vector<double>& values) {
   return values.empty() ? 0.0 : *std::min_element(values.begin(), values.end());
 }
-
-/// Discards what the library prints while it lives: its echoes are not what is measured.
-class Silence {
- public:
-  Silence() : m_before(std::cout.rdbuf(&m_nothing)) {}
-  Silence(const Silence&) = delete;
-  Silence& operator=(const Silence&) = delete;
-  ~Silence() { std::cout.rdbuf(m_before); }
-
- private:
-  struct Nothing final : std::streambuf {
-    std::streamsize xsputn(const char*, std::streamsize count) override { return count; }
-    int_type overflow(int_type character) override { return traits_type::not_eof(character); }
-  };
-  Nothing m_nothing;
-  std::streambuf* m_before;
-};
 
 /// Keeps the CPU time of each repetition by the benchmark's name; times are nanoseconds.
 class Times final : public benchmark::BenchmarkReporter {
@@ -75,7 +59,7 @@ inline bool measure(int argc, char** argv, Times& times) {
   int count = static_cast<int>(pointers.size());
   benchmark::Initialize(&count, pointers.data());
   if (benchmark::ReportUnrecognizedArguments(count, pointers.data())) return false;
-  const Silence silence;
+  const zeb::Silence silence;
   benchmark::RunSpecifiedBenchmarks(&times);
   return true;
 }

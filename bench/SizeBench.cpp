@@ -8,6 +8,7 @@
 #include "bench/PlainReader.hpp"
 #include "bench/Ratios.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
+#include "inspect/Silence.hpp"
 
 namespace {
 
@@ -41,7 +42,7 @@ struct Cost {
 
 template <class Work>
 Cost costOf(Work work) {
-  const Silence silence;
+  const zeb::Silence silence;
   work();  // the first time may build what lasts as long as the process
   const Cost before{allocations, allocatedBytes};
   work();

@@ -10,6 +10,7 @@
 #include "bench/BenchFiles.hpp"
 #include "bench/Ratios.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
+#include "inspect/Silence.hpp"
 #include "material/CZEBKNMaterialParam.h"
 #include "standalone/MaterialEngine.h"
 #include "standalone/RecordingCommunicator.h"
@@ -70,7 +71,7 @@ void compare(const char* name, CZEBCom& com, int repetitions, Work work, Alone a
   Samples samples;
   const bool reports = com.GetCPUId() == 0;
   {
-    const Silence silence;
+    const zeb::Silence silence;
     zeb::RecordingCommunicator recorder(com);
     work(&recorder);
     kinds = kindsOf(recorder.log());
