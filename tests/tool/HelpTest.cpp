@@ -153,6 +153,7 @@ TEST(JsonPage, DescribesEveryKey) {
                                                     {"explain", cover + ".cmp", "TimeLimit", "--molding", "GAIM"},
                                                     {"explain", cover + ".cmp", "m_piVentInletID"},
                                                     {"explain", cover + ".cmp", "m_ilsolvU"},
+                                                    {"explain", cover + ".cmp", "m_pdDispenserPoint"},
                                                     {"explain", broken, "VentMode"},
                                                     {"diff", cover + ".cmp", "--against-molding", "GAIM"},
                                                     {"schedule", cover + ".cmx", "--fill-time", "0.2", "--split", "10"},
