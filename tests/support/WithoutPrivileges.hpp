@@ -3,6 +3,8 @@
 
 #include <unistd.h>
 
+#include <filesystem>
+
 namespace zebtest {
 
 /// While it lives, the process is nobody in particular if it was root. Files it makes then belong to nobody.
@@ -14,8 +16,10 @@ class WithoutPrivileges {
   ~WithoutPrivileges() {
     if (m_changed) m_changed = seteuid(m_before) != 0;
   }
-  /// False where root could not step down.
-  bool holds() const { return geteuid() != 0; }
+  /// False where root could not step down, or where nobody else may make temporary files.
+  bool holds() const {
+    return geteuid() != 0 && eaccess(std::filesystem::temp_directory_path().c_str(), W_OK | X_OK) == 0;
+  }
 
  private:
   static constexpr uid_t kNobody = 65534;
