@@ -71,20 +71,31 @@ bool isGated(const Section& section, const Row& row) {
 
 bool fits(std::string_view a, std::string_view b, bool withCase) { return withCase ? a == b : equalWithoutCase(a, b); }
 
-bool isCalled(const Row& row, std::string_view name, bool withCase) {
+// What stands in front of the value in the lines of a list that sets the row's member.
+bool isCalledInList(const Section& section, const Row& row, std::string_view name, bool withCase) {
+  const bool isEntry = row.field.type == FieldType::kInts || row.field.type == FieldType::kDoubles;
+  return std::any_of(section.rows.begin(), section.rows.end(), [&](const Row& list) {
+    return fills(list, row) && fits(isEntry ? list.lines.entryName : list.lines.countName, name, withCase);
+  });
+}
+
+bool isCalled(const Section& section, const Row& row, std::string_view name, bool withCase) {
   if (name.empty()) return false;
-  return fits(row.key, name, withCase) || fits(row.otherKey, name, withCase) ||
-         fits(row.field.member, name, withCase) || fits(row.field.getter, name, withCase);
+  // A key may end with a blank, which nobody types.
+  const std::string_view key = row.key.ends_with(' ') ? row.key.substr(0, row.key.size() - 1) : row.key;
+  return fits(key, name, withCase) || isCalledInList(section, row, name, withCase) || fits(row.key, name, withCase) ||
+         fits(row.otherKey, name, withCase) || fits(row.field.member, name, withCase) ||
+         fits(row.field.getter, name, withCase);
 }
 
 bool isCalled(const CatalogueEntry& entry, std::string_view name, bool withCase) {
-  if (isCalled(*entry.row, name, withCase)) return true;
+  if (isCalled(*entry.section, *entry.row, name, withCase)) return true;
   const auto dot = name.find('.');
   if (dot == name.npos) return false;
   const std::string_view owner = name.substr(0, dot);
   const bool owns = fits(entry.block, owner, withCase) || fits(entry.table->className, owner, withCase) ||
                     fits(entry.section->name, owner, withCase);
-  return owns && isCalled(*entry.row, name.substr(dot + 1), withCase);
+  return owns && isCalled(*entry.section, *entry.row, name.substr(dot + 1), withCase);
 }
 
 std::string searchText(const CatalogueEntry& entry) {
@@ -206,7 +217,8 @@ std::vector<std::string> ruleTexts(const Section& section, const Row& row) {
   std::vector<std::string> texts;
   if (row.rule.scale != 1.0) texts.push_back("times " + number(row.rule.scale));
   for (const Replacement& replacement : row.rule.replace) {
-    if (replacement.when != Replacement::When::kNever) texts.push_back(replacementText(replacement));
+    if (replacement.when == Replacement::When::kNever) continue;
+    texts.push_back((&replacement == &row.rule.replace[0] ? "" : "otherwise, ") + replacementText(replacement));
   }
   if (row.textBuffer > 0) texts.push_back("cut to " + std::to_string(row.textBuffer - 1) + " characters");
   if (row.gateBelow != kNoGate) {

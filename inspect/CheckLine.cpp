@@ -96,17 +96,29 @@ void CheckObserver::judgeWithoutKey() {
   const std::string_view name = nameOf(m_text);
   const std::size_t at = m_text.find(name);
   if (isListWord(*m_section, name)) {
-    add(CheckRule::kListTooLong, at, "this entry belongs to no list, or stands behind the end of its list");
+    add(CheckRule::kListTooLong, at, "this entry belongs to no list, or stands behind the end of its list",
+        "entries stand right below the line that announces them, as many as their count says");
     return;
   }
   if (!m_found.wants(CheckRule::kUnknownKey)) return m_found.skip(CheckRule::kUnknownKey);
+  if (isOfOtherSolver(name)) return;
   const auto near = nearKeys(*m_section, name);
   if (m_text.find('=') == std::string::npos && near.empty()) return;
   const std::string elsewhere = m_names->sectionsWithKey(name);
   std::string hint;
   if (!elsewhere.empty()) hint = "it belongs to " + elsewhere;
-  if (!near.empty()) hint += (hint.empty() ? "" : "; ") + ("did you mean " + orList(near) + "?");
+  if (!near.empty() && near.front() != name && trimmed(near.front()) == name) {
+    hint = "a blank must stand between " + std::string(name) + " and '='";
+  } else if (!near.empty()) {
+    hint += (hint.empty() ? "" : "; ") + ("did you mean " + orList(near) + "?");
+  }
   add(CheckRule::kUnknownKey, at, quoted(name) + " is no key of " + std::string(m_section->open), hint);
+}
+
+// What one solver reads of a file that several share is no mistake to the others.
+bool CheckObserver::isOfOtherSolver(std::string_view key) const {
+  const Section* section = KnownNames::ofOtherSolver(m_kind).sectionNamed(m_section->name);
+  return section != nullptr && (hasKey(*section, key) || isListWord(*section, key));
 }
 
 // --- Lines with keys ----------------------------------------------------------------------------------------------
@@ -159,7 +171,7 @@ const CheckObserver::Hit* CheckObserver::meantHit(bool isTag) {
 void CheckObserver::judgeOwnKey(const Hit& hit) {
   const std::string key(hit.key);
   if (isStored(hit.outcome)) judgeRepeated(hit);
-  if (isPresence(*hit.row)) return;
+  if (isPresence(*hit.row)) return judgePresence(hit);
   const auto equals = m_text.find('=');
   if (equals == std::string::npos) {
     return add(CheckRule::kMissingEquals, m_text.find(hit.key) + key.size(),
@@ -172,6 +184,18 @@ void CheckObserver::judgeOwnKey(const Hit& hit) {
   add(CheckRule::kSeveralEquals, second,
       "a second '='; " + key + (isStored(hit.outcome) ? " becomes " : " keeps ") +
           shown(*hit.row, hit.block, hit.value, hit.tail));
+}
+
+void CheckObserver::judgePresence(const Hit& hit) {
+  const std::size_t behind = m_text.find(hit.key) + hit.key.size();
+  const std::string_view rest = trimmed(std::string_view(m_text).substr(behind));
+  const bool hasEquals = rest.starts_with('=');
+  if (rest.empty() || (hit.row->list != nullptr && !hasEquals)) return;
+  const std::string_view value = trimmed(rest.substr(hasEquals ? 1 : 0));
+  constexpr std::string_view kOn[] = {"", "1", "true", "on", "yes"};
+  if (hit.row->list == nullptr && std::find(std::begin(kOn), std::end(kOn), value) != std::end(kOn)) return;
+  add(CheckRule::kPresenceValue, m_text.find(rest, behind),
+      std::string(hit.key) + " is switched on by its presence; " + quoted(rest) + " is not read");
 }
 
 void CheckObserver::judgeRepeated(const Hit& hit) {
@@ -201,7 +225,7 @@ void CheckObserver::judgeValue(const Hit& hit) {
     case KeyOutcome::kRefused:
       return add(CheckRule::kCountRefused, valueAt, countRefused());
     case KeyOutcome::kNotStored:
-      if (losesNothing(hit)) return;
+      if (losesNothing(hit) || isOfSwitchedOffList(hit)) return;
       return add(CheckRule::kPointBeyondCount, m_text.find(hit.key),
                  key + " is beyond the list's count and is not stored");
     default:
@@ -238,6 +262,20 @@ void CheckObserver::judgeText(const Hit& hit) {
   if (hit.value.ends_with(' ') || hit.value.ends_with('\t')) {
     const auto last = m_text.find_last_not_of(" \t");
     add(CheckRule::kTrailingBlanks, last + 1, "the blanks become part of " + std::string(hit.key));
+  }
+  judgeExtras(hit, at);
+}
+
+void CheckObserver::judgeExtras(const Hit& hit, std::size_t valueAt) {
+  const std::string_view value = hit.value, text = trimmed(value);
+  for (const std::string_view mark : {" #", "\t#", " //", "\t//"}) {
+    const auto at = value.find(mark);
+    if (at == value.npos) continue;
+    return add(CheckRule::kExtrasInText, valueAt + at + 1, "the comment becomes part of " + std::string(hit.key));
+  }
+  if (text.starts_with('"') || text.starts_with('\'')) {
+    add(CheckRule::kExtrasInText, valueAt + value.find(text),
+        "the quotation marks become part of " + std::string(hit.key));
   }
 }
 
@@ -286,12 +324,26 @@ bool CheckObserver::losesNothing(const Hit& hit) const {
   return same;
 }
 
-bool CheckObserver::holdsDefault(const Section& section, const Row& row, void* block) {
+// Entries may stay in the file while a count that is not above 0 says that none is wanted.
+bool CheckObserver::isOfSwitchedOffList(const Hit& hit) const {
+  return std::any_of(m_setAt.begin(), m_setAt.end(), [&](const auto& known) {
+    const Row& row = *known.first;
+    return row.lines.toEndOfFile && fills(row, *hit.row) && *static_cast<const int*>(row.field.locate(hit.block)) <= 0;
+  });
+}
+
+/// Null for a section that none of the tables has.
+void* CheckObserver::defaultsOf(const Section& section) {
   const BlockTable* table = m_names->tableOf(section);
-  if (table == nullptr) return false;
+  if (table == nullptr) return nullptr;
   void*& defaults = m_defaults[table];
   if (defaults == nullptr) defaults = table->create();
-  return valueOf(row, block) == valueOf(row, defaults);
+  return defaults;
+}
+
+bool CheckObserver::holdsDefault(const Section& section, const Row& row, void* block) {
+  void* const defaults = defaultsOf(section);
+  return defaults != nullptr && valueOf(row, block) == valueOf(row, defaults);
 }
 
 // What the row's rule makes of a value outside of its range. The default in its place is what was meant, most often:
@@ -304,6 +356,12 @@ void CheckObserver::judgeReplaced(const Section& section, const Row& row, void* 
   const double held =
       row.field.type == FieldType::kInt ? *static_cast<const int*>(member) : *static_cast<const double*>(member);
   if (held == plain || std::isnan(typed) || holdsDefault(section, row, block)) return;
+  const auto standsForAnother = [&](const Replacement& replacement) {
+    return replacement.when == Replacement::When::kEqual && replacement.limit == plain;
+  };
+  if (std::any_of(std::begin(row.rule.replace), std::end(row.rule.replace), standsForAnother)) {
+    return add(CheckRule::kValueReplaced, at, number(plain) + " is read as " + number(held), "write " + number(held));
+  }
   add(CheckRule::kValueReplaced, at,
       number(plain) + " is out of range for " + std::string(row.key.empty() ? row.field.member : row.key) + ": " +
           number(held) + " is used");

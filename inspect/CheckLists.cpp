@@ -17,6 +17,9 @@ void CheckObserver::startList(const KeyEvent& event) {
   if (event.row.count || m_list.lines.toEndOfFile) {
     m_list.expected = *static_cast<const int*>(event.row.field.locate(event.block));
   }
+  // With any other value there is no list.
+  m_list.announcesCount =
+      !m_list.lines.countName.empty() && *static_cast<const int*>(event.row.field.locate(event.block)) == 1;
   m_list.open = true;
 }
 
@@ -41,7 +44,13 @@ void CheckObserver::lineOfList(const Section& section, int /*lineNumber*/, std::
     }
     return;
   }
-  add(CheckRule::kListTooShort, 0, list + " takes this line, but it is no usable entry");
+  if (m_list.announcesCount) {
+    add(CheckRule::kListTooShort, 0,
+        std::string(m_list.lines.countName) + " is expected in this line, right below line " +
+            std::to_string(m_list.announced) + "; the list is not read");
+  } else {
+    add(CheckRule::kListTooShort, 0, list + " takes this line, but it is no usable entry");
+  }
   m_list.complained = true;
 }
 
@@ -50,6 +59,8 @@ void CheckObserver::judgeEntry(const Section& section, std::string_view line) {
   if (!m_list.lines.countName.empty() && nameOf(line) == m_list.lines.countName) {
     int count = 0;
     extractInt(valueText(line), count);
+    m_list.announcesCount = false;
+    m_list.place = here(line.find(m_list.lines.countName));
     if (count < 0 || count > kLargestCount) {
       m_list.complained = true;
       return add(CheckRule::kCountRefused, line.find(m_list.lines.countName), countRefused());
@@ -110,7 +121,11 @@ void CheckObserver::endList() {
   if (!m_list.open) return;
   m_list.open = false;
   if (m_list.complained) return;
-  if (m_list.takesLines && m_list.entries < m_list.expected) {
+  if (m_list.announcesCount && !m_list.takesLines) {
+    m_found.add(CheckRule::kListTooShort, m_list.place,
+                "the list that the line announces is missing: " + std::string(m_list.lines.countName) +
+                    " is expected in the next line");
+  } else if (m_list.takesLines && m_list.entries < m_list.expected) {
     m_found.add(
         CheckRule::kListTooShort, m_list.place,
         "the list has " + std::to_string(m_list.entries) + " of " + std::to_string(m_list.expected) + " entries");
@@ -124,7 +139,7 @@ void CheckObserver::endList() {
 
 void CheckObserver::linePositional(const Section& section, int /*lineNumber*/, int positionalLine, int converted,
                                    int expected, std::string_view tail) {
-  const bool fileEnded = m_judged;
+  const bool fileEnded = m_linesSinceOpening < positionalLine;
   m_judged = true;
   m_positional = &section;
   if (positionalLine == section.positional.lines) m_section = nullptr;
@@ -132,6 +147,7 @@ void CheckObserver::linePositional(const Section& section, int /*lineNumber*/, i
   if (fileEnded || judgeShortPositional(section, positionalLine, expected == 0)) {
     m_positionalShort = true;
     if (!fileEnded) return;
+    if (m_tagInFreeLine.place.line > 0) return reportShortPositional(m_tagInFreeLine, m_sectionInFreeLine);
     m_found.add(CheckRule::kPositionalTooShort, m_opening,
                 std::string(section.open.empty() ? "the head" : section.open) + " has only " +
                     std::to_string(positionalLine - 1) + " of its lines; the file ends");
@@ -142,7 +158,10 @@ void CheckObserver::linePositional(const Section& section, int /*lineNumber*/, i
   const std::size_t tailAt = m_text.size() - std::min(tail.size(), m_text.size());
   const std::string_view rest = trimmed(tail);
   const std::size_t at = rest.empty() ? m_text.size() : m_text.find(rest, tailAt);
-  if (converted < expected) {
+  if (converted < expected && m_tagInFreeLine.place.line > 0) {
+    m_positionalShort = true;
+    reportShortPositional(m_tagInFreeLine, m_sectionInFreeLine);
+  } else if (converted < expected) {
     add(CheckRule::kPositionalFields, at,
         place + ": " + std::to_string(converted) + " of " + std::to_string(expected) + " fields can be read" +
             (rest.empty() ? "" : "; reading stops at " + quoted(rest)));
@@ -165,15 +184,26 @@ void CheckObserver::judgeField(const KeyEvent& event, std::size_t at) {
 }
 
 // A tag among the lines: they are too few, and the section of the tag is lost with them. Lines without fields may hold
-// any text, a bracketed word as well.
+// any text, a bracketed word as well: there the lines behind it decide.
 bool CheckObserver::judgeShortPositional(const Section& section, int positionalLine, bool isFree) {
   const Tag tag = tagOf(m_text, m_names->bracket());
   if (!tag || (isFree && m_names->sectionNamed(tag.name) == nullptr)) return false;
-  if (!tag.closes) m_unknownSection = tag.name;
-  add(CheckRule::kPositionalTooShort, m_text.find(tag.text),
-      std::string(section.open.empty() ? "the head" : section.open) + " has only " +
-          std::to_string(positionalLine - 1) + " of its lines; this line is taken as its next one");
+  Pending pending{here(m_text.find(tag.text)), std::string(section.open.empty() ? "the head" : section.open) +
+                                                   " has only " + std::to_string(positionalLine - 1) +
+                                                   " of its lines; this line is taken as its next one"};
+  const std::string lostSection(tag.closes ? "" : tag.name);
+  if (isFree) {
+    m_tagInFreeLine = std::move(pending);
+    m_sectionInFreeLine = lostSection;
+    return false;
+  }
+  reportShortPositional(std::move(pending), lostSection);
   return true;
+}
+
+void CheckObserver::reportShortPositional(Pending pending, const std::string& lostSection) {
+  if (!lostSection.empty()) m_unknownSection = lostSection;
+  m_found.add(CheckRule::kPositionalTooShort, std::move(pending.place), std::move(pending.message));
 }
 
 }  // namespace zeb

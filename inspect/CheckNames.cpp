@@ -78,6 +78,11 @@ const KnownNames& KnownNames::of(FileKind kind) {
   return kind == FileKind::kCmp ? kCmp : kind == FileKind::kCmx ? kCmx : kStd;
 }
 
+const KnownNames& KnownNames::ofOtherSolver(FileKind kind) {
+  if (kind == FileKind::kCmx) return of(kind);
+  return of(kind == FileKind::kCmp ? FileKind::kStd : FileKind::kCmp);
+}
+
 const KnownNames& KnownNames::ofViscoelasticFile() {
   static const BlockTable* const kTables[] = {&zeb::tableOf<CZEBCMPVEParm>()};
   static const KnownNames kNames('<', kTables);

@@ -32,6 +32,8 @@ Tag tagOf(std::string_view line, char bracket);
 class KnownNames {
  public:
   static const KnownNames& of(FileKind kind);
+  /// The other one of the two readers that take their values from the same file; for a CMX file itself.
+  static const KnownNames& ofOtherSolver(FileKind kind);
   /// The tag blocks of the viscoelastic file.
   static const KnownNames& ofViscoelasticFile();
 

@@ -3,8 +3,11 @@
 #include <algorithm>
 
 #include "frame/ParameterTable.hpp"
+#include "frame/ValueText.hpp"
 #include "inspect/CheckRawFile.hpp"
 #include "inspect/CheckText.hpp"
+#include "inspect/Inspection.hpp"
+#include "inspect/Settings.hpp"
 
 namespace zeb {
 
@@ -19,6 +22,7 @@ CheckObserver::~CheckObserver() {
 }
 
 void CheckObserver::add(CheckRule rule, std::size_t at, std::string message, std::string hint) {
+  m_isAnythingSaid = true;
   m_found.add(rule, m_line, m_text, orStart(at), std::move(message), std::move(hint));
 }
 
@@ -43,11 +47,13 @@ void CheckObserver::lineRead(int lineNumber, std::string_view line) {
   m_textBefore.swap(m_text);
   m_text = line;
   m_line = lineNumber;
+  ++m_linesSinceOpening;
   m_judged = false;
 }
 
 void CheckObserver::versionRead(int /*lineNumber*/, std::string_view /*line*/, bool parsed, int version) {
   m_judged = true;
+  m_isAnythingRead = true;
   if ((parsed && KnownNames::isHeadVersion(version)) || (isComment(m_text) && !parsed)) return;
   add(CheckRule::kVersionUnknown, m_text.find("[VER]"),
       parsed ? "version " + std::to_string(version) + " is unknown; no head is read"
@@ -57,7 +63,8 @@ void CheckObserver::versionRead(int /*lineNumber*/, std::string_view /*line*/, b
 void CheckObserver::lineOutside(int /*lineNumber*/, std::string_view line) {
   if (m_judged) return;  // a version line, reported once its head has been read
   m_judged = true;
-  if (isComment(line)) return;
+  if (isComment(line) || trimmed(line).empty()) return;
+  if (m_firstText.line == 0 && !isCompanion()) m_firstText = here(line.find(trimmed(line)));
   if (const Tag tag = tagOf(line, m_names->bracket())) return judgeTagOutside(tag);
   const std::string_view name = nameOf(line);
   if (!m_unknownSection.empty() || (line.find('=') == line.npos && !m_names->isPresenceKey(name))) return;
@@ -78,16 +85,18 @@ void CheckObserver::judgeTagOutside(const Tag& tag) {
     return;
   }
   m_unknownSection = tag.name;
-  if (!m_found.wants(CheckRule::kUnknownSection)) return m_found.skip(CheckRule::kUnknownSection);
-  if (m_kind == FileKind::kStd && KnownNames::of(FileKind::kCmp).sectionNamed(tag.name) != nullptr) {
-    return add(CheckRule::kUnknownSection, at, text + " is no section of the standard solver; its lines are ignored",
-               "the other solvers read it");
+  if (const Section* others = KnownNames::ofOtherSolver(m_kind).sectionNamed(tag.name)) {
+    m_isAnythingRead = true;
+    m_unknownSection = tagOf(others->close, m_names->bracket()).name;  // not always the opening's
+    return;
   }
+  if (!m_found.wants(CheckRule::kUnknownSection)) return m_found.skip(CheckRule::kUnknownSection);
   const auto near = m_names->nearSections(tag.name);
   std::string hint;
   if (!near.empty()) {
     const Section& section = *m_names->sectionNamed(near.front());
-    hint = "did you mean " + std::string(section.open) + "? Section names are case-sensitive";
+    hint = "did you mean " + std::string(section.open) + "?";
+    if (equalWithoutCase(section.name, tag.name)) hint += " Section names are case-sensitive";
   }
   add(CheckRule::kUnknownSection, at, text + " is no section; its lines are ignored", hint);
 }
@@ -100,6 +109,9 @@ void CheckObserver::sectionOpened(const Section& section, int /*lineNumber*/) {
   m_section = &section;
   m_unknownSection.clear();
   m_positionalShort = false;
+  m_linesSinceOpening = 0;
+  m_tagInFreeLine = {};
+  m_isAnythingRead = true;
   m_explained = false;
   const bool isFirst = m_text.find(section.open) != m_text.npos;
   if (isFirst) {
@@ -129,6 +141,10 @@ void CheckObserver::sectionOpened(const Section& section, int /*lineNumber*/) {
 void CheckObserver::sectionClosed(const Section& section, int /*lineNumber*/) {
   const bool endsList = m_judged;  // a list took the closing line
   if (m_hits.empty()) m_judged = true;
+  if (isComment(m_text) && m_text.find(section.close) != m_text.npos) {
+    add(CheckRule::kCommentClosesSection, m_text.find(section.close),
+        "the comment closes " + std::string(section.open));
+  }
   finishLine();
   if (!endsList && !section.closingLineIsRead) judgeBesideTag(section.close);
   endSection();
@@ -159,9 +175,18 @@ void CheckObserver::sectionUnclosed(const Section& section, int /*lineNumber*/) 
 
 void CheckObserver::sectionRefused(const Section& section, int /*lineNumber*/, int version) {
   m_judged = true;
-  add(CheckRule::kPositionalVersion, 0,
-      "version " + std::to_string(version) + " is not the one of " + std::string(section.open) +
-          "; nothing of the section is read");
+  const Row& row = *section.positional.slots.front().row;
+  const std::string open(section.open);
+  int parsed = 0;
+  if (m_linesSinceOpening == 0) {
+    m_found.add(CheckRule::kPositionalTooShort, m_opening, open + " has none of its lines; the file ends");
+  } else {
+    add(CheckRule::kPositionalVersion, 0,
+        (FieldScanner(m_text).next(parsed) ? "version " + std::to_string(version) + " is not the one of " + open
+                                           : "the version of " + open + " is expected here") +
+            "; nothing of the section is read",
+        "write " + valueOf(row, defaultsOf(section)) + " in the line behind " + open);
+  }
   m_positional = &section;
   m_section = nullptr;
 }
@@ -236,6 +261,10 @@ void CheckObserver::repaired(const RepairEvent& event) {
 void CheckObserver::finish() {
   finishLine();
   m_found.continueFile(m_mainFile);
+  if (m_firstText.line > 0 && !m_isAnythingRead && !m_isAnythingSaid) {
+    m_found.add(CheckRule::kNothingRead, m_firstText,
+                "no line opens a section or announces a head: nothing of the file is used");
+  }
   for (const auto& [member, change] : m_changes) {
     if (change.before == change.after) continue;
     m_found.add(CheckRule::kRepairedValue, m_origins[member],

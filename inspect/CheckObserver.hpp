@@ -68,6 +68,7 @@ class CheckObserver final : public ReadObserver {
   struct List {
     ListLines lines;
     int announced = 0, entries = 0, expected = 0;
+    bool announcesCount = false;  // the next line is to hold the count
     bool open = false, complained = false, takesLines = false, closed = false;
     Place place;
     double sum = 0.0;
@@ -87,14 +88,19 @@ class CheckObserver final : public ReadObserver {
   const Hit* meantHit(bool isTag);
   void judgeComment();
   void judgeOwnKey(const Hit& hit);
+  void judgePresence(const Hit& hit);
   void judgeRepeated(const Hit& hit);
   void judgeValue(const Hit& hit);
   void judgeTail(const Hit& hit);
   void judgeText(const Hit& hit);
+  void judgeExtras(const Hit& hit, std::size_t valueAt);
   void judgeWithoutKey();
   void judgeGated(const Hit& hit);
   void judgeOtherKeys(const Hit& own);
   bool losesNothing(const Hit& gated) const;
+  bool isOfSwitchedOffList(const Hit& notStored) const;
+  bool isOfOtherSolver(std::string_view key) const;
+  void* defaultsOf(const Section& section);
   bool holdsDefault(const Section& section, const Row& row, void* block);
   void judgeReplaced(const Section& section, const Row& row, void* block, double typed, std::size_t at);
 
@@ -107,6 +113,7 @@ class CheckObserver final : public ReadObserver {
   void endList();
   void judgeField(const KeyEvent& event, std::size_t at);
   bool judgeShortPositional(const Section& section, int positionalLine, bool isFree);
+  void reportShortPositional(Pending pending, const std::string& lostSection);
 
   void endSection();
   void reportGated(const Gated& gated);
@@ -143,6 +150,13 @@ class CheckObserver final : public ReadObserver {
   std::string m_unknownSection;
   const Section* m_positional = nullptr;  // the one read last
   bool m_positionalShort = false;
+  int m_linesSinceOpening = 0;
+  Pending m_tagInFreeLine;  // a sign of missing lines only if a later line is wrong, too
+  std::string m_sectionInFreeLine;
+
+  // of the analysis' own file
+  Place m_firstText;  // neither blank nor comment
+  bool m_isAnythingRead = false, m_isAnythingSaid = false;
 
   std::unordered_map<const Section*, int> m_sectionsSeen;
   std::unordered_map<const void*, Place> m_origins;

@@ -51,7 +51,7 @@ class RawFile {
     if (c == '\n') return endLine();
     if (m_length < kKept) m_text += c;
     if (c == '\0' && m_nul == kNone) m_nul = m_length;
-    if (m_heldCr) m_loneCr = m_length - 1;
+    if (m_heldCr && m_loneCr == kNone) m_loneCr = m_length - 1;
     m_heldCr = c == '\r';
     if (m_notUtf8 == kNone && !m_utf8.accepts(static_cast<unsigned char>(c))) m_notUtf8 = m_length;
     ++m_length;
@@ -60,7 +60,7 @@ class RawFile {
   void finish() {
     if (m_length > 0) {
       m_found.add(CheckRule::kNoFinalNewline, m_line, m_text, m_text.size(), "the last line has no line end");
-      if (m_heldCr) m_loneCr = m_length - 1;
+      if (m_heldCr && m_loneCr == kNone) m_loneCr = m_length - 1;
       m_heldCr = false;
       endLine();
     }

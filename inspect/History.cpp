@@ -62,7 +62,10 @@ std::vector<const HistoryStep*> History::stepsOf(const Row& row, void* block, El
     const bool same = step.address != nullptr ? step.address == address : step.target == &row;
     const bool otherElement = elements == Elements::kOwn && row.store != nullptr && step.target != nullptr &&
                               step.target->store != nullptr && step.target != &row;
-    if ((same && !otherElement) || concerns(step, section)) steps.push_back(&step);
+    // A list that sets the whole array is told once for each of its elements.
+    const bool isCopy =
+        elements == Elements::kAll && step.kind == Kind::kList && step.target != nullptr && step.target != &row;
+    if ((same && !otherElement && !isCopy) || concerns(step, section)) steps.push_back(&step);
   }
   return steps;
 }
@@ -100,6 +103,9 @@ HistoryStep History::stepAt(Kind kind, const Section* section, int lineNumber) c
 
 void History::fileStarted(std::string_view fileName) {
   settleList();
+  m_line.clear();
+  m_lineBefore.clear();
+  m_lineNumber = 0;
   if (m_filesStarted++ == 0) return;
   const auto slash = fileName.rfind('/');
   m_laterFile = fileName.substr(slash == fileName.npos ? 0 : slash + 1);
@@ -126,7 +132,9 @@ void History::lineRead(int lineNumber, std::string_view line) {
     }
     m_listIsNew = false;
   }
+  m_lineBefore.swap(m_line);
   m_line = line;
+  m_lineNumber = lineNumber;
   m_lineIsNew = true;
   if (m_isOpening) m_versionStep = stepAt(Kind::kLine, m_openings.back().section, lineNumber);
   m_isOpening = false;
@@ -169,6 +177,10 @@ HistoryStep History::stepOf(const KeyEvent& event) const {
   step.used = event.value.substr(0, event.value.size() - event.tail.size());
   if (event.key.empty()) step.used = withoutBlanks(step.used);
   step.left = event.tail;
+  if (event.row.lookup == Lookup::kPresence) {
+    step.used = event.key;
+    step.left.clear();
+  }
   const bool isField = event.key.empty() && event.row.at[0].line > 0;
   if (isField && !m_openings.empty()) step.positionalLine = event.lineNumber - m_openings.back().lineNumber;
   step.after = valueOf(event.row, event.block);
@@ -274,8 +286,10 @@ void History::viscoelasticRefused(int lineNumber, std::string_view reason) {
   settleList();
   for (const Section& section : tableOf<CZEBCMPVEParm>().sections) {
     HistoryStep step = stepAt(Kind::kRefused, &section, lineNumber);
-    if (lineNumber == 0) step.line.clear();
-    step.reason = reason;
+    // What line 8 says is judged when line 9 has been read.
+    if (lineNumber == m_lineNumber - 1) step.line = m_lineBefore;
+    if (lineNumber == 0 || lineNumber > m_lineNumber) step.line.clear();
+    step.reason = std::string(reason) + "; what its lines have set is set back";
     m_steps.push_back(std::move(step));
   }
 }

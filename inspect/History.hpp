@@ -105,7 +105,8 @@ class History final : public ReadObserver {
   bool m_isOpening = false;   // since the last line
   int m_filesStarted = 0;
   std::string m_laterFile;
-  std::string m_line;
+  std::string m_line, m_lineBefore;
+  int m_lineNumber = 0;
   bool m_lineIsNew = false;    // since the last positional line
   bool m_hasNotTaken = false;  // among the steps of the head just read
 };

@@ -22,6 +22,7 @@ void Provenance::lineRead(int lineNumber, std::string_view /*line*/) {
 
 void Provenance::sectionOpened(const Section& /*section*/, int /*lineNumber*/) {
   settleList();
+  m_positionalBlock = nullptr;
   if (m_filesStarted <= 1) m_hasSections = true;
 }
 
@@ -34,6 +35,7 @@ void Provenance::keyFound(const KeyEvent& event) {
   const bool refused = event.outcome == KeyOutcome::kRefused;
   if (event.outcome != KeyOutcome::kStored && !refused) return;
   const void* member = event.row.field.locate(event.block);
+  if (event.section.isPositional()) m_positionalBlock = event.block;
   if (event.row.store != nullptr) {
     const int first = m_firstElements.try_emplace(member, event.lineNumber).first->second;
     m_origins[member] = here(first, event.lineNumber);
@@ -62,6 +64,19 @@ void Provenance::settleList() {
     } else if (member.isChanged()) {
       m_origins[member.address()] = here(m_listLine);
       m_firstElements.erase(member.address());
+    }
+  }
+}
+
+// Fields that the line lacks may count as 0.
+void Provenance::linePositional(const Section& section, int lineNumber, int positionalLine, int converted,
+                                int /*expected*/, std::string_view /*tail*/) {
+  const bool absentIsZero = (section.positional.absentIsZero >> positionalLine & 1u) != 0;
+  if (!absentIsZero || m_positionalBlock == nullptr) return;
+  for (const Row& row : section.rows) {
+    for (const Position at : row.at) {
+      if (at.line != positionalLine || at.field <= converted) continue;
+      m_origins[row.field.locate(m_positionalBlock)] = here(lineNumber);
     }
   }
 }

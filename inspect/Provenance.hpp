@@ -28,6 +28,8 @@ class Provenance final : public ReadObserver {
   void sectionUnclosed(const Section& section, int lineNumber) override;
   void keyFound(const KeyEvent& event) override;
   void lineOfList(const Section& section, int lineNumber, std::string_view line, bool used) override;
+  void linePositional(const Section& section, int lineNumber, int positionalLine, int converted, int expected,
+                      std::string_view tail) override;
   void viscoelasticRefused(int lineNumber, std::string_view reason) override;
   void repaired(const RepairEvent& event) override;
 
@@ -40,6 +42,7 @@ class Provenance final : public ReadObserver {
   std::unordered_map<const void*, int> m_firstElements;  // of arrays whose elements have keys: the first one's line
   ListTrace m_list;
   int m_listLine = 0;
+  void* m_positionalBlock = nullptr;  // whose fields are being read
   int m_filesStarted = 0;
   int m_linesRead = 0;
   bool m_hasSections = false;

@@ -17,10 +17,12 @@ enum class CheckRule {
   kCloseWithoutOpen,
   kSectionInsideSection,
   kCommentOpensSection,
+  kCommentClosesSection,
   kSectionRepeated,
   kSeveralKeys,
   kCommentSetsKey,
   kMissingEquals,
+  kPresenceValue,
   kSeveralEquals,
   kUnparsedValue,
   kTextAfterValue,
@@ -46,6 +48,7 @@ enum class CheckRule {
   kNulByte,
   kTabBeforeText,
   kTrailingBlanks,
+  kExtrasInText,
   kNoFinalNewline,
   kByteOrderMark,
   kNotUtf8,
@@ -54,6 +57,7 @@ enum class CheckRule {
   kViscoelasticRefused,
   kNoExtension,
   kVersionUnknown,
+  kNothingRead,
 };
 
 struct RuleInfo {

@@ -34,7 +34,8 @@ std::span<const RuleExample> ruleExamples() {
   static const RuleExample kExamples[] = {
       {kUnknownKey,
        "Lines that hold none of the section's keys are skipped in silence, so a misspelt key leaves its parameter at "
-       "the default. The nearest keys of the section are named, and the sections that do have the key.",
+       "the default. The nearest keys of the section are named, and the sections that do have the key. What another "
+       "solver reads of the same file is not reported.",
        in("Outlet", "IzOutlet = 1\n"), 2, 1, "'IzOutlet' is no key of [Outlet]", in("Outlet", "IsOutlet = 1\n")},
       {kInexactKey,
        "Keys are found anywhere in a line, also inside a longer name. The line sets the key that it happens to hold.",
@@ -71,6 +72,10 @@ std::span<const RuleExample> ruleExamples() {
        "[Outlet] stands inside [ShortShot] of line 1 and is not read", in("ShortShot", "") + in("Outlet", "")},
       {kCommentOpensSection, "The reader knows no comments: an opening opens its section wherever it stands in a line.",
        "# see [ShortShot]\n[/ShortShot]\n", 1, 7, "the comment opens [ShortShot]", "# see ShortShot\n"},
+      {kCommentClosesSection,
+       "The reader knows no comments: a closing ends its section wherever it stands in a line. The lines below it are "
+       "outside, and ignored.",
+       "[ShortShot]\nTimeLimit = 2\n# see [/ShortShot]\n", 3, 7, "the comment closes [ShortShot]", kShortShot},
       {kSectionRepeated,
        "Both copies are read, one after the other: the later values win, and keys that only the first copy holds keep "
        "the values from there.",
@@ -88,6 +93,11 @@ std::span<const RuleExample> ruleExamples() {
        in("ShortShot", "# the limit of the time is 2\n")},
       {kMissingEquals, "The value is what stands behind the first '='. Without one there is no value to store.",
        in("ShortShot", "TimeLimit 2\n"), 2, 10, "no '=' behind TimeLimit; TimeLimit keeps 1.1", kShortShot},
+      {kPresenceValue,
+       "Some switches have no value: the word alone sets them, and nothing sets them back. Such a line says off and "
+       "switches on.",
+       in("Whiteboard", "SensorHeatFlux = 0\n"), 2, 16,
+       "SensorHeatFlux is switched on by its presence; '= 0' is not read", in("Whiteboard", "SensorHeatFlux\n")},
       {kSeveralEquals, "The value begins behind the first '=' of the line, wherever the key stands.",
        in("ShortShot", "TimeLimit = 2 = 3\n"), 2, 15, "a second '='; TimeLimit becomes 2", kShortShot},
       {kUnparsedValue,
@@ -199,6 +209,11 @@ std::span<const RuleExample> ruleExamples() {
       {kTrailingBlanks, "A text runs to the end of its line, blanks included: no file of that name will be found.",
        in("Compression", "FilePathOfLocation = part.loc  \n"), 2, 30, "the blanks become part of FilePathOfLocation",
        kCorrectPath},
+      {kExtrasInText,
+       "A text runs to the end of its line. What is meant as a comment, and quotation marks around a name, are part of "
+       "the name: no file of that name will be found.",
+       in("Compression", "FilePathOfLocation = part.loc # the part\n"), 2, 31,
+       "the comment becomes part of FilePathOfLocation", kCorrectPath},
       {kNoFinalNewline,
        "The last line is read all the same; but it may be the rest of a file whose end was lost on the way.",
        "[ShortShot]\n[/ShortShot]", 2, 13, "the last line has no line end", "[ShortShot]\n[/ShortShot]\n"},
@@ -240,6 +255,11 @@ std::span<const RuleExample> ruleExamples() {
        "Version 1023 is followed by the head of 19 lines, 1013 by the standard solver's head. With any other number no "
        "head is read, and its lines are ignored.",
        "[VER] 1024\n", 1, 1, "version 1024 is unknown; no head is read", "[VER] 1013\n"},
+      {kNothingRead,
+       "Every text is a valid file to the reader. Most often the name of another file was given, or a file of another "
+       "kind.",
+       "The cover's parameters\n", 1, 1, "no line opens a section or announces a head: nothing of the file is used",
+       "# The cover's parameters\n"},
   };
   return kExamples;
 }

@@ -36,6 +36,8 @@ std::string Origin::text() const {
     }
     case Kind::kRepair:
       return "repair: " + note;
+    case Kind::kDerived:
+      return "derived";
     case Kind::kDefault:
       break;
   }
@@ -78,6 +80,10 @@ std::vector<BlockSettings> settingsOf(const std::vector<BlockView>& blocks, cons
         Setting setting{&row, &section, std::string(row.field.member), valueOf(row, view.block), valueOf(row, defaults),
                         {}};
         if (provenance != nullptr) setting.origin = provenance->origin(row.field.locate(view.block));
+        // No line and no repair tells of what a reader concludes from other members, or of what the host sets.
+        if (provenance != nullptr && setting.origin.kind == Origin::Kind::kDefault && setting.isChanged()) {
+          setting.origin.kind = Origin::Kind::kDerived;
+        }
         block.settings.push_back(std::move(setting));
       }
     }

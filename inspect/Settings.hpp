@@ -13,14 +13,15 @@ class Provenance;
 
 /// Where a member's value came from.
 struct Origin {
-  enum class Kind { kDefault, kFile, kRepair };
+  enum class Kind { kDefault, kFile, kRepair, kDerived };
   Kind kind = Kind::kDefault;
   std::string file;  ///< of kFile
   int line = 0;      ///< of kFile
   int lastLine = 0;  ///< of kFile: where a list's lines end, if not in `line`
   std::string note;  ///< of kRepair: the condition
 
-  /// "default", "line 12", "lines 12-15", "cover.vecmp line 3" or "repair: material type 1".
+  /// "default", "derived" (from other members, or set by the host), "line 12", "lines 12-15", "cover.vecmp line 3" or
+  /// "repair: material type 1".
   std::string text() const;
 };
 

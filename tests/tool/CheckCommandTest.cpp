@@ -47,11 +47,11 @@ TEST(CheckCommand, ReadsEachFileAsWhatItIs) {
 }
 
 TEST(CheckCommand, ReadsAFileAsTold) {
-  const TemporaryFile file("[General]\nTempSubdt = 1\n[/General]\n");
+  const TemporaryFile file("[General]\nIsTurbFlow = x\n[/General]\n");
   EXPECT_EQ(runTool({"check", file.path()}).exitCode, 0);
   const ToolRun run = runTool({"check", "--as", "std", file.path()});
   EXPECT_EQ(run.exitCode, 1);
-  EXPECT_THAT(run.out, HasSubstr("'TempSubdt' is no key of [General]"));
+  EXPECT_THAT(run.out, HasSubstr("'x' is no int; IsTurbFlow keeps "));
   EXPECT_EQ(runTool({"check", "--as", "nope", file.path()}).exitCode, 2);
   EXPECT_EQ(runTool({"check", "--as", "cmx", "--wax", file.path()}).exitCode, 2);
 }

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <regex>
 
 #include "tests/support/WithoutPrivileges.hpp"
 #include "tests/tool/RunTool.hpp"
@@ -99,6 +100,7 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"MoldingOfACmx", {"explain", "CMX", "Level1", "--molding", "RTM"}, "have no meaning for a CMX file"},
         Refusal{"RawOfACmx", {"show", "CMX", "--raw"}, "the library has no dump for a CMX file"},
         Refusal{"DiffOfTwoKinds", {"diff", "FILE", "CMX"}, "they have no parameters in common"},
+        Refusal{"ToleranceThatIsNoNumber", {"diff", "FILE", "FILE", "--tolerance", "nan"}, "expects a number"},
         Refusal{"DiffOfOne", {"diff", "FILE"}, "diff needs a second file"},
         Refusal{"TemplateOfACmxForAMolding", {"template", "--as", "cmx", "--molding", "IM"}, "does not depend"},
         Refusal{"MissingFile", {"show", "no-such-file.cmp"}, "no-such-file.cmp: no such file"},
@@ -247,6 +249,57 @@ TEST(Explain, TellsAnArrayWithKeysForItsElementsAsOne) {
   const ToolRun element = runTool({"explain", file.path(), "Point_x2"});
   EXPECT_THAT(element.out, StartsWith("UNFSetting.m_pdDispenserPoint  key Point_x2  in [UNFSetting]\n"));
   EXPECT_THAT(element.out, Not(HasSubstr("line 4")));
+}
+
+TEST(Explain, KnowsTheNamesInTheLinesOfAList) {
+  const TemporaryFile file("[RTM]\nIsVentInlet = 1\nNVentInlet = 1\nVentInletID = 7\n[/RTM]\n");
+  EXPECT_THAT(runTool({"explain", file.path(), "NVentInlet"}).out, HasSubstr("final value  1\n"));
+  EXPECT_THAT(runTool({"explain", file.path(), "RTM.VentInletID"}).out, HasSubstr("final value  [7]\n"));
+  EXPECT_THAT(runTool({"explain", file.path(), "Weightings"}).out, StartsWith("MultiGate.m_pdInletWeightings  "));
+  EXPECT_EQ(runTool({"explain", file.path(), "ShowOverflowGateData"}).exitCode, 0);  // the key ends with a blank
+}
+
+TEST(Explain, ReadsNoValueBehindASwitch) {
+  const TemporaryFile file("[Whiteboard]\nHeatFluxHistory = 0\n[/Whiteboard]\n");
+  EXPECT_THAT(runTool({"explain", file.path(), "HeatFluxHistory"}).out,
+              HasSubstr("parsed \"HeatFluxHistory\"\n      -> true\n"));
+}
+
+TEST(Explain, SaysWhichValuesAreDerived) {
+  const TemporaryFile file("");
+  const std::string companion = file.path().substr(0, file.path().rfind('.')) + ".vecmp";
+  std::ofstream(companion) << "1006\n100 200 0\n0.1 0.1 0.1\n0.1 0.1 0\n1 20000\n20 20 0\n0.1 0.1 0.1\n1 0.5 0\n-1\n"
+                              "<PLOT_MATERIAL>\nFlagIsPlotShearVis = 1\n</PLOT_MATERIAL>\n";
+  const ToolRun run = runTool({"explain", file.path(), "m_bPlotMaterialFun", "--viscoelastic"});
+  EXPECT_THAT(run.out, HasSubstr("  derived  from other members, or set by the host\n  final value  true\n"));
+  const ToolRun shown = runTool({"show", file.path(), "--viscoelastic", "--changed"});
+  EXPECT_THAT(shown.out, testing::ContainsRegex("m_bPlotMaterialFun +true +derived \\(default false\\)"));
+  std::filesystem::remove(companion);
+}
+
+TEST(Show, TellsTheShortLineThatSetsAFieldTo0) {
+  const TemporaryFile file("[VER] 1023\n3\n");
+  EXPECT_THAT(runTool({"show", file.path(), "--changed"}).out,
+              testing::ContainsRegex("m_dVisTempLimiter +0 +line 2 \\(default 5\\)"));
+}
+
+TEST(Diff, TellsThatAViscoelasticFileIsNotTaken) {
+  const TemporaryFile file(kOutlet);
+  const ToolRun run = runTool({"diff", file.path(), "--against-molding", "IM", "--viscoelastic"});
+  EXPECT_THAT(run.err, HasSubstr("the viscoelastic file is not taken: "));
+}
+
+TEST(Help, ExplainsNamesThatExist) {
+  const std::string help = runTool({"explain", "--help"}).out;
+  const TemporaryFile cmp(""), cmx("<SOLID_FILL>\n</SOLID_FILL>\n", ".cmx");
+  const std::regex example("compparm explain part[.](cmp|cmx) ([A-Za-z0-9.]+)( --as std)?");
+  int examples = 0;
+  for (std::sregex_iterator at(help.begin(), help.end(), example), end; at != end; ++at, ++examples) {
+    std::vector<std::string> arguments{"explain", (*at)[1] == "cmp" ? cmp.path() : cmx.path(), (*at)[2]};
+    if ((*at)[3].length() > 0) arguments.insert(arguments.end(), {"--as", "std"});
+    EXPECT_EQ(runTool(arguments).exitCode, 0) << at->str();
+  }
+  EXPECT_GE(examples, 5);
 }
 
 TEST(Explain, TellsOfTheCompanionFile) {

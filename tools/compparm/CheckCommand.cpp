@@ -88,6 +88,7 @@ void addCheck(CLI::App& app, int& exitCode) {
     command->add_option(name, rules, about)
         ->type_name("RULE")
         ->allow_extra_args(false)
+        ->delimiter(',')
         ->check(CLI::IsMember(ids).description(""));
   };
   addRules("-W", arguments->enabled, "Switch a rule on that is off by default (equals-default)");

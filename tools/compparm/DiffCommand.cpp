@@ -95,6 +95,10 @@ int run(const DiffArguments& arguments) {
   if (!problem.empty()) return fail(problem);
   read(a);
   read(b);
+  for (const Side* side : {&a, &b}) {
+    const std::string& refusal = side->provenance.refusal();
+    if (!refusal.empty()) std::cerr << "compparm: the viscoelastic file is not taken: " << refusal << '\n';
+  }
   const auto differences = zeb::differencesOf(a.settings, b.settings, arguments.tolerance);
   arguments.format == "json" ? printJson(a, b, differences) : printText(a, b, differences);
   return differences.empty() ? kClean : kFindings;
@@ -120,6 +124,7 @@ void addDiff(CLI::App& app, int& exitCode) {
       ->add_option("--tolerance", arguments->tolerance,
                    "Numbers count as the same up to this part of the larger one (default 0: exactly)")
       ->check(CLI::Range(0.0, 1.0).description("from 0 to 1"))
+      ->check([](const std::string& text) { return text.find_first_of("nN") == text.npos ? "" : "expects a number"; })
       ->type_name("REL");
   addFormat(*command, arguments->format, {"text", "json"});
   command->footer(examplesText({{"diff old.cmp new.cmp", "two files"},

@@ -1,4 +1,5 @@
 // compparm explain: the whole chain of one parameter, from its default to the value that the solver uses.
+#include <algorithm>
 #include <iostream>
 #include <memory>
 
@@ -142,6 +143,14 @@ Json jsonStep(const zeb::HistoryStep& step, const Explained& explained, const ze
   return json;
 }
 
+// Whether the value is none of those that the steps, the default before them, have given.
+bool isDerived(const Explained& explained, const std::vector<const zeb::HistoryStep*>& steps) {
+  if (explained.entry->row->store != nullptr) return false;
+  const std::string value = zeb::valueOf(*explained.entry->row, explained.block);
+  return value != explained.entry->defaultValue &&
+         std::none_of(steps.begin(), steps.end(), [&](const zeb::HistoryStep* step) { return step->after == value; });
+}
+
 Json describe(const Explained& explained, const zeb::History& history) {
   const zeb::CatalogueEntry& entry = *explained.entry;
   const zeb::Row& row = *entry.row;
@@ -166,6 +175,7 @@ Json describe(const Explained& explained, const zeb::History& history) {
   json["description"] = explained.description();
   json["default"] = jsonOf(row, entry.defaultValue);
   json["chain"] = std::move(chain);
+  json["derived"] = isDerived(explained, explained.steps(history));
   json["value"] = jsonOf(row, zeb::valueOf(row, explained.block));
   return json;
 }
@@ -236,7 +246,8 @@ void printText(const Explained& explained, const zeb::History& history) {
   printHeading(explained);
   std::cout << "  " << coloured(Colour::kCyan, "default") << "\n      -> " << printable(entry.defaultValue) << '\n';
   bool touched = false;
-  for (const zeb::HistoryStep* step : explained.steps(history)) {
+  const std::vector<const zeb::HistoryStep*> steps = explained.steps(history);
+  for (const zeb::HistoryStep* step : steps) {
     if (step->kind == zeb::HistoryStep::Kind::kRepair) {
       std::cout << "  " << coloured(Colour::kCyan, "repair") << "  " << step->condition
                 << (step->before == step->after ? ": nothing to change" : "") << '\n';
@@ -246,7 +257,9 @@ void printText(const Explained& explained, const zeb::History& history) {
     }
     if (!step->after.empty()) std::cout << "      -> " << printable(step->after) << '\n';
   }
-  if (!touched) {
+  if (isDerived(explained, steps)) {
+    std::cout << "  " << coloured(Colour::kCyan, "derived") << "  from other members, or set by the host\n";
+  } else if (!touched) {
     const bool opened = !history.openings(*entry.section).empty() || entry.section->open.empty();
     std::cout << "  no line of the file sets it"
               << (explained.companionIsUnread ? ": it stands in the companion file, which --viscoelastic reads"
@@ -343,7 +356,7 @@ void addExplain(CLI::App& app, int& exitCode) {
   addFormat(*command, arguments->format, {"text", "json"});
   command->footer(examplesText({{"explain part.cmp AirPressure", "from its default to the final value"},
                                 {"explain part.cmp ShortShot.TimeLimit --molding GAIM", "with that type's repairs"},
-                                {"explain part.cmp General.Debug --format json", "for scripts"},
+                                {"explain part.cmp General.VentMode --format json", "for scripts"},
                                 {"explain part.cmx Level1", "of the analysis settings"},
                                 {"explain part.cmp ddt --as std", "as the standard solver reads it"}}));
   command->callback([arguments, &exitCode] { exitCode = run(*arguments); });

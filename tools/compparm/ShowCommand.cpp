@@ -48,6 +48,8 @@ Json jsonOrigin(const zeb::Origin& origin) {
     }
     case zeb::Origin::Kind::kRepair:
       return {{"kind", "repair"}, {"condition", origin.note}};
+    case zeb::Origin::Kind::kDerived:
+      return {{"kind", "derived"}};
     case zeb::Origin::Kind::kDefault:
       break;
   }
