@@ -299,7 +299,6 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPVEParm>() {
        .doc = "Number of input strain rates; above 0 it announces them, negative: none."},
       {.field = field<&T::m_dTransient_InputStrainRate, &T::getMatFunPlotParam_Transient_InputStrainRate>(),
        .key = kStrainRateKey, .store = kNoElement, .doc = "Input strain rates, one a line, to the end of the file."},
-      {.field = field<&T::m_nTransient_HeldStrainRate>(), .doc = "Number of strain rates that the array has room for."},
       {.field = field<&T::m_dTransient_RefTem, &T::getMatFunPlotParam_Transient_RefTem>(), .key = "RefTemperature",
        .doc = "Reference temperature of the transient plot."},
       {.field = field<&T::m_dTransient_DeltaTem, &T::getMatFunPlotParam_Transient_DeltaTem>(),
