@@ -67,14 +67,30 @@ class Trial {
   void* m_block;
 };
 
+constexpr std::string_view kNextLine = "following line";
+
 struct TrialWatch final : ReadObserver {
-  bool tookLine = false;
+  bool tookNextLine = false;
   bool isGated = false;
-  void keyFound(const KeyEvent& event) override { isGated = isGated || event.outcome == KeyOutcome::kGated; }
-  void lineOfList(const Section& /*section*/, int /*number*/, std::string_view /*line*/, bool /*used*/) override {
-    tookLine = true;
+  std::vector<const Row*> entries;  // members that have lines of their own in a list
+  void keyFound(const KeyEvent& event) override {
+    isGated = isGated || event.outcome == KeyOutcome::kGated;
+    if (event.key.empty()) entries.push_back(&event.row);
+  }
+  void lineOfList(const Section& /*section*/, int /*number*/, std::string_view line, bool /*used*/) override {
+    tookNextLine = tookNextLine || line == kNextLine;
   }
 };
+
+// Reads the lines into the block as lines of the part's section.
+TrialWatch readInto(const Trial& trial, const Part& part, const std::string& lines) {
+  std::istringstream text(lines + "\n" + std::string(part.section->close) + "\n");
+  const LineSource source{};
+  TrialWatch watch;
+  LineReader reader(text, source, &watch);
+  readSection(*part.section, trial.block(), reader);
+  return watch;
+}
 
 enum class Effect { kKeepsDefaults, kIgnored, kChanges };
 
@@ -82,11 +98,7 @@ enum class Effect { kKeepsDefaults, kIgnored, kChanges };
 // sets have keys that are part of this one; their own lines follow it.
 Effect effectOf(const Part& part, const std::vector<const Row*>& rows, const std::string& line) {
   const Trial before(*part.table), after(*part.table);
-  std::istringstream text(line + "\nfollowing line\n" + std::string(part.section->close) + "\n");
-  const LineSource source{};
-  TrialWatch watch;
-  LineReader lines(text, source, &watch);
-  readSection(*part.section, after.block(), lines);
+  const TrialWatch watch = readInto(after, part, line + "\n" + std::string(kNextLine));
   const auto kept = [&](const Row& row) { return valueOf(row, before.block()) == valueOf(row, after.block()); };
   for (const Row* row : rows) {
     if (!kept(*row)) return Effect::kChanges;
@@ -94,7 +106,7 @@ Effect effectOf(const Part& part, const std::vector<const Row*>& rows, const std
       if (fills(*row, other) && !kept(other)) return Effect::kChanges;
     }
   }
-  if (watch.tookLine) return Effect::kChanges;
+  if (watch.tookNextLine) return Effect::kChanges;
   return watch.isGated ? Effect::kIgnored : Effect::kKeepsDefaults;
 }
 
@@ -169,6 +181,18 @@ std::vector<std::string> candidates(const Row& row, void* block) {
   return textsFor(row, row.field.type, block);
 }
 
+// The lines of the members that the list behind the line sets, at their defaults.
+std::string entriesBehind(const Part& part, const std::string& line) {
+  const Trial defaults(*part.table), trial(*part.table);
+  std::string ones;
+  for (std::size_t i = 0; i < part.section->rows.size(); ++i) ones += "\nentry = 1";
+  std::string lines;
+  for (const Row* entry : readInto(trial, part, line + ones).entries) {
+    lines += "\n" + std::string(entry->field.member) + " = " + valueOf(*entry, defaults.block());
+  }
+  return lines;
+}
+
 std::vector<KeyLine> keyLines(const Part& part, const RepairedDefaults* repaired) {
   const Trial defaults(*part.table);
   std::vector<KeyLine> lines;
@@ -184,7 +208,8 @@ std::vector<KeyLine> keyLines(const Part& part, const RepairedDefaults* repaired
   }
   for (KeyLine& line : lines) {
     for (const std::string& text : candidates(*line.rows.front(), defaults.block())) {
-      const std::string tried = std::string(line.key) + " = " + text;
+      std::string tried = std::string(line.key) + " = " + text;
+      if (line.rows.front()->list != nullptr) tried += entriesBehind(part, tried);
       const Effect effect = effectOf(part, line.rows, tried);
       if (effect == Effect::kChanges) continue;
       line.line = tried;

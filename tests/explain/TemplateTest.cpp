@@ -171,6 +171,11 @@ TEST(CMXTemplate, EachBlockAloneReadsBackToTheDefaults) {
   }
 }
 
+TEST(CMXTemplate, WritesTheEntriesOfAListThatHasDefaults) {
+  const std::string text = zeb::templateText({.molding = {}, .sections = {"FILL_ADVANCED_LONGFIBER"}, .cmx = true});
+  EXPECT_NE(text.find("\nDiffusionModelType = 0\nm_dFiber_CI = 0.01\nFlagFiberBreakage = 0\n"), text.npos) << text;
+}
+
 TEST(Template, TellsUnknownSections) {
   EXPECT_EQ(zeb::unknownTemplateSection({.molding = {}, .sections = {"Outlet", "Outlett"}, .cmx = false}), "Outlett");
   EXPECT_EQ(zeb::unknownTemplateSection({.molding = {}, .sections = {"outlet", "VER"}, .cmx = false}), "");
