@@ -183,6 +183,7 @@ HistoryStep History::stepOf(const KeyEvent& event) const {
   }
   const bool isField = event.key.empty() && event.row.at[0].line > 0;
   if (isField && !m_openings.empty()) step.positionalLine = event.lineNumber - m_openings.back().lineNumber;
+  if (isField && step.used.empty()) step.reason = "the line lacks the field; that of the line above counts";
   step.after = valueOf(event.row, event.block);
   return step;
 }

@@ -301,6 +301,15 @@ TEST(History, TellsHeadValuesOfTheViscoelasticFileThatAreNotTaken) {
   EXPECT_EQ(weight[0]->after, "0.5");
 }
 
+TEST(History, TellsThatAShortHeadLineCountsOnTheOneAbove) {
+  WithViscoelasticFile file("1006\n50 2 0\n20 0.2 30\n20\n1000 1e6\n0 1e4 0\n1 10 1000\n1 0.5 0\n-1\n");
+  file.explain();
+  const auto steps = file.steps("m_dModifyLamdaStressUB");
+  ASSERT_EQ(steps.size(), 1u);
+  EXPECT_EQ(steps[0]->after, "0.2");
+  EXPECT_EQ(steps[0]->reason, "the line lacks the field; that of the line above counts");
+}
+
 TEST(History, TellsWhyTheViscoelasticFileIsRefused) {
   WithViscoelasticFile file("1006\n50 2 0\n20 0.2 30\n20 0.01 20\n1000 1e6\n0 1e4 0\n1 10 1000\n4 0.5 0\n-1\n");
   file.explain();

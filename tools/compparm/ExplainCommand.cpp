@@ -199,6 +199,7 @@ void printHeading(const Explained& explained) {
 }
 
 std::string parsedText(const zeb::HistoryStep& step) {
+  if (!step.reason.empty()) return step.reason;
   std::string text = "parsed \"" + printable(step.used) + "\"";
   if (!step.left.empty()) text += ", left over \"" + printable(step.left) + "\"";
   return text;
@@ -229,6 +230,8 @@ void printLineStep(const zeb::HistoryStep& step, const Explained& explained, con
     case Kind::kList:
       std::cout << (step.key.empty() ? "set by the list" : "set by the list of " + step.key);
       for (const std::string& line : step.listLines) std::cout << "\n        " << printable(line);
+      if (step.row->lines.sumsToOne)
+        std::cout << "\n        the last one is one minus the others, whatever its line says";
       break;
     default:
       std::cout << parsedText(step);
