@@ -199,14 +199,15 @@ void CheckObserver::judgePresence(const Hit& hit) {
 }
 
 void CheckObserver::judgeRepeated(const Hit& hit) {
-  const auto [earlier, isFirst] = m_setAt.try_emplace(hit.row, SetBy{m_line, hit.key});
+  SetBy now{here(m_text.find(hit.key)), hit.key, hit.block};
+  const auto [earlier, isFirst] = m_setAt.try_emplace(hit.row, now);
   m_pending.erase(hit.row);
   if (isFirst) return;
-  const SetBy before = std::exchange(earlier->second, {m_line, hit.key});
-  std::string message = std::string(hit.key) + " was set in line " + std::to_string(before.line) + " already";
+  const SetBy before = std::exchange(earlier->second, std::move(now));
+  std::string message = std::string(hit.key) + " was set in line " + std::to_string(before.place.line) + " already";
   if (before.key != hit.key) message += ", as " + std::string(before.key);
   add(CheckRule::kKeyRepeated, m_text.find(hit.key),
-      message + "; this line wins with " + shown(*hit.row, hit.block, hit.value, hit.tail));
+      message + "; this line wins with " + shown(*hit.row, hit.block, hit.value, hit.tail) + forgetElements(*hit.row));
 }
 
 void CheckObserver::judgeValue(const Hit& hit) {
@@ -285,7 +286,7 @@ void CheckObserver::judgeOtherKeys(const Hit& own) {
     const auto earlier = m_setAt.find(hit.row);
     std::string message =
         "the line also sets " + std::string(hit.key) + " to " + shown(*hit.row, hit.block, hit.value, hit.tail);
-    if (earlier != m_setAt.end()) message += ", against line " + std::to_string(earlier->second.line);
+    if (earlier != m_setAt.end()) message += ", against line " + std::to_string(earlier->second.place.line);
     const std::size_t inKey = own.key.find(hit.key);
     const std::size_t at = inKey == own.key.npos ? m_text.find(hit.key) : m_text.find(own.key) + inKey;
     m_pending[hit.row] = {here(at), std::move(message)};

@@ -1,6 +1,7 @@
 // Lists behind a count, and the lines of positional sections.
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "frame/SectionEngine.hpp"
 #include "inspect/CheckObserver.hpp"
@@ -117,6 +118,35 @@ void CheckObserver::judgeFinite(std::size_t at, double value, std::string_view t
   add(CheckRule::kNotFinite, at, quoted(text) + " is read as " + number(value) + " and used");
 }
 
+// --- Lists whose elements have keys of their own ---------------------------------------------------------------------
+
+// A count that comes again makes its list anew.
+std::string CheckObserver::forgetElements(const Row& count) {
+  const auto lost = std::erase_if(
+      m_setAt, [&](const auto& known) { return known.first->store != nullptr && fills(count, *known.first); });
+  return lost == 0 ? "" : " and sets the elements from above back to 0";
+}
+
+void CheckObserver::judgeMissingElements() {
+  if (m_section == nullptr) return;
+  for (const Row& count : m_section->rows) {
+    const auto announced = m_setAt.find(&count);
+    if (announced == m_setAt.end()) continue;
+    std::vector<std::string_view> missing;
+    for (const Row& element : m_section->rows) {
+      if (element.store == nullptr || !fills(count, element) || m_setAt.contains(&element)) continue;
+      // Only what the list has room for can be stored; there is a 0 already.
+      if (element.store(announced->second.block, 0.0)) missing.push_back(element.key);
+    }
+    if (missing.empty()) continue;
+    m_found.add(
+        CheckRule::kListTooShort, announced->second.place,
+        std::string(missing.front()) + (missing.size() == 1 ? " is not set and stays 0"
+                                                            : " and " + std::to_string(missing.size() - 1) +
+                                                                  " more elements of the list are not set and stay 0"));
+  }
+}
+
 void CheckObserver::endList() {
   if (!m_list.open) return;
   m_list.open = false;
@@ -143,6 +173,9 @@ void CheckObserver::linePositional(const Section& section, int /*lineNumber*/, i
   m_judged = true;
   m_positional = &section;
   if (positionalLine == section.positional.lines) m_section = nullptr;
+  if (!m_positionalShort && !fileEnded) judgeNotTaken(section, positionalLine, converted);
+  m_fieldsStored.clear();
+  const bool isCarriedOver = std::exchange(m_isCarriedOver, false);
   if (m_positionalShort) return;
   if (fileEnded || judgeShortPositional(section, positionalLine, expected == 0)) {
     m_positionalShort = true;
@@ -164,7 +197,8 @@ void CheckObserver::linePositional(const Section& section, int /*lineNumber*/, i
   } else if (converted < expected) {
     add(CheckRule::kPositionalFields, at,
         place + ": " + std::to_string(converted) + " of " + std::to_string(expected) + " fields can be read" +
-            (rest.empty() ? "" : "; reading stops at " + quoted(rest)));
+            (rest.empty() ? "" : "; reading stops at " + quoted(rest)) +
+            (isCarriedOver ? "; for the others those of the line above count" : ""));
   } else if (expected > 0 && !rest.empty()) {
     add(CheckRule::kPositionalExtra, at,
         quoted(rest) + " behind the " + std::to_string(expected) + " field" + (expected > 1 ? "s" : "") + " of " +
@@ -177,10 +211,31 @@ void CheckObserver::judgeField(const KeyEvent& event, std::size_t at) {
   if (type == FieldType::kDouble) {
     judgeFinite(at, *static_cast<const double*>(event.row.field.locate(event.block)), trimmed(event.value));
   }
+  m_fieldsStored.push_back(&event.row);
+  m_isCarriedOver = m_isCarriedOver || trimmed(event.value).empty();
   FieldScanner scanner(event.value);
   double typed = 0.0;
   const bool isNumber = type == FieldType::kDouble || type == FieldType::kInt;
   if (isNumber && scanner.next(typed)) judgeReplaced(event.section, event.row, event.block, typed, at);
+}
+
+// The viscoelastic head takes some values only above a limit. 0 says that the line leaves the value to the block.
+void CheckObserver::judgeNotTaken(const Section& section, int positionalLine, int converted) {
+  constexpr int kModelLine = 8;  // what it says is told behind the line that confirms it
+  if (!isCompanion() || positionalLine >= kModelLine) return;
+  FieldScanner scanner(m_text);
+  for (int field = 1; field <= converted; ++field) {
+    const std::string_view left = scanner.rest();
+    double typed = 0.0;
+    scanner.next(typed);
+    const auto row = std::find_if(section.rows.begin(), section.rows.end(), [&](const Row& candidate) {
+      return candidate.at[0].line == positionalLine && candidate.at[0].field == field;
+    });
+    if (row == section.rows.end() || typed == 0.0 || row->field.type != FieldType::kDouble) continue;
+    if (std::find(m_fieldsStored.begin(), m_fieldsStored.end(), &*row) != m_fieldsStored.end()) continue;
+    add(CheckRule::kValueReplaced, m_text.find(trimmed(left), m_text.size() - left.size()),
+        number(typed) + " is not taken for " + std::string(row->field.member), std::string(row->doc));
+  }
 }
 
 // A tag among the lines: they are too few, and the section of the tag is lost with them. Lines without fields may hold

@@ -193,6 +193,7 @@ void CheckObserver::sectionRefused(const Section& section, int /*lineNumber*/, i
 
 void CheckObserver::endSection() {
   endList();
+  judgeMissingElements();
   for (auto& [key, pending] : m_pending) {
     m_found.add(CheckRule::kSeveralKeys, std::move(pending.place), std::move(pending.message));
   }

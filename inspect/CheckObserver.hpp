@@ -49,8 +49,9 @@ class CheckObserver final : public ReadObserver {
     std::string value, tail;
   };
   struct SetBy {
-    int line;
+    Place place;
     std::string_view key;
+    void* block;
   };
   struct Pending {
     Place place;
@@ -111,7 +112,10 @@ class CheckObserver final : public ReadObserver {
   void judgeFinite(std::size_t at, double value, std::string_view text);
   bool isTakenInPlaceOf(const Section& section, std::string_view line) const;
   void endList();
+  std::string forgetElements(const Row& count);
+  void judgeMissingElements();
   void judgeField(const KeyEvent& event, std::size_t at);
+  void judgeNotTaken(const Section& section, int positionalLine, int converted);
   bool judgeShortPositional(const Section& section, int positionalLine, bool isFree);
   void reportShortPositional(Pending pending, const std::string& lostSection);
 
@@ -151,7 +155,9 @@ class CheckObserver final : public ReadObserver {
   const Section* m_positional = nullptr;  // the one read last
   bool m_positionalShort = false;
   int m_linesSinceOpening = 0;
-  Pending m_tagInFreeLine;  // a sign of missing lines only if a later line is wrong, too
+  std::vector<const Row*> m_fieldsStored;  // of the positional line
+  bool m_isCarriedOver = false;            // a field that the line lacks has the value of the line above
+  Pending m_tagInFreeLine;                 // a sign of missing lines only if a later line is wrong, too
   std::string m_sectionInFreeLine;
 
   // of the analysis' own file

@@ -12,7 +12,7 @@ constexpr RuleInfo kRules[] = {
     {kUnknownKey, "unknown-key", "A line of a section sets no key.", "correct the key or remove the line"},
     {kInexactKey, "inexact-key", "A key is only found inside a longer name.", "write the key alone"},
     {kUnknownSection, "unknown-section", "An opening names no section; its lines are ignored.",
-     "section names are case-sensitive"},
+     "compparm list names the sections"},
     {kKeyOutsideSection, "key-outside-section", "A key stands outside of every section.",
      "move the line into its section"},
     {kUnclosedSection, "unclosed-section", "A section runs to the end of the file.", "add the closing line"},

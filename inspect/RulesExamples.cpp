@@ -20,7 +20,7 @@ constexpr const char* kChannel = "[3DCoolingChannel]\n1002\n0\n10\n10\n0.5 0.5\n
 constexpr const char* kChannelClose = "[/3DCoolingChannel]\n";
 constexpr const char* kTwoGroups = "MultipleGateMethod = 1\nNumberofInletGroups = 2\n";
 constexpr const char* kViscoelasticHead =
-    "100 200 0\n0.1 0.1 0.1\n0.1 0.1 0\n1 20000\n20 20 0\n0.1 0.1 0.1\n1 0.5 0\n-1\n";
+    "100 200 0\n11 0.1 12\n0.1 0.1 0\n1 20000\n20 20 0\n0.1 0.1 0.1\n1 0.5 0\n-1\n";
 
 std::string withGroups(std::string_view lines) { return in("MultiGate", kTwoGroups + std::string(lines)); }
 std::string withChannel(std::string_view before, std::string_view after) {
@@ -134,7 +134,7 @@ std::span<const RuleExample> ruleExamples() {
       {kPointBeyondCount, "An element of a list is stored only when the count, in a line above it, is large enough.",
        in("UNFSetting", "FillType = 2\nnDispenserPoint = 1\nPoint_x2 = 1.5\n"), 4, 1,
        "Point_x2 is beyond the list's count and is not stored",
-       in("UNFSetting", "FillType = 2\nnDispenserPoint = 2\nPoint_x2 = 1.5\n")},
+       in("UNFSetting", "FillType = 2\nnDispenserPoint = 1\nPoint_x1 = 1.5\nPoint_y1 = 0.5\n")},
       {kKeyRepeated, "Each line is stored as it comes, so the last one of a key wins.",
        in("ShortShot", "TimeLimit = 2\nTimeLimit = 3\n"), 3, 1,
        "TimeLimit was set in line 2 already; this line wins with 3", in("ShortShot", "TimeLimit = 2\nFRLimit = 3\n")},

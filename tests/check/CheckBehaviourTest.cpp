@@ -137,6 +137,16 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"AWeightWithADecimalComma",
              in("MultiGate", "MultipleGateMethod = 1\nNumberofInletGroups = 2\nWeightings = 0,5\nWeightings = 1\n"),
              {"4 text-after-value"}},
+        Case{"PointsThatAreMissing",
+             in("UNFSetting", "FillType = 2\nnDispenserPoint = 2\nPoint_x1 = 1\nPoint_y1 = 2\nPoint_y2 = 3\n"),
+             {"3 list-too-short"}},
+        Case{"AllPointsThatAFileCanSet",
+             in("UNFSetting", "FillType = 2\nnDispenserPoint = 1\nPoint_x1 = 1\nPoint_y1 = 2\n"),
+             {}},
+        Case{"PointsAboveASecondCount",
+             in("UNFSetting",
+                "FillType = 2\nnDispenserPoint = 1\nPoint_x1 = 1\nPoint_y1 = 2\nnDispenserPoint = 1\nPoint_x1 = 1\n"),
+             {"6 key-repeated", "6 list-too-short"}},
         Case{"AListThatTheFileCutsShort",
              "[MultiGate]\nMultipleGateMethod = 1\nNumberofInletGroups = 3\nWeightings = 0.5\n",
              {"1 unclosed-section", "3 list-too-short"}}),
@@ -305,6 +315,16 @@ TEST(CheckHints, NameTheBlankThatAKeyNeeds) {
   EXPECT_EQ(findings[0].hint, "a blank must stand between ShowOverflowGateData and '='");
 }
 
+TEST(CheckMessages, NameTheElementsThatAListLacks) {
+  const auto findings = findingsIn(
+      in("UNFSetting", "FillType = 2\nnDispenserPoint = 2\nPoint_x1 = 1\nPoint_y1 = 2\nnDispenserPoint = 2\n"));
+  ASSERT_EQ(findings.size(), 2u) << told(findings);
+  EXPECT_EQ(
+      findings[0].message,
+      "nDispenserPoint was set in line 3 already; this line wins with 2 and sets the elements from above back to 0");
+  EXPECT_EQ(findings[1].message, "Point_x1 and 3 more elements of the list are not set and stay 0");
+}
+
 TEST(CheckHints, SpeakOfLetterCaseOnlyWhereItIsWrong) {
   EXPECT_THAT(findingsIn("[outlet]\n").at(0).hint, HasSubstr("case-sensitive"));
   EXPECT_EQ(findingsIn("[Outlt]\n").at(0).hint, "did you mean [Outlet]?");
@@ -317,7 +337,7 @@ TEST(CheckHints, NameTheVersion) {
 TEST(CheckRawFile, PointsToTheFirstLoneReturn) { EXPECT_EQ(findingsIn("# a\rb\rc\n").at(0).place.column, 4); }
 
 constexpr const char* kCompanion =
-    "1006\n100 200 0\n0.1 0.1 0.1\n0.1 0.1 0\n1 20000\n20 20 0\n0.1 0.1 0.1\n1 0.5 0\n-1\n";
+    "1006\n100 200 0\n11 0.1 12\n0.1 0.1 0\n1 20000\n20 20 0\n0.1 0.1 0.1\n1 0.5 0\n-1\n";
 
 std::vector<zeb::Diagnostic> findingsWith(const std::string& content, const std::string& companion, int molding) {
   const zebtest::TemporaryFile file(content);
@@ -370,6 +390,26 @@ TEST(CheckCompanion, FindingsStayWithTheirFile) {
   EXPECT_EQ(
       companionFindings(cmp, std::string(kCompanion).replace(5, 3, "x"), 6),
       (Texts{"cmp 2 repaired-value", "cmp 4 unclosed-section", "cmp 5 no-final-newline", "vecmp 2 positional-fields"}));
+}
+
+TEST(CheckCompanion, ValuesThatTheHeadDoesNotTake) {
+  const std::string lines = "1006\n10 0 0\n10.5 -1 9\n0.1 0.1 0\n1 10000\n-49 -50 0\n0 0 0\n1 0.5 0\n-1\n";
+  EXPECT_EQ(companionFindings("", lines),
+            (Texts{"vecmp 2 value-replaced", "vecmp 3 value-replaced", "vecmp 3 value-replaced",
+                   "vecmp 5 value-replaced", "vecmp 6 value-replaced"}));
+  const auto findings = findingsWith("", lines, 0);
+  ASSERT_FALSE(findings.empty());
+  EXPECT_EQ(findings[0].message, "10 is not taken for m_dTLowBond");
+  EXPECT_EQ(findings[0].hint, "Lower bound of the temperature; only a value above 10 is taken.");
+  EXPECT_EQ(findings[1].place.column, 6);
+}
+
+TEST(CheckCompanion, ShortHeadLinesTellWhatTheyTakeOver) {
+  const auto findings =
+      findingsWith("", "1006\n100 200 0\n11 0.1 12\n0.1\n1 20000\n20 20 0\n0.1 0.1 0.1\n1 0.5 0\n-1\n", 0);
+  ASSERT_EQ(findings.size(), 1u) << told(findings);
+  EXPECT_EQ(findings[0].message,
+            "line 4 of the head: 1 of 3 fields can be read; for the others those of the line above count");
 }
 
 TEST(CheckCompanion, AMissingOneIsAFinding) {
