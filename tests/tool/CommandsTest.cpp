@@ -308,6 +308,21 @@ TEST(Explain, TellsOfTheCompanionFile) {
               HasSubstr("it stands in the companion file, which --viscoelastic reads"));
 }
 
+TEST(Explain, TellsOfMembersThatNoFileCanSet) {
+  const TemporaryFile file(kOutlet);
+  EXPECT_THAT(runTool({"explain", file.path(), "m_iNVE_Model"}).out,
+              HasSubstr("no line of the file sets it: it has neither key nor place in a file"));
+}
+
+TEST(Explain, TellsOfTheLastWeight) {
+  const TemporaryFile file(
+      "[MultiGate]\nMultipleGateMethod = 1\nNumberofInletGroups = 2\nWeightings = 0.4\nWeightings = 0.9\n"
+      "[/MultiGate]\n");
+  EXPECT_THAT(runTool({"explain", file.path(), "m_pdInletWeightings"}).out,
+              HasSubstr("line 5: Weightings = 0.9\n        the last one is one minus the others, whatever its line "
+                        "says\n      -> [0.4, 0.6]\n"));
+}
+
 TEST(Explain, ReadsAsTheStandardSolver) {
   const TemporaryFile file("[VER] 1013\n7 2 2 2 2 2\n");
   const ToolRun standard = runTool({"explain", file.path(), "ilsolvU", "--as", "std"});

@@ -244,6 +244,22 @@ void printLineStep(const zeb::HistoryStep& step, const Explained& explained, con
   printOthers(step, history);
 }
 
+// Whether a file has a place for the member.
+bool isSettable(const zeb::CatalogueEntry& entry) {
+  const zeb::Row& row = *entry.row;
+  const auto listFillsIt = [&](const zeb::Row& other) { return zeb::fills(other, row); };
+  return !row.key.empty() || row.at[0].line > 0 ||
+         std::any_of(entry.section->rows.begin(), entry.section->rows.end(), listFillsIt);
+}
+
+std::string_view whyUntouched(const Explained& explained, const zeb::History& history) {
+  const zeb::CatalogueEntry& entry = *explained.entry;
+  if (!isSettable(entry)) return ": it has neither key nor place in a file";
+  if (explained.companionIsUnread) return ": it stands in the companion file, which --viscoelastic reads";
+  const bool opened = !history.openings(*entry.section).empty() || entry.section->open.empty();
+  return opened ? "" : ": its section is not opened";
+}
+
 void printText(const Explained& explained, const zeb::History& history) {
   const zeb::CatalogueEntry& entry = *explained.entry;
   printHeading(explained);
@@ -263,12 +279,7 @@ void printText(const Explained& explained, const zeb::History& history) {
   if (isDerived(explained, steps)) {
     std::cout << "  " << coloured(Colour::kCyan, "derived") << "  from other members, or set by the host\n";
   } else if (!touched) {
-    const bool opened = !history.openings(*entry.section).empty() || entry.section->open.empty();
-    std::cout << "  no line of the file sets it"
-              << (explained.companionIsUnread ? ": it stands in the companion file, which --viscoelastic reads"
-                  : opened                    ? ""
-                                              : ": its section is not opened")
-              << '\n';
+    std::cout << "  no line of the file sets it" << whyUntouched(explained, history) << '\n';
   }
   std::cout << "  " << coloured(Colour::kBold, "final value  ")
             << coloured(Colour::kGreen, printable(zeb::valueOf(*entry.row, explained.block))) << "\n";
