@@ -9,6 +9,20 @@
 
 namespace zeb {
 
+namespace {
+
+// Scanned entries are three words, the '=' one of them.
+bool isJoinedByEquals(std::string_view line) {
+  const auto at = line.find('=');
+  if (at == line.npos) return false;
+  const auto isBlank = [&](std::size_t place) {
+    return place >= line.size() || line[place] == ' ' || line[place] == '\t';
+  };
+  return (at > 0 && !isBlank(at - 1)) || !isBlank(at + 1);
+}
+
+}  // namespace
+
 void CheckObserver::startList(const KeyEvent& event) {
   endList();
   m_list = {};
@@ -50,7 +64,9 @@ void CheckObserver::lineOfList(const Section& section, int /*lineNumber*/, std::
         std::string(m_list.lines.countName) + " is expected in this line, right below line " +
             std::to_string(m_list.announced) + "; the list is not read");
   } else {
-    add(CheckRule::kListTooShort, 0, list + " takes this line, but it is no usable entry");
+    const bool isJoined = m_list.lines.number == ListLines::Number::kScanned && isJoinedByEquals(line);
+    add(CheckRule::kListTooShort, 0, list + " takes this line, but it is no usable entry",
+        isJoined ? "put a blank on each side of '='" : "");
   }
   m_list.complained = true;
 }

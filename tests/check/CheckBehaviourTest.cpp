@@ -330,6 +330,19 @@ TEST(CheckHints, SpeakOfLetterCaseOnlyWhereItIsWrong) {
   EXPECT_EQ(findingsIn("[Outlt]\n").at(0).hint, "did you mean [Outlet]?");
 }
 
+TEST(CheckHints, NameTheBlanksThatAnEntryNeeds) {
+  const auto hint = [](const std::string& entry) {
+    const auto findings =
+        findingsIn("<FILL_OUTPUT_TIMES>\nValueNoFillOutputTime = 1\n" + entry + "\n</FILL_OUTPUT_TIMES>\n",
+                   {.kind = zeb::FileKind::kCmx});
+    return findings.size() == 1 ? findings[0].hint : told(findings);
+  };
+  EXPECT_EQ(hint("1=0.5"), "put a blank on each side of '='");
+  EXPECT_EQ(hint("1 =0.5"), "put a blank on each side of '='");
+  EXPECT_EQ(hint("1\t=\thalf"), "make count and entries agree");
+  EXPECT_EQ(hint("1 = 0.5"), "");
+}
+
 TEST(CheckHints, NameTheVersion) {
   EXPECT_EQ(findingsIn("[3DCoolingChannel]\n1003\n").at(0).hint, "write 1002 in the line behind [3DCoolingChannel]");
 }
