@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <charconv>
 
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "inspect/Inspection.hpp"
@@ -13,11 +12,6 @@
 namespace zeb {
 
 namespace {
-
-std::string number(double value) {
-  char text[40];
-  return {text, std::to_chars(text, text + sizeof text, value).ptr};
-}
 
 std::string lower(std::string_view text) {
   std::string result(text);
@@ -38,7 +32,7 @@ void addTable(std::vector<CatalogueEntry>& entries, std::string_view format, con
 }
 
 std::string replacementText(const Replacement& replacement) {
-  const std::string limit = number(replacement.limit), becomes = " becomes " + number(replacement.value);
+  const std::string limit = exact(replacement.limit), becomes = " becomes " + exact(replacement.value);
   switch (replacement.when) {
     case Replacement::When::kNever:
       break;
@@ -215,7 +209,7 @@ std::vector<std::string> ruleTexts(const CatalogueEntry& entry) { return ruleTex
 
 std::vector<std::string> ruleTexts(const Section& section, const Row& row) {
   std::vector<std::string> texts;
-  if (row.rule.scale != 1.0) texts.push_back("times " + number(row.rule.scale));
+  if (row.rule.scale != 1.0) texts.push_back("times " + exact(row.rule.scale));
   for (const Replacement& replacement : row.rule.replace) {
     if (replacement.when == Replacement::When::kNever) continue;
     texts.push_back((&replacement == &row.rule.replace[0] ? "" : "otherwise, ") + replacementText(replacement));

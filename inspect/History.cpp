@@ -1,7 +1,6 @@
 #include "inspect/History.hpp"
 
 #include <algorithm>
-#include <charconv>
 
 #include "frame/CZEBCMPInternalTool.hpp"
 #include "inspect/Catalogue.hpp"
@@ -12,11 +11,6 @@ namespace zeb {
 namespace {
 
 using Kind = HistoryStep::Kind;
-
-std::string exact(double value) {
-  char text[40];
-  return {text, std::to_chars(text, text + sizeof text, value).ptr};
-}
 
 const Section* sectionOf(const Row& row) {
   for (const CatalogueEntry& entry : catalogue()) {

@@ -6,14 +6,14 @@
 
 namespace zeb {
 
-namespace {
-
 std::string exact(double value) {
   char text[40];
   return {text, std::to_chars(text, text + sizeof text, value).ptr};
 }
 
 std::string exact(int value) { return std::to_string(value); }
+
+namespace {
 
 // Entry 0 of the library's arrays is never used, but for the dispenser points, whose rows of three start with entry 0.
 // A copy is asked, as a block keeps for good what it has handed out itself.

@@ -11,6 +11,10 @@ namespace zeb {
 
 class Provenance;
 
+/// The shortest text that reads back as the value.
+std::string exact(double value);
+std::string exact(int value);
+
 /// Where a member's value came from.
 struct Origin {
   enum class Kind { kDefault, kFile, kRepair, kDerived };

@@ -3,7 +3,6 @@
 #include "inspect/Template.hpp"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <memory>
 #include <sstream>
@@ -110,11 +109,6 @@ Effect effectOf(const Part& part, const std::vector<const Row*>& rows, const std
   return watch.isGated ? Effect::kIgnored : Effect::kKeepsDefaults;
 }
 
-std::string shortest(double value) {
-  char text[40];
-  return {text, std::to_chars(text, text + sizeof text, value).ptr};
-}
-
 // The texts that the rule may turn into the member's value, the likeliest first.
 std::vector<std::string> textsFor(const Row& row, FieldType type, void* block) {
   std::vector<double> numbers;
@@ -135,7 +129,7 @@ std::vector<std::string> textsFor(const Row& row, FieldType type, void* block) {
     if (row.rule.apply(number) != value) continue;
     const bool asInt = type == FieldType::kInt || row.lookup == Lookup::kInt;
     if (asInt && number != std::trunc(number)) continue;
-    texts.push_back(asInt ? std::to_string(static_cast<long>(number)) : shortest(number));
+    texts.push_back(asInt ? std::to_string(static_cast<long>(number)) : exact(number));
   }
   return texts;
 }

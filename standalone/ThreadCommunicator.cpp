@@ -32,11 +32,6 @@ constexpr std::uint32_t counterOfCalls(std::uint64_t calls) {
   return counterOf(static_cast<std::uint32_t>(calls * kOneCall));
 }
 
-struct PublishedCall {
-  CallKind kind = CallKind::kBarrier;
-  char value[kCallTextSize] = {};
-};
-
 class PoisonedTeam : public std::runtime_error {
  public:
   PoisonedTeam() : std::runtime_error("another rank of the team has failed") {}
@@ -96,6 +91,11 @@ class ThreadTeam::Meeting {
   void rethrowFirstError();
 
  private:
+  struct PublishedCall {
+    CallKind kind = CallKind::kBarrier;
+    char value[kCallTextSize] = {};
+  };
+
   PublishedCall& published(std::uint64_t number) { return ring_[number % kRingSize]; }
   std::uint32_t awaitCall(std::uint64_t number);
   [[noreturn]] void fail(const std::string& message);

@@ -33,7 +33,7 @@ void printText(zeb::DiagnosticList& found, const std::string& severity) {
   }
 }
 
-void print(const CheckArguments& arguments, zeb::DiagnosticList& found) {
+void printFindings(const CheckArguments& arguments, zeb::DiagnosticList& found) {
   const std::string severity = arguments.errors ? "error" : "warning";
   using Handler = nlohmann::ordered_json::error_handler_t;
   if (arguments.format == "text") return printText(found, severity);
@@ -67,7 +67,7 @@ int run(const CheckArguments& arguments) {
     zeb::checkFile(file, kind, arguments.analysis.options, found);
   }
   found.sort();
-  print(arguments, found);
+  printFindings(arguments, found);
   if (exitCode != kClean) return exitCode;
   return found.all().empty() && found.dropped() == 0 ? kClean : kFindings;
 }

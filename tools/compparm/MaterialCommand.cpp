@@ -1,12 +1,12 @@
 // compparm material: a material as the engine loads it and every rank holds it.
 #include <algorithm>
-#include <charconv>
 #include <iostream>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "inspect/OutputCapture.hpp"
+#include "inspect/Settings.hpp"
 #include "material/CZEBKNMaterialParam.h"
 #include "standalone/MaterialEngine.h"
 #include "tools/compparm/Commands.hpp"
@@ -34,11 +34,6 @@ struct Loaded {
   RankComparison ranks;
 };
 
-std::string exact(double value) {
-  char text[40];
-  return {text, std::to_chars(text, text + sizeof text, value).ptr};
-}
-
 int usedCoefficients(const ZebMaterial& material) { return zeb::usedCoefficients(material.iModel[2]); }
 
 // GetMtcData alone knows the number of curves: it ends with a null and a line of text, which nobody is to see.
@@ -58,11 +53,11 @@ std::string fingerprint(const ZebMaterial& material, const std::vector<const ZEB
   for (const ZebMatParam& table : material.table) {
     const std::string name = "table " + std::to_string(++number);
     for (const int value : {table.iA, table.iB, table.iCount}) add(name, std::to_string(value));
-    for (int i = 0; i < table.iCount; ++i) add(name + " entry " + std::to_string(i), exact(table.pdValue[i]));
+    for (int i = 0; i < table.iCount; ++i) add(name + " entry " + std::to_string(i), zeb::exact(table.pdValue[i]));
   }
   for (const int model : material.iModel) add("model", std::to_string(model));
-  for (int i = 0; i < usedCoefficients(material); ++i) add("coefficient", exact(material.pdCoefficient[i]));
-  add("last value", exact(material.dLast));
+  for (int i = 0; i < usedCoefficients(material); ++i) add("coefficient", zeb::exact(material.pdCoefficient[i]));
+  add("last value", zeb::exact(material.dLast));
   add("test curves", std::to_string(curves.size()));
   number = 0;
   for (const ZEB_MTC* curve : curves) {
@@ -70,9 +65,9 @@ std::string fingerprint(const ZebMaterial& material, const std::vector<const ZEB
     for (const int value : {curve->iA, curve->iB, curve->iCount}) add(name, std::to_string(value));
     for (int i = 0; i < curve->iCount; ++i) {
       const std::string entry = name + " entry " + std::to_string(i);
-      add(entry, exact(curve->pdValue[i]));
+      add(entry, zeb::exact(curve->pdValue[i]));
       for (const int value : curve->pEntry[i].iValue) add(entry, std::to_string(value));
-      for (const double value : curve->pEntry[i].dValue) add(entry, exact(value));
+      for (const double value : curve->pEntry[i].dValue) add(entry, zeb::exact(value));
     }
   }
   return all;
@@ -144,7 +139,7 @@ void printJson(const MaterialArguments& arguments, const Loaded& loaded) {
 
 std::string joined(const double* values, int count) {
   std::string text;
-  for (int i = 0; i < count; ++i) text += (i > 0 ? "  " : "") + exact(values[i]);
+  for (int i = 0; i < count; ++i) text += (i > 0 ? "  " : "") + zeb::exact(values[i]);
   return text;
 }
 
@@ -170,7 +165,7 @@ void printRecord(const ZebMaterial& material, bool isOneOfSeveral) {
   line("model", joined(material.iModel, 4));
   line("coefficients",
        usedCoefficients(material) == 0 ? "none" : joined(material.pdCoefficient, usedCoefficients(material)));
-  line("last value", exact(material.dLast));
+  line("last value", zeb::exact(material.dLast));
   std::cout << '\n';
 }
 
@@ -195,7 +190,7 @@ void printCurve(int number, const ZEB_MTC& curve) {
     const ZEB_MTC_Entry& entry = curve.pEntry[i];
     int used = 21;
     while (used > 0 && entry.dValue[used - 1] == 0.0) --used;
-    std::cout << "  " << padded(exact(curve.pdValue[i]), 12) << " | " << joined(entry.iValue, 3) << " | "
+    std::cout << "  " << padded(zeb::exact(curve.pdValue[i]), 12) << " | " << joined(entry.iValue, 3) << " | "
               << (used == 0 ? "all 0" : joined(entry.dValue, used)) << '\n';
   }
 }
