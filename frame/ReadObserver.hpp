@@ -23,7 +23,7 @@ struct KeyEvent {
   void* block;
   std::string_view key;  ///< The spelling that matched; empty for a positional field.
   std::string_view line;
-  std::string_view value;  ///< The text after '=', or the field's text.
+  std::string_view value;  ///< The text after '=', or the field's text: a part of `line`.
   std::string_view tail;   ///< What was left of it when the conversion stopped.
   int lineNumber;
   KeyOutcome outcome;
@@ -58,6 +58,8 @@ class ReadObserver {
   /// The version line of a positional section differs from the one that its block knows.
   virtual void sectionRefused(const Section& /*section*/, int /*lineNumber*/, int /*version*/) {}
   virtual void keyFound(const KeyEvent& /*event*/) {}
+  /// A field of the viscoelastic head is outside its limit, and its member stays as it is.
+  virtual void fieldNotTaken(const KeyEvent& /*event*/) {}
   /// No key of the section stands in the line.
   virtual void lineWithoutKey(const Section& /*section*/, int /*lineNumber*/, std::string_view /*line*/) {}
   /// A list took the line as its next entry; `used` tells whether it could use it.

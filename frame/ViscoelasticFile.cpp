@@ -155,11 +155,15 @@ struct ViscoelasticReader {
     const int fields = number == 5 ? 2 : 3;
     for (int field = 0; field < fields; ++field) line.take(scratch[field]);
     for (const HeadBound& bound : kHeadBounds) {
+      if (bound.at.line != number) continue;
       const double value = scratch[bound.at.field - 1];
-      if (bound.at.line != number || !(value > bound.above)) continue;
       const Row& row = rowAt(bound.at);
-      *static_cast<double*>(row.field.locate(&block)) = row.rule.apply(value);
-      report(row, line, bound.at.field);
+      if (value > bound.above) {
+        *static_cast<double*>(row.field.locate(&block)) = row.rule.apply(value);
+        report(row, line, bound.at.field);
+      } else if (bound.at.field <= line.converted()) {
+        reportNotTaken(row, line, bound.at.field);
+      }
     }
     finish(line, number);
   }
@@ -290,8 +294,18 @@ struct ViscoelasticReader {
     if (lines.observer() == nullptr) [[likely]] {
       return;
     }
-    lines.observer()->keyFound(
-        {head(), row, &block, {}, line.text(), line.field(field), {}, line.lineNumber(), KeyOutcome::kStored});
+    lines.observer()->keyFound(eventOf(row, line, field, KeyOutcome::kStored));
+  }
+
+  void reportNotTaken(const Row& row, const HeadLine& line, int field) const {
+    if (lines.observer() == nullptr) [[likely]] {
+      return;
+    }
+    lines.observer()->fieldNotTaken(eventOf(row, line, field, KeyOutcome::kNotStored));
+  }
+
+  KeyEvent eventOf(const Row& row, const HeadLine& line, int field, KeyOutcome outcome) const {
+    return {head(), row, &block, {}, line.text(), line.field(field), {}, line.lineNumber(), outcome};
   }
 
   void reportModelLine(const HeadLine& line, int plotMode) const {

@@ -199,11 +199,9 @@ void CheckObserver::judgePresence(const Hit& hit) {
 }
 
 void CheckObserver::judgeRepeated(const Hit& hit) {
-  SetBy now{here(m_text.find(hit.key)), hit.key, hit.block};
-  const auto [earlier, isFirst] = m_setAt.try_emplace(hit.row, now);
+  const SetBy before = std::exchange(m_setAt[hit.row], {here(m_text.find(hit.key)), hit.key, hit.block});
   m_pending.erase(hit.row);
-  if (isFirst) return;
-  const SetBy before = std::exchange(earlier->second, std::move(now));
+  if (before.place.line == 0) return;
   std::string message = std::string(hit.key) + " was set in line " + std::to_string(before.place.line) + " already";
   if (before.key != hit.key) message += ", as " + std::string(before.key);
   add(CheckRule::kKeyRepeated, m_text.find(hit.key),

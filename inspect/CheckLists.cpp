@@ -13,12 +13,9 @@ namespace {
 
 // Scanned entries are three words, the '=' one of them.
 bool isJoinedByEquals(std::string_view line) {
-  const auto at = line.find('=');
-  if (at == line.npos) return false;
-  const auto isBlank = [&](std::size_t place) {
-    return place >= line.size() || line[place] == ' ' || line[place] == '\t';
-  };
-  return (at > 0 && !isBlank(at - 1)) || !isBlank(at + 1);
+  FieldScanner words(line);
+  std::string_view name, equals;
+  return line.find('=') != line.npos && !(words.next(name) && words.next(equals) && equals == "=");
 }
 
 }  // namespace
@@ -189,8 +186,6 @@ void CheckObserver::linePositional(const Section& section, int /*lineNumber*/, i
   m_judged = true;
   m_positional = &section;
   if (positionalLine == section.positional.lines) m_section = nullptr;
-  if (!m_positionalShort && !fileEnded) judgeNotTaken(section, positionalLine, converted);
-  m_fieldsStored.clear();
   const bool isCarriedOver = std::exchange(m_isCarriedOver, false);
   if (m_positionalShort) return;
   if (fileEnded || judgeShortPositional(section, positionalLine, expected == 0)) {
@@ -224,34 +219,24 @@ void CheckObserver::linePositional(const Section& section, int /*lineNumber*/, i
 
 void CheckObserver::judgeField(const KeyEvent& event, std::size_t at) {
   const FieldType type = event.row.field.type;
+  m_isCarriedOver = m_isCarriedOver || trimmed(event.value).empty();
   if (type == FieldType::kDouble) {
     judgeFinite(at, *static_cast<const double*>(event.row.field.locate(event.block)), trimmed(event.value));
   }
-  m_fieldsStored.push_back(&event.row);
-  m_isCarriedOver = m_isCarriedOver || trimmed(event.value).empty();
   FieldScanner scanner(event.value);
   double typed = 0.0;
   const bool isNumber = type == FieldType::kDouble || type == FieldType::kInt;
   if (isNumber && scanner.next(typed)) judgeReplaced(event.section, event.row, event.block, typed, at);
 }
 
-// The viscoelastic head takes some values only above a limit. 0 says that the line leaves the value to the block.
-void CheckObserver::judgeNotTaken(const Section& section, int positionalLine, int converted) {
-  constexpr int kModelLine = 8;  // what it says is told behind the line that confirms it
-  if (!isCompanion() || positionalLine >= kModelLine) return;
-  FieldScanner scanner(m_text);
-  for (int field = 1; field <= converted; ++field) {
-    const std::string_view left = scanner.rest();
-    double typed = 0.0;
-    scanner.next(typed);
-    const auto row = std::find_if(section.rows.begin(), section.rows.end(), [&](const Row& candidate) {
-      return candidate.at[0].line == positionalLine && candidate.at[0].field == field;
-    });
-    if (row == section.rows.end() || typed == 0.0 || row->field.type != FieldType::kDouble) continue;
-    if (std::find(m_fieldsStored.begin(), m_fieldsStored.end(), &*row) != m_fieldsStored.end()) continue;
-    add(CheckRule::kValueReplaced, m_text.find(trimmed(left), m_text.size() - left.size()),
-        number(typed) + " is not taken for " + std::string(row->field.member), std::string(row->doc));
-  }
+// A 0 is the way to leave the value to the block.
+void CheckObserver::fieldNotTaken(const KeyEvent& event) {
+  FieldScanner scanner(event.value);
+  double typed = 0.0;
+  scanner.next(typed);
+  if (typed == 0.0) return;
+  add(CheckRule::kValueReplaced, offsetIn(event.line, trimmed(event.value)),
+      number(typed) + " is not taken for " + std::string(event.row.field.member), std::string(event.row.doc));
 }
 
 // A tag among the lines: they are too few, and the section of the tag is lost with them. Lines without fields may hold

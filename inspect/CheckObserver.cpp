@@ -228,7 +228,7 @@ void CheckObserver::reportGated(const Gated& gated) {
 void CheckObserver::keyFound(const KeyEvent& event) {
   const void* member = event.row.field.locate(event.block);
   const bool stored = event.outcome == KeyOutcome::kStored;
-  const auto at = event.key.empty() ? event.line.find(trimmed(event.value)) : event.line.find(event.key);
+  const auto at = event.key.empty() ? offsetIn(event.line, trimmed(event.value)) : event.line.find(event.key);
   if (stored && !isCompanion()) m_origins[member] = placeIn(m_line, event.line, orStart(at));
   if (event.key.empty()) {
     if (event.section.isPositional() || event.section.open.empty()) judgeField(event, orStart(at));

@@ -34,6 +34,7 @@ class CheckObserver final : public ReadObserver {
   void sectionUnclosed(const Section& section, int lineNumber) override;
   void sectionRefused(const Section& section, int lineNumber, int version) override;
   void keyFound(const KeyEvent& event) override;
+  void fieldNotTaken(const KeyEvent& event) override;
   void lineOfList(const Section& section, int lineNumber, std::string_view line, bool used) override;
   void linePositional(const Section& section, int lineNumber, int positionalLine, int converted, int expected,
                       std::string_view tail) override;
@@ -51,7 +52,7 @@ class CheckObserver final : public ReadObserver {
   struct SetBy {
     Place place;
     std::string_view key;
-    void* block;
+    void* block = nullptr;
   };
   struct Pending {
     Place place;
@@ -115,7 +116,6 @@ class CheckObserver final : public ReadObserver {
   std::string forgetElements(const Row& count);
   void judgeMissingElements();
   void judgeField(const KeyEvent& event, std::size_t at);
-  void judgeNotTaken(const Section& section, int positionalLine, int converted);
   bool judgeShortPositional(const Section& section, int positionalLine, bool isFree);
   void reportShortPositional(Pending pending, const std::string& lostSection);
 
@@ -155,9 +155,8 @@ class CheckObserver final : public ReadObserver {
   const Section* m_positional = nullptr;  // the one read last
   bool m_positionalShort = false;
   int m_linesSinceOpening = 0;
-  std::vector<const Row*> m_fieldsStored;  // of the positional line
-  bool m_isCarriedOver = false;            // a field that the line lacks has the value of the line above
-  Pending m_tagInFreeLine;                 // a sign of missing lines only if a later line is wrong, too
+  bool m_isCarriedOver = false;  // a field that the positional line lacks has the value of the line above
+  Pending m_tagInFreeLine;       // a sign of missing lines only if a later line is wrong, too
   std::string m_sectionInFreeLine;
 
   // of the analysis' own file

@@ -21,6 +21,11 @@ inline std::string number(double value) {
   return text;
 }
 
+/// Of a part of the line, where the same text may stand further in front, too.
+inline std::size_t offsetIn(std::string_view line, std::string_view part) {
+  return part.empty() ? 0 : static_cast<std::size_t>(part.data() - line.data());
+}
+
 /// What becomes of a count that the reader refuses.
 inline std::string countRefused() {
   return "the count is outside of 0 to " + std::to_string(kLargestCount) + "; 0 is used";

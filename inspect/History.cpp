@@ -12,6 +12,8 @@ namespace {
 
 using Kind = HistoryStep::Kind;
 
+constexpr std::string_view kWhyNotTaken = "the value is not taken";
+
 const Section* sectionOf(const Row& row) {
   for (const CatalogueEntry& entry : catalogue()) {
     if (entry.row == &row) return entry.section;
@@ -200,6 +202,14 @@ void History::keyFound(const KeyEvent& event) {
   }
 }
 
+void History::fieldNotTaken(const KeyEvent& event) {
+  HistoryStep step = stepOf(event);
+  step.kind = Kind::kNotTaken;
+  step.reason = kWhyNotTaken;
+  step.after.clear();
+  m_steps.push_back(std::move(step));
+}
+
 // The last line of the viscoelastic head is read before what the one above it sets is told.
 void History::takeBack(const KeyEvent& event) {
   m_hasNotTaken = event.key.empty();
@@ -268,7 +278,7 @@ void History::linePositional(const Section& section, int lineNumber, int positio
       step.row = step.target = &row;
       step.positionalLine = positionalLine;
       if (fileEnded) step.line.clear();
-      step.reason = isMissing ? whyMissing(fileEnded, converted, tail) : "the value is not taken";
+      step.reason = isMissing ? whyMissing(fileEnded, converted, tail) : std::string(kWhyNotTaken);
       if (isMissing && absentIsZero) step.after = exact(row.rule.apply(0.0));
       if (!isMissing) m_hasNotTaken = true;
       m_steps.push_back(std::move(step));

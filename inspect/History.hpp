@@ -70,6 +70,7 @@ class History final : public ReadObserver {
   void sectionUnclosed(const Section& section, int lineNumber) override;
   void sectionRefused(const Section& section, int lineNumber, int version) override;
   void keyFound(const KeyEvent& event) override;
+  void fieldNotTaken(const KeyEvent& event) override;
   void lineOfList(const Section& section, int lineNumber, std::string_view line, bool used) override;
   void linePositional(const Section& section, int lineNumber, int positionalLine, int converted, int expected,
                       std::string_view tail) override;

@@ -66,6 +66,7 @@ class Trial {
   void* m_block;
 };
 
+// Stands for whatever comes next in the section: no list may take it.
 constexpr std::string_view kNextLine = "following line";
 
 struct TrialWatch final : ReadObserver {
@@ -178,7 +179,7 @@ std::vector<std::string> candidates(const Row& row, void* block) {
 // The lines of the members that the list behind the line sets, at their defaults.
 std::string entriesBehind(const Part& part, const std::string& line) {
   const Trial defaults(*part.table), trial(*part.table);
-  std::string ones;
+  std::string ones;  // as many as any list of the section can take
   for (std::size_t i = 0; i < part.section->rows.size(); ++i) ones += "\nentry = 1";
   std::string lines;
   for (const Row* entry : readInto(trial, part, line + ones).entries) {

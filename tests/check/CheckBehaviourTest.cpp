@@ -140,8 +140,13 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"PointsThatAreMissing",
              in("UNFSetting", "FillType = 2\nnDispenserPoint = 2\nPoint_x1 = 1\nPoint_y1 = 2\nPoint_y2 = 3\n"),
              {"3 list-too-short"}},
-        Case{"AllPointsThatAFileCanSet",
+        Case{"AllPointsOfACount",
              in("UNFSetting", "FillType = 2\nnDispenserPoint = 1\nPoint_x1 = 1\nPoint_y1 = 2\n"),
+             {}},
+        Case{"ACountAboveTheFivePointsThatAFileCanSet",
+             in("UNFSetting",
+                "FillType = 2\nnDispenserPoint = 7\nPoint_x1 = 1\nPoint_y1 = 1\nPoint_x2 = 2\nPoint_y2 = 2\n"
+                "Point_x3 = 3\nPoint_y3 = 3\nPoint_x4 = 4\nPoint_y4 = 4\nPoint_x5 = 5\nPoint_y5 = 5\n"),
              {}},
         Case{"PointsAboveASecondCount",
              in("UNFSetting",
@@ -415,6 +420,15 @@ TEST(CheckCompanion, ValuesThatTheHeadDoesNotTake) {
   EXPECT_EQ(findings[0].message, "10 is not taken for m_dTLowBond");
   EXPECT_EQ(findings[0].hint, "Lower bound of the temperature; only a value above 10 is taken.");
   EXPECT_EQ(findings[1].place.column, 6);
+  EXPECT_EQ(findings[4].place.column, 5);
+}
+
+TEST(CheckCompanion, PointsToTheFieldAndNotToTheSameTextBeforeIt) {
+  const auto findings =
+      findingsWith("", "1006\n100 200 0\n11 0.1 1\n0.1 0.1 0\n1 20000\n20 20 0\n0.1 0.1 0.1\n1 0.5 0\n-1\n", 0);
+  ASSERT_EQ(findings.size(), 1u) << told(findings);
+  EXPECT_EQ(findings[0].place.line, 3);
+  EXPECT_EQ(findings[0].place.column, 8);
 }
 
 TEST(CheckCompanion, ShortHeadLinesTellWhatTheyTakeOver) {

@@ -199,7 +199,6 @@ void printHeading(const Explained& explained) {
 }
 
 std::string parsedText(const zeb::HistoryStep& step) {
-  if (!step.reason.empty()) return step.reason;
   std::string text = "parsed \"" + printable(step.used) + "\"";
   if (!step.left.empty()) text += ", left over \"" + printable(step.left) + "\"";
   return text;
@@ -234,7 +233,7 @@ void printLineStep(const zeb::HistoryStep& step, const Explained& explained, con
         std::cout << "\n        the last one is one minus the others, whatever its line says";
       break;
     default:
-      std::cout << parsedText(step);
+      std::cout << (step.reason.empty() ? parsedText(step) : step.reason);
       if (step.outcome != zeb::KeyOutcome::kStored) std::cout << "; " << outcomeText(step.outcome);
   }
   if (step.kind == Kind::kLine && step.sets() && !step.row->rule.none()) {
