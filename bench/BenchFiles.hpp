@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "blocks/CZEBCMPGeneralParm.h"
-#include "frame/ParameterTable.hpp"
+#include "engine/ParameterTable.hpp"
 #include "tests/support/TemporaryFile.hpp"
 
 namespace zebbench {

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "inspect/Silence.hpp"
+#include "inspect/set/Silence.hpp"
 
 namespace zebbench {
 

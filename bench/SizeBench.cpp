@@ -8,7 +8,7 @@
 #include "bench/PlainReader.hpp"
 #include "bench/Ratios.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
-#include "inspect/Silence.hpp"
+#include "inspect/set/Silence.hpp"
 
 namespace {
 

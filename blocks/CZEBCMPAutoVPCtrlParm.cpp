@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPAutoVPCtrlParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPAutoVPCtrlParm::CZEBCMPAutoVPCtrlParm() = default;
 CZEBCMPAutoVPCtrlParm::CZEBCMPAutoVPCtrlParm(const CZEBCMPAutoVPCtrlParm& other) = default;

@@ -1,7 +1,7 @@
 // Automatic control of the switch-over from velocity to pressure.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Automatic control of the switch-over from velocity to pressure, from the section [AutoVPCtrl]. Plain values;
 /// assignment copies them.

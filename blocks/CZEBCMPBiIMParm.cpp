@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPBiIMParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPBiIMParm::CZEBCMPBiIMParm() = default;
 CZEBCMPBiIMParm::CZEBCMPBiIMParm(const CZEBCMPBiIMParm& other) = default;

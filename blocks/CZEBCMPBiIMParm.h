@@ -1,7 +1,7 @@
 // Bi-injection.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Bi-injection, from the section [BiIM]. Plain values; assignment copies them.
 class CZEBCMPBiIMParm {

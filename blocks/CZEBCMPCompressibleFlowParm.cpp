@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPCompressibleFlowParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPCompressibleFlowParm::CZEBCMPCompressibleFlowParm() = default;
 CZEBCMPCompressibleFlowParm::CZEBCMPCompressibleFlowParm(const CZEBCMPCompressibleFlowParm& other) = default;

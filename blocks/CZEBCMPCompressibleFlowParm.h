@@ -1,7 +1,7 @@
 // Compressible-flow (air) solver.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the compressible-flow (air) solver, from the section [CompressibleFlow]. Plain values; assignment copies
 /// them. One key of the file sets the U, V and W tolerance, another the three relaxations; the PISO tolerance has no

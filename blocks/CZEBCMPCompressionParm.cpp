@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPCompressionParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPCompressionParm::CZEBCMPCompressionParm() = default;
 CZEBCMPCompressionParm::CZEBCMPCompressionParm(const CZEBCMPCompressionParm& other) = default;

@@ -1,8 +1,8 @@
 // Initial data of compression molding.
 #pragma once
 
-#include "frame/BlockAccess.h"
-#include "frame/SharedArray.h"
+#include "engine/BlockAccess.h"
+#include "engine/SharedArray.h"
 
 /// Initial data of compression molding, from the section [Compression].
 ///

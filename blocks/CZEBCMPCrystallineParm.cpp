@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPCrystallineParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPCrystallineParm::CZEBCMPCrystallineParm() = default;
 CZEBCMPCrystallineParm::CZEBCMPCrystallineParm(const CZEBCMPCrystallineParm& other) = default;

@@ -1,7 +1,7 @@
 // Crystallization kinetics.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the crystallization kinetics, from the section [Crystalline]. Plain values; assignment copies them.
 /// Members ending in _2nd belong to the secondary crystallization, their twins without it to the primary one. Keys

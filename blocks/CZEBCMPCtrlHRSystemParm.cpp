@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPCtrlHRSystemParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPCtrlHRSystemParm::CZEBCMPCtrlHRSystemParm() = default;
 CZEBCMPCtrlHRSystemParm::CZEBCMPCtrlHRSystemParm(const CZEBCMPCtrlHRSystemParm& other) = default;

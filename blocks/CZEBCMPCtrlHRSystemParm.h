@@ -1,7 +1,7 @@
 // Time-step control of the high-resolution (HR) schemes.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the time-step control of the high-resolution (HR) schemes, from the section [CtrlHRSystem]. Plain
 /// values; assignment copies them. The file numbers the two factors 1 and 2.

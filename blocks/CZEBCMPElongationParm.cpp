@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPElongationParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPElongationParm::CZEBCMPElongationParm() = default;
 CZEBCMPElongationParm::CZEBCMPElongationParm(const CZEBCMPElongationParm& other) = default;

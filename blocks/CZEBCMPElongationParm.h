@@ -1,7 +1,7 @@
 // Elongational-viscosity correction.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the elongational-viscosity correction, from the section [Elongation]. Plain values; assignment copies
 /// them.

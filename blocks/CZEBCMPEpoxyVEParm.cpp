@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPEpoxyVEParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPEpoxyVEParm::CZEBCMPEpoxyVEParm() = default;
 CZEBCMPEpoxyVEParm::CZEBCMPEpoxyVEParm(const CZEBCMPEpoxyVEParm& other) = default;

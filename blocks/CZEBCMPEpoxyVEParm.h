@@ -1,7 +1,7 @@
 // Epoxy viscoelasticity.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the epoxy viscoelasticity, from the section [Epoxy_VE]. Plain values; assignment copies them. The file's
 /// Model_G is read as an integer: 12345.6 gives 12345.0, 1.5e4 gives 1.0.

@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPFAIMParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPFAIMParm::CZEBCMPFAIMParm() = default;
 CZEBCMPFAIMParm::CZEBCMPFAIMParm(const CZEBCMPFAIMParm& other) = default;

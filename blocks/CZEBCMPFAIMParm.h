@@ -1,8 +1,8 @@
 // Fluid-assisted injection and co-injection.
 #pragma once
 
-#include "frame/BlockAccess.h"
-#include "frame/SharedArray.h"
+#include "engine/BlockAccess.h"
+#include "engine/SharedArray.h"
 
 /// Fluid-assisted injection and co-injection, from the section [FAIM].
 ///

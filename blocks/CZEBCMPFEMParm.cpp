@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPFEMParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPFEMParm::CZEBCMPFEMParm() = default;
 CZEBCMPFEMParm::CZEBCMPFEMParm(const CZEBCMPFEMParm& other) = default;

@@ -1,7 +1,7 @@
 // Switch of the finite-element variant.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// The switch of the finite-element variant, from the section [FEM]. A plain value; assignment copies it.
 class CZEBCMPFEMParm {

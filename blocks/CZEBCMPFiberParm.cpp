@@ -2,7 +2,7 @@
 // name at once.
 #include "blocks/CZEBCMPFiberParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPFiberParm::CZEBCMPFiberParm() = default;
 CZEBCMPFiberParm::CZEBCMPFiberParm(const CZEBCMPFiberParm& other) = default;

@@ -1,7 +1,7 @@
 // Fibre orientation and breakage.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the fibre orientation, breakage and length models, from eleven sections whose names begin with FIBER_.
 /// Values are kept as the file has them; nothing is converted or checked.

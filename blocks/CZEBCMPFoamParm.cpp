@@ -1,7 +1,7 @@
 // The four foam sections: keys, dump lines and meanings.
 #include "blocks/CZEBCMPFoamParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPFoamParm::CZEBCMPFoamParm() = default;
 CZEBCMPFoamParm::CZEBCMPFoamParm(const CZEBCMPFoamParm& other) = default;

@@ -1,7 +1,7 @@
 // Microcellular foaming.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the foaming solution, from the sections [Foam_PLOT_DYNAMIC], [Mucell_DEBUG] (so spelled),
 /// [Foam_MuCell_Pro] and [Foam_FoamingComputeParas]. Values are kept as the file has them; nothing is converted or

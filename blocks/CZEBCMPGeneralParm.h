@@ -1,8 +1,8 @@
 // General settings of the analysis: the largest block.
 #pragma once
 
-#include "frame/BlockAccess.h"
-#include "frame/SharedArray.h"
+#include "engine/BlockAccess.h"
+#include "engine/SharedArray.h"
 
 /// General settings of the analysis, from the section [General]. Values are kept as the file has them; nothing is
 /// converted.

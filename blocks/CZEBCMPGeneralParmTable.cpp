@@ -1,7 +1,7 @@
 // The keys, dump lines and meanings of the section [General]. The reader tests the keys in this order, and the dump
 // keeps it; the last eight members are never dumped.
 #include "blocks/CZEBCMPGeneralParm.h"
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPGeneralParm>() {

@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPHRSchemesParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPHRSchemesParm::CZEBCMPHRSchemesParm() = default;
 CZEBCMPHRSchemesParm::CZEBCMPHRSchemesParm(const CZEBCMPHRSchemesParm& other) = default;

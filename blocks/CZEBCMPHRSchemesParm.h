@@ -1,7 +1,7 @@
 // High-resolution (HR) volume-fraction schemes.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the high-resolution (HR) volume-fraction schemes, from the section [HRSchemes]. Plain values;
 /// assignment copies them.

@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPIBMParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPIBMParm::CZEBCMPIBMParm() = default;
 CZEBCMPIBMParm::CZEBCMPIBMParm(const CZEBCMPIBMParm& other) = default;

@@ -1,7 +1,7 @@
 // Switch of the immersed-boundary variant.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// The switch of the immersed-boundary variant, from the section [IBM]. A plain value; assignment copies it.
 class CZEBCMPIBMParm {

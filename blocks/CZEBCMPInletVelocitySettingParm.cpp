@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPInletVelocitySettingParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPInletVelocitySettingParm::CZEBCMPInletVelocitySettingParm() = default;
 CZEBCMPInletVelocitySettingParm::CZEBCMPInletVelocitySettingParm(const CZEBCMPInletVelocitySettingParm& other) =

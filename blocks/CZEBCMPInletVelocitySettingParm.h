@@ -1,7 +1,7 @@
 // Iteration of the inlet velocity.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Iteration of the inlet velocity, from the section [InletVelocitySetting]. Plain values; assignment copies them.
 class CZEBCMPInletVelocitySettingParm {

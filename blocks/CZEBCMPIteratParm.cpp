@@ -1,7 +1,7 @@
 // The iteration parameters and their places in the fixed-line head of 19 lines.
 #include "blocks/CZEBCMPIteratParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPIteratParm::CZEBCMPIteratParm() = default;
 CZEBCMPIteratParm::CZEBCMPIteratParm(const CZEBCMPIteratParm& other) = default;

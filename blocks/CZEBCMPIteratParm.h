@@ -1,7 +1,7 @@
 // Settings of the solver's outer and inner iterations.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the solver's outer and inner iterations, from the 19 lines that follow a version line "[VER] 1023". No
 /// section with keys sets them: without that head every member keeps its default. Plain values; assignment copies them.

@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPMAFVMParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPMAFVMParm::CZEBCMPMAFVMParm() = default;
 CZEBCMPMAFVMParm::CZEBCMPMAFVMParm(const CZEBCMPMAFVMParm& other) = default;

@@ -1,7 +1,7 @@
 // Switches of the multi-algorithm finite-volume variant.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Switches of the multi-algorithm finite-volume variant, from the section [MAFVM]. Plain values; assignment copies
 /// them.

@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPMicroMoldingParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPMicroMoldingParm::CZEBCMPMicroMoldingParm() = default;
 CZEBCMPMicroMoldingParm::CZEBCMPMicroMoldingParm(const CZEBCMPMicroMoldingParm& other) = default;

@@ -1,7 +1,7 @@
 // Heat transfer and time steps of micro-molding.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Heat transfer and time steps of micro-molding, from the section [MicroMolding]. Plain values; assignment copies
 /// them.

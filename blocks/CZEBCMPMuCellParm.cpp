@@ -1,7 +1,7 @@
 // The keys, dump lines and meanings of the section [MuCell].
 #include "blocks/CZEBCMPMuCellParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPMuCellParm::CZEBCMPMuCellParm() = default;
 CZEBCMPMuCellParm::CZEBCMPMuCellParm(const CZEBCMPMuCellParm& other) = default;

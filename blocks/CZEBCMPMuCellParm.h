@@ -1,7 +1,7 @@
 // Effects of foaming on the flow.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// What foaming changes in the flow solution, from the section [MuCell]. Plain values; assignment copies them.
 class CZEBCMPMuCellParm {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "frame/SectionEngine.hpp"
-#include "frame/TableBuilder.hpp"
-#include "frame/TextOutput.hpp"
+#include "engine/SectionEngine.hpp"
+#include "engine/TableBuilder.hpp"
+#include "engine/TextOutput.hpp"
 
 namespace {
 

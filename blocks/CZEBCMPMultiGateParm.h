@@ -1,8 +1,8 @@
 // Balancing of several gates, with a weight for each group of inlets.
 #pragma once
 
-#include "frame/BlockAccess.h"
-#include "frame/SharedArray.h"
+#include "engine/BlockAccess.h"
+#include "engine/SharedArray.h"
 
 /// Balancing of several gates, from the section [MultiGate], with a weight for each group of inlets.
 ///

@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPOutletParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPOutletParm::CZEBCMPOutletParm() = default;
 CZEBCMPOutletParm::CZEBCMPOutletParm(const CZEBCMPOutletParm& other) = default;

@@ -1,7 +1,7 @@
 // Air outlets of the cavity.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the air outlets, from the section [Outlet]. Plain values; assignment copies them.
 class CZEBCMPOutletParm {

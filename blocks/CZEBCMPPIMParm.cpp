@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPPIMParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPPIMParm::CZEBCMPPIMParm() = default;
 CZEBCMPPIMParm::CZEBCMPPIMParm(const CZEBCMPPIMParm& other) = default;

@@ -1,7 +1,7 @@
 // Powder injection.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Powder injection, from the section [PIM]. Plain values; assignment copies them.
 ///

@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPPUChemFoamParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPPUChemFoamParm::CZEBCMPPUChemFoamParm() = default;
 CZEBCMPPUChemFoamParm::CZEBCMPPUChemFoamParm(const CZEBCMPPUChemFoamParm& other) = default;

@@ -1,7 +1,7 @@
 // Chemically blown polyurethane foam.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Chemically blown polyurethane foam, from the section [PUChemFoam]. Plain values; assignment copies them.
 class CZEBCMPPUChemFoamParm {

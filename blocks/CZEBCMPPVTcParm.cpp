@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPPVTcParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPPVTcParm::CZEBCMPPVTcParm() = default;
 CZEBCMPPVTcParm::CZEBCMPPVTcParm(const CZEBCMPPVTcParm& other) = default;

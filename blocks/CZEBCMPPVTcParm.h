@@ -1,7 +1,7 @@
 // Cure-dependent PVT model.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Switch and coefficients of the cure-dependent PVT model, from the section [PVTc]. Plain values; assignment copies
 /// them. The file's switch is spelled iSPVTc. The two-character keys of the coefficients count anywhere in a line.

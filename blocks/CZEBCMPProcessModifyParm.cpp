@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPProcessModifyParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPProcessModifyParm::CZEBCMPProcessModifyParm() = default;
 CZEBCMPProcessModifyParm::CZEBCMPProcessModifyParm(const CZEBCMPProcessModifyParm& other) = default;

@@ -1,7 +1,7 @@
 // Bounds of the change of the flow rate.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Bounds of the change of the flow rate, from the section [ProcessModify]. Plain values; assignment copies them.
 ///

@@ -1,8 +1,8 @@
 // Resin transfer molding.
 #pragma once
 
-#include "frame/BlockAccess.h"
-#include "frame/SharedArray.h"
+#include "engine/BlockAccess.h"
+#include "engine/SharedArray.h"
 
 /// Resin transfer molding, from the section [RTM].
 ///

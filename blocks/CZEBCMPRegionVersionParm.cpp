@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPRegionVersionParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPRegionVersionParm::CZEBCMPRegionVersionParm() = default;
 CZEBCMPRegionVersionParm::CZEBCMPRegionVersionParm(const CZEBCMPRegionVersionParm& other) = default;

@@ -1,7 +1,7 @@
 // Region version.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// The region version, from the section [RegionVersion]. A plain value; assignment copies it.
 class CZEBCMPRegionVersionParm {

@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPSAMGCtrlParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPSAMGCtrlParm::CZEBCMPSAMGCtrlParm() = default;
 CZEBCMPSAMGCtrlParm::CZEBCMPSAMGCtrlParm(const CZEBCMPSAMGCtrlParm& other) = default;

@@ -1,7 +1,7 @@
 // Controls of the SAMG linear solver.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Controls of the SAMG linear solver, from the section [SAMGParaCtrl]. Plain values; assignment copies them.
 /// n_levelx has no default of its own: it is 0 until the file sets it, and the dump never shows it.

@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPShortShotParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPShortShotParm::CZEBCMPShortShotParm() = default;
 CZEBCMPShortShotParm::CZEBCMPShortShotParm(const CZEBCMPShortShotParm& other) = default;

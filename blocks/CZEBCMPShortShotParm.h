@@ -1,7 +1,7 @@
 // Limits that tell a short shot.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Limits that tell a short shot, from the section [ShortShot]. Plain values; assignment copies them.
 ///

@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPStableFlagParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPStableFlagParm::CZEBCMPStableFlagParm() = default;
 CZEBCMPStableFlagParm::CZEBCMPStableFlagParm(const CZEBCMPStableFlagParm& other) = default;

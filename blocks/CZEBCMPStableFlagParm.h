@@ -1,7 +1,7 @@
 // Smoothing and gradient flags of the flow solver.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Smoothing and gradient flags, from the section [StableFlag]. Plain values; assignment copies them.
 class CZEBCMPStableFlagParm {

@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPTimeStepSizeCtrlParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPTimeStepSizeCtrlParm::CZEBCMPTimeStepSizeCtrlParm() = default;
 CZEBCMPTimeStepSizeCtrlParm::CZEBCMPTimeStepSizeCtrlParm(const CZEBCMPTimeStepSizeCtrlParm& other) = default;

@@ -1,7 +1,7 @@
 // Time-step control.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the time-step control, from the section [TimeStepSizeCtrl]. Plain values; assignment copies them.
 /// In the file the volume-fraction scheme iVof_Scheme is called FrontMethod.

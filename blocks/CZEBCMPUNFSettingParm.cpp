@@ -1,7 +1,7 @@
 #include "blocks/CZEBCMPUNFSettingParm.h"
 
-#include "frame/SectionEngine.hpp"
-#include "frame/TableBuilder.hpp"
+#include "engine/SectionEngine.hpp"
+#include "engine/TableBuilder.hpp"
 
 namespace {
 

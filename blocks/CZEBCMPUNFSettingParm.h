@@ -1,8 +1,8 @@
 // Fluids and dispenser of underfill.
 #pragma once
 
-#include "frame/BlockAccess.h"
-#include "frame/SharedArray.h"
+#include "engine/BlockAccess.h"
+#include "engine/SharedArray.h"
 
 /// Fluids and dispenser of underfill, from the section [UNFSetting].
 ///

@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "frame/ReadObserver.hpp"
-#include "frame/SectionEngine.hpp"
-#include "frame/TableBuilder.hpp"
-#include "frame/TextOutput.hpp"
+#include "engine/ReadObserver.hpp"
+#include "engine/SectionEngine.hpp"
+#include "engine/TableBuilder.hpp"
+#include "engine/TextOutput.hpp"
 
 CZEBCMPVEParm::CZEBCMPVEParm() { InitBoundingParameters(); }
 CZEBCMPVEParm::CZEBCMPVEParm(const CZEBCMPVEParm& other) = default;

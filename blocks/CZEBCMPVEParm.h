@@ -1,8 +1,8 @@
 // Viscoelastic flow models.
 #pragma once
 
-#include "frame/BlockAccess.h"
-#include "frame/SharedArray.h"
+#include "engine/BlockAccess.h"
+#include "engine/SharedArray.h"
 
 /// Settings of the viscoelastic flow models, from the viscoelastic file: the file beside the CMP file whose name ends
 /// in

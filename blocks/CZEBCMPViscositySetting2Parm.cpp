@@ -1,6 +1,6 @@
 #include "blocks/CZEBCMPViscositySetting2Parm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMPViscositySetting2Parm::CZEBCMPViscositySetting2Parm() = default;
 CZEBCMPViscositySetting2Parm::CZEBCMPViscositySetting2Parm(const CZEBCMPViscositySetting2Parm& other) = default;

@@ -1,7 +1,7 @@
 // Viscosity limits and the viscosity of air and melt front.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Viscosity limits and the treatment of the viscosity of air and melt front, from the section [ViscositySetting2].
 /// Plain values in the solver's internal units; assignment copies them. A gel-point ratio that is read is kept within

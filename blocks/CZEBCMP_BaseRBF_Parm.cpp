@@ -1,7 +1,7 @@
 #include "blocks/CZEBCMP_BaseRBF_Parm.h"
 
 #include "blocks/RbfRows.hpp"
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMP_BaseRBF_Parm::CZEBCMP_BaseRBF_Parm() = default;
 CZEBCMP_BaseRBF_Parm::CZEBCMP_BaseRBF_Parm(const CZEBCMP_BaseRBF_Parm& other) = default;

@@ -1,7 +1,7 @@
 // Radial-basis-function interpolation, base settings.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the radial-basis-function (RBF) interpolation "BaseRBF", from the section [BaseRBF]. Plain values;
 /// assignment copies them. Its DebugMode has no key and stays 0.

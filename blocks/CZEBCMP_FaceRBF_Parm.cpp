@@ -1,7 +1,7 @@
 #include "blocks/CZEBCMP_FaceRBF_Parm.h"
 
 #include "blocks/RbfRows.hpp"
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMP_FaceRBF_Parm::CZEBCMP_FaceRBF_Parm() = default;
 CZEBCMP_FaceRBF_Parm::CZEBCMP_FaceRBF_Parm(const CZEBCMP_FaceRBF_Parm& other) = default;

@@ -1,7 +1,7 @@
 // Radial-basis-function interpolation of the faces.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the radial-basis-function (RBF) interpolation "FaceRBF", from the section [FaceRBF]. Plain values;
 /// assignment copies them.

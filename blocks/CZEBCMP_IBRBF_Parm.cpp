@@ -1,7 +1,7 @@
 #include "blocks/CZEBCMP_IBRBF_Parm.h"
 
 #include "blocks/RbfRows.hpp"
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMP_IBRBF_Parm::CZEBCMP_IBRBF_Parm() = default;
 CZEBCMP_IBRBF_Parm::CZEBCMP_IBRBF_Parm(const CZEBCMP_IBRBF_Parm& other) = default;

@@ -1,7 +1,7 @@
 // Radial-basis-function interpolation of the immersed boundary.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the radial-basis-function (RBF) interpolation "IBRBF", from the section [IBRBF]. Plain values;
 /// assignment copies them.

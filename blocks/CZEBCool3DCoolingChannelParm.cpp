@@ -1,7 +1,7 @@
 // The lines, fields and meanings of the positional section [3DCoolingChannel]; never dumped.
 #include "blocks/CZEBCool3DCoolingChannelParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCool3DCoolingChannelParm::CZEBCool3DCoolingChannelParm() = default;
 CZEBCool3DCoolingChannelParm::CZEBCool3DCoolingChannelParm(const CZEBCool3DCoolingChannelParm& other) = default;

@@ -1,7 +1,7 @@
 // Three-dimensional cooling channels.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the solution in 3-D cooling channels, from the positional section [3DCoolingChannel]: a version line and
 /// 6 lines of numbers, read only when the version is 1002. A field that a line lacks leaves its member as it was.

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "frame/SectionEngine.hpp"
-#include "frame/TableBuilder.hpp"
+#include "engine/SectionEngine.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCoolBackDoorParm::CZEBCoolBackDoorParm() = default;
 CZEBCoolBackDoorParm::CZEBCoolBackDoorParm(const CZEBCoolBackDoorParm& other) = default;

@@ -1,8 +1,8 @@
 // Switches of the cooling analyses.
 #pragma once
 
-#include "frame/BlockAccess.h"
-#include "frame/SharedArray.h"
+#include "engine/BlockAccess.h"
+#include "engine/SharedArray.h"
 
 /// Switches and settings of the cooling analyses, from the section [Whiteboard].
 ///

@@ -1,7 +1,7 @@
 // The lines, fields and meanings of the positional section [FastCool]; never dumped.
 #include "blocks/CZEBCoolFastCoolParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCoolFastCoolParm::CZEBCoolFastCoolParm() = default;
 CZEBCoolFastCoolParm::CZEBCoolFastCoolParm(const CZEBCoolFastCoolParm& other) = default;

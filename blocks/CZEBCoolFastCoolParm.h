@@ -1,7 +1,7 @@
 // Fast cooling analysis.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the fast cooling analysis, from the positional section [FastCool]: a version line and 23 lines of
 /// numbers, read only when the version is 1017. A field that a line lacks leaves its member as it was.

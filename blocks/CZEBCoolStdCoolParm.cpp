@@ -1,7 +1,7 @@
 // The lines, fields and meanings of the positional section [StdCool]; never dumped.
 #include "blocks/CZEBCoolStdCoolParm.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCoolStdCoolParm::CZEBCoolStdCoolParm() = default;
 CZEBCoolStdCoolParm::CZEBCoolStdCoolParm(const CZEBCoolStdCoolParm& other) = default;

@@ -1,7 +1,7 @@
 // Standard cooling analysis.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the standard cooling analysis, from the positional section [StdCool]: a version line and 23 lines of
 /// numbers, read only when the version is 1047. A field that a line lacks leaves its member as it was.

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "frame/ParameterTable.hpp"
+#include "engine/ParameterTable.hpp"
 
 namespace zeb {
 

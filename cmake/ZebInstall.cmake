@@ -15,7 +15,7 @@ if(TARGET compparm-bin)
   install(TARGETS compparm-bin)
 endif()
 
-foreach(folder frame blocks cmx stdcmp material platform standalone)
+foreach(folder engine frame blocks cmx stdcmp material platform standalone)
   if(IS_DIRECTORY ${PROJECT_SOURCE_DIR}/${folder})
     install(DIRECTORY ${folder} DESTINATION ${headerFolder} FILES_MATCHING PATTERN "*.h")
   endif()

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <string>
 
-#include "frame/TextOutput.hpp"
+#include "engine/TextOutput.hpp"
 
 namespace {
 

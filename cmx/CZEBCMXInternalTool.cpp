@@ -2,9 +2,9 @@
 
 #include <fstream>
 
-#include "frame/ReadObserver.hpp"
-#include "frame/TableBuilder.hpp"
-#include "frame/TextOutput.hpp"
+#include "engine/ReadObserver.hpp"
+#include "engine/TableBuilder.hpp"
+#include "engine/TextOutput.hpp"
 
 namespace {
 

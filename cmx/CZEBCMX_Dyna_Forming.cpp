@@ -1,6 +1,6 @@
 #include "cmx/CZEBCMX_Dyna_Forming.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMX_Dyna_Forming::CZEBCMX_Dyna_Forming() = default;
 CZEBCMX_Dyna_Forming::CZEBCMX_Dyna_Forming(const CZEBCMX_Dyna_Forming& other) = default;

@@ -1,7 +1,7 @@
 // Forming of fiber mats.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Forming of fiber mats, from the block `<Dyna_Forming>`. Plain values; assignment copies them.
 class CZEBCMX_Dyna_Forming {

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "frame/SectionEngine.hpp"
-#include "frame/TableBuilder.hpp"
-#include "frame/ValueText.hpp"
+#include "engine/SectionEngine.hpp"
+#include "engine/TableBuilder.hpp"
+#include "engine/ValueText.hpp"
 
 CZEBCMX_FILL_ADVANCED_HRSteady::CZEBCMX_FILL_ADVANCED_HRSteady() = default;
 CZEBCMX_FILL_ADVANCED_HRSteady::CZEBCMX_FILL_ADVANCED_HRSteady(const CZEBCMX_FILL_ADVANCED_HRSteady& other) = default;

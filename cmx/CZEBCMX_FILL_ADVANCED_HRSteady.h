@@ -1,8 +1,8 @@
 // Steady analysis of a hot runner.
 #pragma once
 
-#include "frame/BlockAccess.h"
-#include "frame/SharedArray.h"
+#include "engine/BlockAccess.h"
+#include "engine/SharedArray.h"
 
 /// Steady hot runner analysis, from the block `<FILL_ADVANCED_HRSteady>`. The key ValueHRGateType is followed at once
 /// by one line "name = value" for each gate, when ValueNoHRGate stood above it. A line that sets ValueFlowRateDiffRatio

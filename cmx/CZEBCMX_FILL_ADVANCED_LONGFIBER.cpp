@@ -3,9 +3,9 @@
 #include <span>
 #include <string>
 
-#include "frame/SectionEngine.hpp"
-#include "frame/TableBuilder.hpp"
-#include "frame/ValueText.hpp"
+#include "engine/SectionEngine.hpp"
+#include "engine/TableBuilder.hpp"
+#include "engine/ValueText.hpp"
 
 CZEBCMX_FILL_ADVANCED_LONGFIBER::CZEBCMX_FILL_ADVANCED_LONGFIBER() = default;
 CZEBCMX_FILL_ADVANCED_LONGFIBER::CZEBCMX_FILL_ADVANCED_LONGFIBER(const CZEBCMX_FILL_ADVANCED_LONGFIBER& other) =

@@ -1,7 +1,7 @@
 // Orientation, breakage and concentration of fibers.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Orientation, breakage and concentration of (long) fibers, from the block `<FILL_ADVANCED_LONGFIBER>`. The key
 /// DiffusionModelType is followed at once by the lines of its model's coefficients, "name = value" each with blanks

@@ -1,6 +1,6 @@
 #include "cmx/CZEBCMX_FILL_ADVANCED_MCIM.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMX_FILL_ADVANCED_MCIM::CZEBCMX_FILL_ADVANCED_MCIM() = default;
 CZEBCMX_FILL_ADVANCED_MCIM::CZEBCMX_FILL_ADVANCED_MCIM(const CZEBCMX_FILL_ADVANCED_MCIM& other) = default;

@@ -1,7 +1,7 @@
 // Microcellular foaming during filling.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Bubble growth of microcellular injection molding, from the block `<FILL_ADVANCED_MCIM>`. Plain values; assignment
 /// copies them.

@@ -1,6 +1,6 @@
 #include "cmx/CZEBCMX_FILL_ADVANCED_SlipBC.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMX_FILL_ADVANCED_SlipBC::CZEBCMX_FILL_ADVANCED_SlipBC() = default;
 CZEBCMX_FILL_ADVANCED_SlipBC::CZEBCMX_FILL_ADVANCED_SlipBC(const CZEBCMX_FILL_ADVANCED_SlipBC& other) = default;

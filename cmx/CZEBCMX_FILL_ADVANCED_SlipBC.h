@@ -1,7 +1,7 @@
 // Wall slip as a boundary condition of filling.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Slip of the melt at the wall, from the block `<FILL_ADVANCED_SlipBC>`. A line that sets FlagSlipBCDebug sets
 /// FlagSlipBC as well, since the longer key holds the shorter one. Plain values; assignment copies them.

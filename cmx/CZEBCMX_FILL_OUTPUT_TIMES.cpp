@@ -1,7 +1,7 @@
 #include "cmx/CZEBCMX_FILL_OUTPUT_TIMES.h"
 
 #include "cmx/OutputMoments.hpp"
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMX_FILL_OUTPUT_TIMES::CZEBCMX_FILL_OUTPUT_TIMES() = default;
 CZEBCMX_FILL_OUTPUT_TIMES::CZEBCMX_FILL_OUTPUT_TIMES(const CZEBCMX_FILL_OUTPUT_TIMES& other) = default;

@@ -1,8 +1,8 @@
 // Moments of packing at which results are written.
 #pragma once
 
-#include "frame/BlockAccess.h"
-#include "frame/SharedArray.h"
+#include "engine/BlockAccess.h"
+#include "engine/SharedArray.h"
 
 /// Output moments of packing, from the block `<PACK_OUTPUT_TIMES>`. The key ValueNoPackOutputTime is followed at once
 /// by its number of lines "id = moment", blanks around the '='; their order counts, not their IDs. Assignment shares

@@ -1,6 +1,6 @@
 #include "cmx/CZEBCMX_SOLID_COOL.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMX_SOLID_COOL::CZEBCMX_SOLID_COOL() = default;
 CZEBCMX_SOLID_COOL::CZEBCMX_SOLID_COOL(const CZEBCMX_SOLID_COOL& other) = default;

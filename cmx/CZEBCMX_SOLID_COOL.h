@@ -1,7 +1,7 @@
 // Cooling analysis.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Choice of the cooling solver, from the block `<SOLID_COOL>`. A plain value; assignment copies it.
 class CZEBCMX_SOLID_COOL {

@@ -1,6 +1,6 @@
 #include "cmx/CZEBCMX_SOLID_FILL.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMX_SOLID_FILL::CZEBCMX_SOLID_FILL() = default;
 CZEBCMX_SOLID_FILL::CZEBCMX_SOLID_FILL(const CZEBCMX_SOLID_FILL& other) = default;

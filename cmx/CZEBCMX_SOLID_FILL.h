@@ -1,8 +1,8 @@
 // Filling analysis: solver, options, gravity, freezing of the gates.
 #pragma once
 
-#include "frame/BlockAccess.h"
-#include "frame/SharedArray.h"
+#include "engine/BlockAccess.h"
+#include "engine/SharedArray.h"
 
 /// Settings of the solid (3-D) filling analysis, from the block `<SOLID_FILL>`. Gravity has two accepted spellings of
 /// its keys, ValueGravyX and ValueGravityX (also for Y and Z). Assignment shares the text.

@@ -1,6 +1,6 @@
 #include "cmx/CZEBCMX_SOLID_PACK.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMX_SOLID_PACK::CZEBCMX_SOLID_PACK() = default;
 CZEBCMX_SOLID_PACK::CZEBCMX_SOLID_PACK(const CZEBCMX_SOLID_PACK& other) = default;

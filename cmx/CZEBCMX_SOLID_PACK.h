@@ -1,7 +1,7 @@
 // Extended packing calculation.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Extended packing calculation, from the block `<SOLID_PACK>`. Plain values; assignment copies them.
 class CZEBCMX_SOLID_PACK {

@@ -1,6 +1,6 @@
 #include "cmx/CZEBCMX_SOLID_VE.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMX_SOLID_VE::CZEBCMX_SOLID_VE() = default;
 CZEBCMX_SOLID_VE::CZEBCMX_SOLID_VE(const CZEBCMX_SOLID_VE& other) = default;

@@ -1,7 +1,7 @@
 // Viscoelastic analysis.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Viscoelastic analysis, from the block `<SOLID_VE>`. A plain value; assignment copies it.
 class CZEBCMX_SOLID_VE {

@@ -1,6 +1,6 @@
 #include "cmx/CZEBCMX_TASKMANAGER.h"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 CZEBCMX_TASKMANAGER::CZEBCMX_TASKMANAGER() = default;
 CZEBCMX_TASKMANAGER::CZEBCMX_TASKMANAGER(const CZEBCMX_TASKMANAGER& other) = default;

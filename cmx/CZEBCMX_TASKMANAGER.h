@@ -1,7 +1,7 @@
 // How the task manager runs the solver.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 /// Settings of the task manager, from the block `<TASKMANAGER>`. A plain value; assignment copies it.
 class CZEBCMX_TASKMANAGER {

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "frame/ValueText.hpp"
+#include "engine/ValueText.hpp"
 
 namespace zeb {
 

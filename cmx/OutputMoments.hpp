@@ -1,8 +1,8 @@
 // The list of output moments that the blocks of filling and packing have in common.
 #pragma once
 
-#include "frame/SectionEngine.hpp"
-#include "frame/SharedArray.h"
+#include "engine/SectionEngine.hpp"
+#include "engine/SharedArray.h"
 
 namespace zeb {
 

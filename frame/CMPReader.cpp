@@ -5,8 +5,8 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "frame/ReadObserver.hpp"
-#include "frame/TextOutput.hpp"
+#include "engine/ReadObserver.hpp"
+#include "engine/TextOutput.hpp"
 
 namespace zeb {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "engine/SectionDispatch.hpp"
 #include "frame/CZEBCMPInternalTool.hpp"
-#include "frame/SectionDispatch.hpp"
 
 namespace zeb {
 

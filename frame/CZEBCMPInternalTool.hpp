@@ -5,9 +5,9 @@
 #include <string>
 #include <tuple>
 
+#include "engine/LineSource.hpp"
+#include "engine/ParameterTable.hpp"
 #include "frame/AllBlocks.hpp"
-#include "frame/LineSource.hpp"
-#include "frame/ParameterTable.hpp"
 
 namespace zeb {
 struct DispatchEntry;

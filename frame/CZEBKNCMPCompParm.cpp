@@ -2,12 +2,12 @@
 
 #include <stdexcept>
 
+#include "engine/DumpEngine.hpp"
+#include "engine/TextOutput.hpp"
 #include "frame/CMPReader.hpp"
-#include "frame/DumpEngine.hpp"
 #include "frame/MoldingTypes.hpp"
 #include "frame/Repairs.hpp"
-#include "frame/TextOutput.hpp"
-#include "frame/ViscoelasticFile.hpp"
+#include "viscoelastic/ViscoelasticFile.hpp"
 
 CZEBKNCMPCompParm::CZEBKNCMPCompParm(int moldingType, int materialType) {
   setMoldingType(moldingType);

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 #include "platform/ZEBCom.h"
 
 class CZEBCMPInternalTool;

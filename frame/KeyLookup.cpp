@@ -1,7 +1,7 @@
 // One key against one line. Sections with many keys find them all in one pass (KeyFilter) with the same result.
 #include "frame/KeyLookup.h"
 
-#include "frame/ValueText.hpp"
+#include "engine/ValueText.hpp"
 
 namespace {
 

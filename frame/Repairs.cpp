@@ -1,7 +1,7 @@
 // The order of the steps matters: each sees what the ones before it left.
 #include "frame/Repairs.hpp"
 
-#include "frame/ReadObserver.hpp"
+#include "engine/ReadObserver.hpp"
 
 namespace zeb {
 

@@ -6,7 +6,7 @@
 
 #include "frame/CZEBKNCMPCompParm.h"
 #include "fuzz/FuzzSupport.hpp"
-#include "inspect/Inspection.hpp"
+#include "inspect/set/Inspection.hpp"
 #include "standalone/RecordingCommunicator.h"
 
 namespace {

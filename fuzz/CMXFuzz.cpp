@@ -3,7 +3,7 @@
 // Byte 1: the switches below; then the file.
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "cmx/CZEBKNCMXCompParm.h"
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 #include "fuzz/FuzzSupport.hpp"
 #include "standalone/RecordingCommunicator.h"
 

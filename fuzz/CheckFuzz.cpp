@@ -9,9 +9,9 @@
 #include <string>
 
 #include "fuzz/FuzzSupport.hpp"
-#include "inspect/Check.hpp"
-#include "inspect/CheckRawFile.hpp"
-#include "inspect/DiagnosticOutput.hpp"
+#include "inspect/check/Check.hpp"
+#include "inspect/check/CheckRawFile.hpp"
+#include "inspect/check/DiagnosticOutput.hpp"
 
 namespace {
 

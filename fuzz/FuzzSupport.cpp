@@ -11,7 +11,7 @@
 #include <streambuf>
 #include <utility>
 
-#include "frame/Field.hpp"
+#include "engine/Field.hpp"
 #include "platform/ZEB3DTool.h"
 
 namespace zebfuzz {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/ParameterTable.hpp"
+#include "engine/ParameterTable.hpp"
 #include "standalone/CallLog.h"
 
 namespace zebfuzz {

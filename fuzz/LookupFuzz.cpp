@@ -9,10 +9,10 @@
 #include <cstdlib>
 #include <limits>
 
+#include "engine/KeyFilter.hpp"
+#include "engine/ValueText.hpp"
 #include "frame/CZEBCMPInternalTool.hpp"
-#include "frame/KeyFilter.hpp"
 #include "frame/KeyLookup.h"
-#include "frame/ValueText.hpp"
 #include "fuzz/FuzzSupport.hpp"
 #include "tests/frame/PlainDefinition.hpp"
 

@@ -7,7 +7,7 @@
 #include <iterator>
 #include <utility>
 
-#include "frame/TextOutput.hpp"
+#include "engine/TextOutput.hpp"
 
 namespace {
 

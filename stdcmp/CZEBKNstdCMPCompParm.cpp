@@ -3,7 +3,7 @@
 #include <cmath>
 #include <string_view>
 
-#include "frame/TextOutput.hpp"
+#include "engine/TextOutput.hpp"
 #include "stdcmp/StdParameters.hpp"
 
 namespace {

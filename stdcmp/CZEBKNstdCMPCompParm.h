@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 #include "platform/ZEBCom.h"
 
 namespace zeb {

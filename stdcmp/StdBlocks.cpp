@@ -1,7 +1,7 @@
 // The tables of the standard solver's blocks.
 #include "stdcmp/StdBlocks.hpp"
 
-#include "frame/TableBuilder.hpp"
+#include "engine/TableBuilder.hpp"
 
 namespace zeb {
 

@@ -1,7 +1,7 @@
 // The four blocks of the standard solver's reader. Their members bear the names of the public getters.
 #pragma once
 
-#include "frame/BlockAccess.h"
+#include "engine/BlockAccess.h"
 
 namespace zeb {
 

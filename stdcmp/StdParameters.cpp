@@ -2,9 +2,9 @@
 
 #include <fstream>
 
-#include "frame/ReadObserver.hpp"
-#include "frame/SectionEngine.hpp"
-#include "frame/TextOutput.hpp"
+#include "engine/ReadObserver.hpp"
+#include "engine/SectionEngine.hpp"
+#include "engine/TextOutput.hpp"
 
 namespace zeb {
 

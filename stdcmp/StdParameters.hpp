@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-#include "frame/SectionDispatch.hpp"
+#include "engine/SectionDispatch.hpp"
 #include "stdcmp/StdBlocks.hpp"
 
 namespace zeb {

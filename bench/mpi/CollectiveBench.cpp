@@ -10,7 +10,7 @@
 #include "bench/BenchFiles.hpp"
 #include "bench/Ratios.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
-#include "inspect/Silence.hpp"
+#include "inspect/set/Silence.hpp"
 #include "material/CZEBKNMaterialParam.h"
 #include "standalone/MaterialEngine.h"
 #include "standalone/RecordingCommunicator.h"

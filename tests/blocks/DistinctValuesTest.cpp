@@ -11,9 +11,9 @@
 
 #include "frame/AllBlocks.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
-#include "inspect/Inspection.hpp"
-#include "inspect/OutputCapture.hpp"
-#include "inspect/Settings.hpp"
+#include "inspect/set/Inspection.hpp"
+#include "inspect/set/OutputCapture.hpp"
+#include "inspect/set/Settings.hpp"
 #include "tests/support/TemporaryFile.hpp"
 #include "tests/support/Tsv.hpp"
 

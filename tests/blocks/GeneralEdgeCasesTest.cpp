@@ -9,8 +9,8 @@
 #include <sstream>
 
 #include "blocks/CZEBCMPGeneralParm.h"
-#include "inspect/OutputCapture.hpp"
-#include "inspect/Settings.hpp"
+#include "inspect/set/OutputCapture.hpp"
+#include "inspect/set/Settings.hpp"
 #include "tests/blocks/ReadBlock.hpp"
 #include "tests/frame/PlainDefinition.hpp"
 #include "tests/frame/RandomText.hpp"

@@ -11,7 +11,7 @@
 #include "blocks/CZEBCMPOutletParm.h"
 #include "blocks/CZEBCMPProcessModifyParm.h"
 #include "blocks/CZEBCMPShortShotParm.h"
-#include "frame/ReadObserver.hpp"
+#include "engine/ReadObserver.hpp"
 #include "tests/blocks/ReadBlock.hpp"
 
 namespace {

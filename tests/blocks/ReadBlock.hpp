@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "frame/DumpEngine.hpp"
-#include "frame/SectionEngine.hpp"
+#include "engine/DumpEngine.hpp"
+#include "engine/SectionEngine.hpp"
 
 namespace zebtest {
 

@@ -11,7 +11,7 @@
 #include "blocks/CZEBCMPPUChemFoamParm.h"
 #include "blocks/CZEBCMPRTMParm.h"
 #include "blocks/CZEBCMPUNFSettingParm.h"
-#include "frame/ReadObserver.hpp"
+#include "engine/ReadObserver.hpp"
 #include "tests/blocks/ReadBlock.hpp"
 
 namespace {

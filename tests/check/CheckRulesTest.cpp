@@ -7,7 +7,7 @@
 #include <set>
 #include <sstream>
 
-#include "inspect/RulesManual.hpp"
+#include "inspect/check/RulesManual.hpp"
 #include "tests/check/CheckSupport.hpp"
 
 namespace {

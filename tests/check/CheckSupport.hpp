@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "inspect/Check.hpp"
+#include "inspect/check/Check.hpp"
 #include "tests/support/TemporaryFile.hpp"
 
 namespace zebtest {

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "inspect/DiagnosticOutput.hpp"
+#include "inspect/check/DiagnosticOutput.hpp"
 #include "tests/check/CheckSupport.hpp"
 
 namespace {

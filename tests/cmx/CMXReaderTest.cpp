@@ -7,7 +7,7 @@
 
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "cmx/CZEBKNCMXCompParm.h"
-#include "frame/ReadObserver.hpp"
+#include "engine/ReadObserver.hpp"
 #include "standalone/SerialCommunicator.h"
 #include "tests/cmx/Expectations.hpp"
 #include "tests/cmx/ReadIntoTool.hpp"

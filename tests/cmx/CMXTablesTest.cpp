@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "cmx/CZEBCMXInternalTool.hpp"
-#include "frame/ParameterTable.hpp"
+#include "engine/ParameterTable.hpp"
 #include "tests/cmx/Expectations.hpp"
 
 namespace {

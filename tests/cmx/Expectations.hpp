@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/SectionDispatch.hpp"
+#include "engine/SectionDispatch.hpp"
 #include "standalone/RecordingCommunicator.h"
 #include "tests/standalone/TestFolder.h"
 

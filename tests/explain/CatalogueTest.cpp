@@ -6,8 +6,8 @@
 #include <set>
 #include <sstream>
 
-#include "inspect/Catalogue.hpp"
-#include "inspect/NearestNames.hpp"
+#include "inspect/catalogue/Catalogue.hpp"
+#include "inspect/catalogue/NearestNames.hpp"
 #include "tests/support/Tsv.hpp"
 
 namespace {

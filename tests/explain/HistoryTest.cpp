@@ -5,14 +5,14 @@
 #include <fstream>
 #include <map>
 
-#include "inspect/Analysis.hpp"
-#include "inspect/Catalogue.hpp"
-#include "inspect/Difference.hpp"
-#include "inspect/History.hpp"
-#include "inspect/OutputCapture.hpp"
-#include "inspect/ParameterFile.hpp"
-#include "inspect/Provenance.hpp"
-#include "inspect/Settings.hpp"
+#include "inspect/catalogue/Catalogue.hpp"
+#include "inspect/explain/History.hpp"
+#include "inspect/explain/Provenance.hpp"
+#include "inspect/set/Analysis.hpp"
+#include "inspect/set/Difference.hpp"
+#include "inspect/set/OutputCapture.hpp"
+#include "inspect/set/ParameterFile.hpp"
+#include "inspect/set/Settings.hpp"
 #include "tests/support/TemporaryFile.hpp"
 
 namespace {

@@ -5,13 +5,13 @@
 #include <sstream>
 
 #include "cmx/CZEBCMXInternalTool.hpp"
+#include "engine/ReadObserver.hpp"
 #include "frame/CMPReader.hpp"
 #include "frame/MoldingTypes.hpp"
-#include "frame/ReadObserver.hpp"
-#include "inspect/Catalogue.hpp"
-#include "inspect/OutputCapture.hpp"
-#include "inspect/Settings.hpp"
-#include "inspect/Template.hpp"
+#include "inspect/catalogue/Catalogue.hpp"
+#include "inspect/catalogue/Template.hpp"
+#include "inspect/set/OutputCapture.hpp"
+#include "inspect/set/Settings.hpp"
 #include "tests/support/TemporaryFile.hpp"
 #include "tests/support/Tsv.hpp"
 

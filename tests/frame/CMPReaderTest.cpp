@@ -4,11 +4,11 @@
 #include <filesystem>
 #include <vector>
 
+#include "engine/ReadObserver.hpp"
 #include "frame/CMPReader.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "frame/MoldingTypes.hpp"
-#include "frame/ReadObserver.hpp"
-#include "inspect/OutputCapture.hpp"
+#include "inspect/set/OutputCapture.hpp"
 #include "standalone/RecordingCommunicator.h"
 #include "tests/frame/ReadSet.hpp"
 #include "tests/support/TemporaryFile.hpp"

@@ -9,7 +9,7 @@
 
 #include "frame/CZEBCMPInternalTool.hpp"
 #include "frame/KeyLookup.h"
-#include "inspect/OutputCapture.hpp"
+#include "inspect/set/OutputCapture.hpp"
 #include "standalone/RecordingCommunicator.h"
 #include "tests/blocks/ReadBlock.hpp"
 #include "tests/frame/ReadSet.hpp"

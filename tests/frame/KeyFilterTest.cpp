@@ -3,8 +3,8 @@
 
 #include <string>
 
+#include "engine/KeyFilter.hpp"
 #include "frame/CZEBCMPInternalTool.hpp"
-#include "frame/KeyFilter.hpp"
 #include "tests/frame/RandomText.hpp"
 
 namespace {

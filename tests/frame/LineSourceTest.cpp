@@ -5,9 +5,9 @@
 #include <sstream>
 #include <vector>
 
-#include "frame/LineSource.hpp"
+#include "engine/LineSource.hpp"
 #include "frame/MoldingTypes.hpp"
-#include "inspect/OutputCapture.hpp"
+#include "inspect/set/OutputCapture.hpp"
 #include "standalone/RecordingCommunicator.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/support/TemporaryFile.hpp"

@@ -5,8 +5,8 @@
 
 #include "frame/CZEBKNCMPCompParm.h"
 #include "frame/Repairs.hpp"
-#include "inspect/Inspection.hpp"
-#include "inspect/OutputCapture.hpp"
+#include "inspect/set/Inspection.hpp"
+#include "inspect/set/OutputCapture.hpp"
 #include "standalone/SerialCommunicator.h"
 #include "tests/support/TemporaryFile.hpp"
 #include "tests/support/Tsv.hpp"

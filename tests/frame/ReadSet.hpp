@@ -10,8 +10,8 @@
 #include "blocks/CZEBCMPGeneralParm.h"
 #include "blocks/CZEBCMPShortShotParm.h"
 #include "frame/CZEBKNCMPCompParm.h"
-#include "inspect/Inspection.hpp"
-#include "inspect/Settings.hpp"
+#include "inspect/set/Inspection.hpp"
+#include "inspect/set/Settings.hpp"
 #include "tests/support/TemporaryFile.hpp"
 
 namespace zebtest {

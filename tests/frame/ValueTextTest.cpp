@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <limits>
 
-#include "frame/ValueText.hpp"
+#include "engine/ValueText.hpp"
 #include "tests/frame/RandomText.hpp"
 
 namespace {

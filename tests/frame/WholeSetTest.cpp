@@ -8,7 +8,7 @@
 
 #include "frame/CZEBCMPInternalTool.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
-#include "inspect/OutputCapture.hpp"
+#include "inspect/set/OutputCapture.hpp"
 #include "tests/support/TemporaryFile.hpp"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "inspect/OutputCapture.hpp"
+#include "inspect/set/OutputCapture.hpp"
 #include "material/CZEBKNMaterialParam.h"
 
 namespace zebtest {

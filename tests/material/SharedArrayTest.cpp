@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "frame/SharedArray.h"
+#include "engine/SharedArray.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "cmx/CZEBKNCMXCompParm.h"
-#include "inspect/Settings.hpp"
+#include "inspect/set/Settings.hpp"
 #include "stdcmp/CZEBKNstdCMPCompParm.h"
 #include "tests/mpi/Verdict.hpp"
 #include "tests/ranks/Examples.hpp"

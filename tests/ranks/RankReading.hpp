@@ -8,9 +8,9 @@
 #include <string>
 
 #include "frame/CZEBKNCMPCompParm.h"
-#include "inspect/Inspection.hpp"
-#include "inspect/OutputCapture.hpp"
-#include "inspect/Settings.hpp"
+#include "inspect/set/Inspection.hpp"
+#include "inspect/set/OutputCapture.hpp"
+#include "inspect/set/Settings.hpp"
 #include "standalone/RecordingCommunicator.h"
 
 namespace zebtest {

@@ -3,7 +3,7 @@
 
 #include <sstream>
 
-#include "frame/ParameterTable.hpp"
+#include "engine/ParameterTable.hpp"
 #include "stdcmp/StdParameters.hpp"
 #include "tests/cmx/Expectations.hpp"
 #include "tests/stdcmp/PublicValues.hpp"

@@ -7,12 +7,12 @@
 #include <limits>
 #include <set>
 
+#include "engine/DumpEngine.hpp"
+#include "engine/SectionEngine.hpp"
 #include "frame/CMPReader.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
-#include "frame/DumpEngine.hpp"
-#include "frame/SectionEngine.hpp"
-#include "inspect/Inspection.hpp"
-#include "inspect/OutputCapture.hpp"
+#include "inspect/set/Inspection.hpp"
+#include "inspect/set/OutputCapture.hpp"
 #include "tests/support/Tsv.hpp"
 
 namespace {

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/ReadObserver.hpp"
+#include "engine/ReadObserver.hpp"
 #include "standalone/RecordingCommunicator.h"
 #include "tests/standalone/TestFolder.h"
 #include "tests/viscoelastic/ViscoelasticSupport.hpp"

@@ -4,9 +4,9 @@
 
 #include <stdexcept>
 
-#include "frame/ViscoelasticFile.hpp"
 #include "tests/support/Tsv.hpp"
 #include "tests/viscoelastic/ViscoelasticSupport.hpp"
+#include "viscoelastic/ViscoelasticFile.hpp"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/ReadObserver.hpp"
+#include "engine/ReadObserver.hpp"
 #include "tests/viscoelastic/ViscoelasticSupport.hpp"
 
 namespace {

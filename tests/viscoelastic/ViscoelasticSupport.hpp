@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "frame/ParameterTable.hpp"
-#include "frame/ViscoelasticFile.hpp"
+#include "engine/ParameterTable.hpp"
 #include "tests/blocks/ReadBlock.hpp"
+#include "viscoelastic/ViscoelasticFile.hpp"
 
 namespace zebtest {
 

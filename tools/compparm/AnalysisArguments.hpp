@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "inspect/ParameterFile.hpp"
+#include "inspect/set/ParameterFile.hpp"
 #include "tools/compparm/JsonText.hpp"
 
 namespace compparm {

@@ -3,9 +3,9 @@
 #include <memory>
 #include <optional>
 
-#include "inspect/Check.hpp"
-#include "inspect/DiagnosticOutput.hpp"
-#include "inspect/RulesManual.hpp"
+#include "inspect/check/Check.hpp"
+#include "inspect/check/DiagnosticOutput.hpp"
+#include "inspect/check/RulesManual.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/Terminal.hpp"

@@ -3,10 +3,10 @@
 #include <memory>
 #include <optional>
 
-#include "inspect/Difference.hpp"
-#include "inspect/OutputCapture.hpp"
-#include "inspect/ParameterFile.hpp"
-#include "inspect/Provenance.hpp"
+#include "inspect/explain/Provenance.hpp"
+#include "inspect/set/Difference.hpp"
+#include "inspect/set/OutputCapture.hpp"
+#include "inspect/set/ParameterFile.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"

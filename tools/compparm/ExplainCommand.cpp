@@ -3,10 +3,10 @@
 #include <iostream>
 #include <memory>
 
-#include "inspect/Catalogue.hpp"
-#include "inspect/History.hpp"
-#include "inspect/OutputCapture.hpp"
-#include "inspect/Settings.hpp"
+#include "inspect/catalogue/Catalogue.hpp"
+#include "inspect/explain/History.hpp"
+#include "inspect/set/OutputCapture.hpp"
+#include "inspect/set/Settings.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"

@@ -4,10 +4,10 @@
 #include <sstream>
 
 #include "frame/MoldingTypes.hpp"
-#include "inspect/Catalogue.hpp"
-#include "inspect/NearestNames.hpp"
-#include "inspect/Rules.hpp"
-#include "inspect/Template.hpp"
+#include "inspect/catalogue/Catalogue.hpp"
+#include "inspect/catalogue/NearestNames.hpp"
+#include "inspect/catalogue/Template.hpp"
+#include "inspect/check/Rules.hpp"
 
 namespace compparm {
 

@@ -5,7 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "inspect/Settings.hpp"
+#include "inspect/set/Settings.hpp"
 
 namespace compparm {
 

@@ -3,7 +3,7 @@
 #include <iostream>
 #include <memory>
 
-#include "inspect/Catalogue.hpp"
+#include "inspect/catalogue/Catalogue.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"

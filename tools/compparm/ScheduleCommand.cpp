@@ -8,9 +8,9 @@
 
 #include "cmx/COutput_F2C_MultiTiming.h"
 #include "cmx/CZEBCMX_FILL_OUTPUT_TIMES.h"
-#include "frame/TextOutput.hpp"
-#include "inspect/OutputCapture.hpp"
-#include "inspect/ParameterFile.hpp"
+#include "engine/TextOutput.hpp"
+#include "inspect/set/OutputCapture.hpp"
+#include "inspect/set/ParameterFile.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"

@@ -4,10 +4,10 @@
 #include <memory>
 #include <sstream>
 
-#include "inspect/OutputCapture.hpp"
-#include "inspect/ParameterFile.hpp"
-#include "inspect/Provenance.hpp"
-#include "inspect/Settings.hpp"
+#include "inspect/explain/Provenance.hpp"
+#include "inspect/set/OutputCapture.hpp"
+#include "inspect/set/ParameterFile.hpp"
+#include "inspect/set/Settings.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"

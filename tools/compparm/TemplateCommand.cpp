@@ -2,7 +2,7 @@
 #include <iostream>
 #include <memory>
 
-#include "inspect/Template.hpp"
+#include "inspect/catalogue/Template.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"

@@ -1,0 +1,112 @@
+// One implementation for all readers; see LineSource.hpp for what differs between them.
+#include "engine/LineSource.hpp"
+
+#include <algorithm>
+#include <climits>
+#include <cstring>
+#include <locale>
+#include <streambuf>
+#include <string_view>
+
+#include "engine/ReadObserver.hpp"
+#include "engine/TextOutput.hpp"
+#include "platform/ZEB3DTool.h"
+
+namespace zeb {
+
+namespace {
+
+std::string_view upToNul(std::string_view text) { return text.substr(0, text.find('\0')); }
+
+// The characters that a stream's buffer holds ready. Only a stream buffer may look at its own, so this borrows the
+// right.
+struct ReadyText : std::streambuf {
+  static std::string_view of(const std::streambuf& buffer) {
+    const char* const begin = (buffer.*&ReadyText::gptr)();
+    const auto length = static_cast<std::size_t>((buffer.*&ReadyText::egptr)() - begin);
+    return {begin, std::min<std::size_t>(length, INT_MAX)};  // take() counts in ints
+  }
+  static void take(std::streambuf& buffer, std::size_t count) { (buffer.*&ReadyText::gbump)(static_cast<int>(count)); }
+};
+
+// A line that is ready as a whole, for half of what std::getline takes for it.
+bool takeReadyLine(std::istream& stream, std::string& line) {
+  if (!stream.good()) return false;
+  std::streambuf& buffer = *stream.rdbuf();
+  const std::string_view ready = ReadyText::of(buffer);
+  const std::size_t length = ready.find('\n');
+  if (length == ready.npos) return false;
+  line.assign(upToNul({ready.data(), length}));
+  ReadyText::take(buffer, length + 1);
+  return true;
+}
+
+// A line that goes on where the buffer's text ends, the last line, or none.
+bool readSplitLine(std::istream& stream, std::string& line) {
+  if (!std::getline(stream, line, '\n')) {
+    line.clear();
+    return false;
+  }
+  line.resize(upToNul(line).size());
+  return true;
+}
+
+bool readLine(std::istream& stream, std::string& line) {
+  return takeReadyLine(stream, line) || readSplitLine(stream, line);
+}
+
+}  // namespace
+
+int LineSource::getLine(std::istream& stream, std::string& line) const {
+  return com == nullptr ? (readLine(stream, line) ? 1 : 0) : shareLine(stream, line);
+}
+
+int LineSource::shareLine(std::istream& stream, std::string& line) const {
+  char buffer[ZEBLINE_MAX];
+  int end = 0;
+  if (com->GetCPUId() == 0) {
+    if (readLine(stream, line)) {
+      const std::size_t length = std::min(line.size(), ZEBLINE_MAX - 1);
+      std::memcpy(buffer, line.data(), length);
+      std::memset(buffer + length, 0, ZEBLINE_MAX - length);
+      if (traces()) trace(alwaysTrace ? std::string_view(line) : std::string_view(buffer, length));
+    } else {
+      end = -1;
+    }
+  }
+  if (barrier) com->Barrier();
+  com->Broadi(end);
+  if (end != 0) return 0;
+  com->Broadc(buffer);
+  buffer[ZEBLINE_MAX - 1] = '\0';
+  line.assign(buffer);
+  return 1;
+}
+
+void LineSource::trace(std::string_view text) const {
+  writeOut(" - CPUID:" + std::to_string(com->GetCPUId()) + " string: " + std::string(text) + "\n");
+}
+
+int openFile(std::ifstream& stream, const std::string& fileName) {
+  stream.imbue(std::locale::classic());  // a host's global locale may take characters for others
+  CZEBFileIO opener;
+  opener.ZEBOpenFile(stream, fileName.c_str(), kZEBOpenRead, 500, 10);
+  return stream.good() ? 1 : -1;
+}
+
+bool LineReader::next(std::string& line) {
+  if (m_source.getLine(m_stream, line) == 0) return false;
+  ++m_lineNumber;
+  if (m_observer != nullptr) [[unlikely]] {
+    m_observer->lineRead(m_lineNumber, line);
+  }
+  return true;
+}
+
+bool LineReader::nextOrEmpty(std::string& line) {
+  if (next(line)) return true;
+  line.clear();
+  return false;
+}
+
+}  // namespace zeb

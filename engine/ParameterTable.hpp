@@ -1,0 +1,192 @@
+// Parameter tables: everything that is known about a block's members, keys, dump lines and head positions, as data.
+//
+// To add a parameter: declare the member with its default and its getter in the block's header, define the getter in
+// the block's source, and add one row to the table below it. Where the section has a reading order or the block a dump
+// order of its own, name the new key or member there too: the compiler refuses an order that is not whole.
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <span>
+#include <string_view>
+
+#include "engine/Field.hpp"
+#include "engine/KeyFilter.hpp"
+
+namespace zeb {
+
+struct ListContext;
+struct Row;
+struct Section;
+
+/// How a key's value text becomes a value; by default the member's type decides.
+enum class Lookup : std::uint8_t {
+  kByType,    // int, double; for a text the rest of the line
+  kInt,       // an int, stored into a double member
+  kWord,      // a text's first word
+  kPresence,  // the key's mere presence stores 1 (or true)
+};
+
+/// A value that gives way to another one.
+struct Replacement {
+  enum class When : std::uint8_t {
+    kNever,
+    kBelow,         // value < limit
+    kAbove,         // value > limit
+    kAtMost,        // value <= limit
+    kNotAbove,      // not (value > limit): at most the limit, or not a number
+    kEqual,         // value == limit
+    kTruncatesTo0,  // -1 < value < 1
+    kAlways,
+  };
+  When when = When::kNever;
+  double limit = 0.0;
+  double value = 0.0;
+};
+
+constexpr Replacement below(double limit, double becomes) { return {Replacement::When::kBelow, limit, becomes}; }
+constexpr Replacement above(double limit, double becomes) { return {Replacement::When::kAbove, limit, becomes}; }
+constexpr Replacement atMost(double limit, double becomes) { return {Replacement::When::kAtMost, limit, becomes}; }
+constexpr Replacement notAbove(double limit, double becomes) { return {Replacement::When::kNotAbove, limit, becomes}; }
+constexpr Replacement equal(double limit, double becomes) { return {Replacement::When::kEqual, limit, becomes}; }
+constexpr Replacement always(double becomes) { return {Replacement::When::kAlways, 0.0, becomes}; }
+constexpr Replacement truncatesToZero(double becomes) { return {Replacement::When::kTruncatesTo0, 0.0, becomes}; }
+
+/// What is done to a parsed number before it is stored: scaled first, then the first replacement that fits.
+struct Rule {
+  double scale = 1.0;
+  Replacement replace[2] = {};
+
+  constexpr bool none() const { return scale == 1.0 && replace[0].when == Replacement::When::kNever; }
+  double apply(double value) const;
+};
+
+/// A line printed on every rank as soon as the value is stored, whatever the print level.
+struct Echo {
+  enum class Format : std::uint8_t { kGeneral, kFixed };
+  std::string_view label = {};
+  Format format = Format::kGeneral;
+  std::string_view tail = "\n";
+};
+
+/// How the dump writes a value; by default as its type is streamed.
+enum class DumpFormat : std::uint8_t {
+  kByType,
+  kLowBits,  // the low 32 bits of a double as a signed int: what "%d" makes of it
+};
+
+/// A place in a positional section: line and field, both counted from 1.
+struct Position {
+  std::uint8_t line = 0;
+  std::uint8_t field = 0;
+};
+
+/// No gate: every value lets the line's later keys pass.
+constexpr int kNoGate = std::numeric_limits<int>::min();
+
+enum class ListResult : std::uint8_t {
+  kSameLine,      // go on with the section's later keys on the line that started the list
+  kNextLine,      // `line` now holds the line with which the section goes on
+  kSectionEnded,  // the list met the closing line or the end of the input
+};
+/// Reads the lines of a list that a key announces; called after the key's value is stored.
+using ListReader = ListResult (*)(ListContext& context);
+/// What the lines of a list hold, for whoever explains or checks them; the list's reader knows it by itself.
+struct ListLines {
+  enum class Number : std::uint8_t {
+    kDouble,
+    kInt,
+    kScanned,  // by the formatted scan, to which nan, inf and hexadecimal are numbers
+  };
+  std::string_view countName = {};  // before the '=' of a first line that holds the count; empty: the key has it
+  std::string_view entryName = {};  // before the '=' of each entry; empty: any text
+  bool numbered = false;            // numbers stand there
+  Number number = Number::kDouble;
+  bool sumsToOne = false;
+  bool toEndOfFile = false;  // it takes all lines that are left, the closing line included
+};
+/// Stores a number that is an element of a list; false when the list has no such element.
+using ElementStore = bool (*)(void* block, double value);
+
+/// One member of a block, or one further key of a member.
+struct Row {
+  Field field;
+  std::string_view key = {};       // empty: no key sets the member
+  std::string_view otherKey = {};  // a second spelling of the key
+  Lookup lookup = Lookup::kByType;
+  std::uint16_t textBuffer = 0;  // size of the buffer that a text is cut to; 0: as large as the text needs
+  Rule rule = {};
+  int gateBelow = kNoGate;       // while the int member is below, the line's later keys are skipped
+  bool count = false;            // sizes a list: negative or above kLargestCount is refused
+  ElementStore store = nullptr;  // an element of the field's array instead of the field
+  ListReader list = nullptr;
+  std::string_view fills = {};  // the members without a key of their own that the list sets, separated by blanks
+  ListLines lines = {};
+  Echo echo = {};
+  std::string_view label = {};  // in the dump; empty: never dumped
+  DumpFormat dump = DumpFormat::kByType;
+  Position at[2] = {};  // in a positional section; the later one wins
+  std::string_view unit = {};
+  std::string_view doc = {};
+
+  /// Whether reading the key comes to nothing more than parsing a number into the member.
+  constexpr bool isPlainNumber() const {
+    const bool isNumber = field.type == FieldType::kInt || field.type == FieldType::kDouble;
+    return isNumber && lookup == Lookup::kByType && otherKey.empty() && rule.none() && !count && store == nullptr &&
+           list == nullptr && echo.label.empty();
+  }
+};
+
+/// All that the reader needs of a row that is a plain number, close together: rows are large, and most of what a file
+/// sets are plain numbers.
+struct PlainNumber {
+  FieldType type = FieldType::kNone;  // kNone: the row asks for more
+  void* (*locate)(void* block) = nullptr;
+};
+
+/// Whether the list that `announcing` opens sets the member of `row`.
+bool fills(const Row& announcing, const Row& row);
+
+constexpr int kLargestCount = 1'000'000;
+
+/// One field of a positional line. Without a row it is parsed and thrown away.
+struct Slot {
+  Position at;
+  FieldType type;
+  const Row* row;
+};
+
+struct PositionalLines {
+  std::span<const Slot> slots;  // by line and field
+  std::uint8_t lines = 0;
+  bool versioned = false;          // line 1 must hold the value of the block's first member, or nothing is read
+  std::uint32_t absentIsZero = 0;  // bit per line: a field that the line lacks counts as 0
+};
+
+struct Section {
+  std::string_view name;                            // "Outlet"
+  std::string_view open;                            // "[Outlet]"; empty for a head that no opening announces
+  std::string_view close;                           // "[/Outlet]"
+  std::span<const Row> rows;                        // in the order of declaration
+  std::span<const std::uint8_t> readingOrder = {};  // row of each key, in the order in which the reader tests the keys
+  KeyFilter filter = {};                            // numbers the keys in that order
+  int gate = -1;                                    // number of the key whose member is the gate
+  std::span<const PlainNumber> plainNumbers = {};   // by key
+  bool closingLineIsRead = false;                   // the closing line's keys count too
+  int headVersion = 0;                              // a head behind "[VER]": read only for this version number
+  bool readByRank0 = false;                         // rank 0 reads the stream by itself and broadcasts the members
+  PositionalLines positional = {};
+
+  bool isPositional() const { return positional.lines > 0; }
+};
+
+struct BlockTable {
+  std::string_view className;
+  std::string_view heading;           // empty: the block is never dumped
+  std::span<const Section> sections;  // their rows in the order of declaration
+  std::span<const Row* const> dumpOrder;
+  void* (*create)();  // a block with its defaults, for the tools
+  void (*destroy)(void* block);
+};
+
+}  // namespace zeb

@@ -1,0 +1,379 @@
+// How the viscoelastic file is read: which values the head's places take, and what follows from them and from the
+// blocks.
+#include "viscoelastic/ViscoelasticFile.hpp"
+
+#include <algorithm>
+#include <fstream>
+#include <span>
+#include <type_traits>
+#include <utility>
+
+#include "engine/ReadObserver.hpp"
+#include "engine/SectionEngine.hpp"
+#include "engine/TextOutput.hpp"
+#include "engine/ValueText.hpp"
+
+namespace zeb {
+
+namespace {
+
+/// A place of the head's lines 2 to 7 and what its value must exceed to be stored.
+struct HeadBound {
+  Position at;
+  double above;
+};
+
+constexpr HeadBound kHeadBounds[] = {
+    {{2, 1}, 10.0}, {{2, 2}, 0.0}, {{3, 1}, 10.0},  {{3, 2}, 0.0},  {{3, 3}, 10.0}, {{4, 1}, 0.0}, {{4, 2}, 0.0},
+    {{5, 1}, 0.0},  {{5, 2}, 1e4}, {{6, 1}, -50.0}, {{6, 2}, 10.0}, {{7, 1}, 0.0},  {{7, 2}, 0.0}, {{7, 3}, 0.0},
+};
+
+constexpr std::string_view kModelNames[] = {
+    "White Metzner",
+    "White Metzner Modified",
+    "Linear Phan-Thien-Tanner",
+    "Giesekus",
+    "Oldroyd-B",
+    "KBKZ_Wagner",
+    "Exponential Phan-Thien-Tanner (Multi Mode)",
+    "Giesekus (Multi Mode)",
+    "Exponential Phan-Thien-Tanner",
+    "Larson",
+    "Larson (Multi Mode)",
+    "Feta_PTT",
+    "Feta_PTT (Multi Mode)",
+    "Linear Phan-Thien-Tanner (Multi Mode)",
+    "FENE-P",
+    {},
+    {},
+    {},
+    "Modified Extended Pom-Pom",
+};
+
+constexpr int kModelWithoutGradientModification = 6;
+
+std::string_view modelName(int model) {
+  const bool known = model >= 1 && model <= static_cast<int>(std::size(kModelNames)) &&
+                     !kModelNames[static_cast<std::size_t>(model - 1)].empty();
+  return known ? kModelNames[static_cast<std::size_t>(model - 1)] : "Unknown(\?\?\?\?)";  // "??)" is a trigraph
+}
+
+/// One line of the head, taken field by field.
+class HeadLine {
+ public:
+  explicit HeadLine(LineReader& lines) {
+    lines.nextOrEmpty(m_line);
+    m_lineNumber = lines.lineNumber();
+    m_scanner = FieldScanner(m_line);
+  }
+  HeadLine(const HeadLine&) = delete;
+  HeadLine& operator=(const HeadLine&) = delete;
+
+  /// Leaves `value` as it is where the line has no such field (or none before it matched).
+  template <class Value>
+  void take(Value& value) {
+    const std::string_view before = m_scanner.rest();
+    if (m_scanner.next(value)) ++m_converted;
+    m_fields[m_taken++] = before.substr(0, before.size() - m_scanner.rest().size());
+  }
+
+  const std::string& text() const { return m_line; }
+  int lineNumber() const { return m_lineNumber; }
+  std::string_view rest() const { return m_scanner.rest(); }
+  int taken() const { return m_taken; }
+  int converted() const { return m_converted; }
+  /// Field 1 is the first; empty where the line has none.
+  std::string_view field(int number) const { return m_fields[number - 1]; }
+
+ private:
+  std::string m_line;
+  int m_lineNumber = 0;
+  FieldScanner m_scanner{std::string_view()};
+  std::string_view m_fields[3];
+  int m_taken = 0;
+  int m_converted = 0;
+};
+
+template <class Value>
+void addLine(std::string& text, std::string_view label, Value value) {
+  text += label;
+  if constexpr (std::is_same_v<Value, int>) {
+    text += std::to_string(value);
+  } else {
+    text += formatGeneral(value);
+  }
+  text += '\n';
+}
+
+constexpr std::string_view kStars = "*********************\n";
+
+}  // namespace
+
+struct ViscoelasticReader {
+  CZEBCMPVEParm& block;
+  LineReader& lines;
+  // A short line leaves here what an earlier line held, and that then counts for it.
+  double scratch[3] = {};
+
+  static bool isWanted(const CZEBCMPVEParm& candidate) { return candidate.m_bIstoCalcRS; }
+
+  static std::span<const Section> sections() { return tableOf<CZEBCMPVEParm>().sections; }
+  static const Section& head() { return sections().front(); }
+  static std::span<const Section> tagBlocks() { return sections().subspan(1); }
+
+  static void GetVEModelName(int model) { writeOut(std::string(modelName(model)) + " model"); }
+
+  bool read() {
+    if (!readHead()) return false;
+    readTagBlocks();
+    return true;
+  }
+
+  // --- The head ---------------------------------------------------------------------------------------------------
+
+  bool readHead() {
+    if (lines.observer() != nullptr) [[unlikely]] {
+      lines.observer()->sectionOpened(head(), lines.lineNumber());
+    }
+    if (!versionMatches()) return false;
+    for (int number = 2; number <= 7; ++number) readBounds(number);
+    return readModelLines();
+  }
+
+  bool versionMatches() {
+    HeadLine line(lines);
+    int version = 0;
+    line.take(version);
+    finish(line, 1);
+    if (version != block.m_iVECMPVersion) return refuse(1, "line 1 does not hold the version of this file format");
+    report(rowAt({1, 1}), line, 1);
+    return true;
+  }
+
+  void readBounds(int number) {
+    HeadLine line(lines);
+    const int fields = number == 5 ? 2 : 3;
+    for (int field = 0; field < fields; ++field) line.take(scratch[field]);
+    for (const HeadBound& bound : kHeadBounds) {
+      if (bound.at.line != number) continue;
+      const double value = scratch[bound.at.field - 1];
+      const Row& row = rowAt(bound.at);
+      if (value > bound.above) {
+        *static_cast<double*>(row.field.locate(&block)) = row.rule.apply(value);
+        report(row, line, bound.at.field);
+      } else if (bound.at.field <= line.converted()) {
+        reportNotTaken(row, line, bound.at.field);
+      }
+    }
+    finish(line, number);
+  }
+
+  // Where line 8 is short, the model and the weight stay as they are; a missing line 9 confirms nothing.
+  bool readModelLines() {
+    HeadLine line(lines);
+    int model = block.m_iVEModel;
+    double weight = block.m_dSmoothFactor;
+    int plotMode = 0;
+    line.take(model);
+    line.take(weight);
+    line.take(plotMode);
+    finish(line, 8);
+
+    HeadLine confirmationLine(lines);
+    int confirmation = -1;
+    confirmationLine.take(confirmation);
+    finish(confirmationLine, 9);
+
+    if (!switchModel(model, confirmation)) return false;
+    smooth(weight);
+    if (plotMode == 1 || plotMode == 2) block.m_bPlotMaterialFun = true;
+    if (plotMode == 2) block.m_bPlotMaterialFun_ideal = true;
+    reportModelLine(line, plotMode);
+    return true;
+  }
+
+  bool switchModel(int model, int confirmation) {
+    if (model == block.m_iVEModel) return true;
+    if (model < 0 || model > block.m_iNVE_Model) return refuse(8, "line 8 holds no valid number of a model");
+    if (confirmation < 0) return refuse(9, "line 9 does not confirm the change of the model");
+    const int before = std::exchange(block.m_iVEModel, model);
+    if (!lines.source().reads()) return true;
+    writeOut("Switch from ");
+    GetVEModelName(before);
+    writeOut(" to ");
+    GetVEModelName(model);
+    return true;
+  }
+
+  void smooth(double weight) {
+    const bool smooths = weight > 0.01;
+    block.m_bModifyGradient = smooths && block.m_iVEModel != kModelWithoutGradientModification;
+    block.m_dSmoothFactor = smooths ? std::min(weight, 1.0) : 0.0;
+  }
+
+  // --- The tag blocks ---------------------------------------------------------------------------------------------
+
+  void readTagBlocks() {
+    std::string line;
+    bool unread = false;
+    while (lines.next(line)) {
+      // This block stands in every default file, but nothing reads it.
+      if (line.find("<PLOT_TRANSIENT_SHEAR_MATERIAL>") != line.npos) unread = true;
+      if (!openTagBlocks(line) && !unread && lines.observer() != nullptr) [[unlikely]] {
+        lines.observer()->lineOutside(lines.lineNumber(), line);
+      }
+      if (line.find("</PLOT_TRANSIENT_SHEAR_MATERIAL>") != line.npos) unread = false;
+    }
+  }
+
+  // All tags are looked for in this line, also after a block's reader has gone on from it.
+  bool openTagBlocks(const std::string& line) {
+    bool opened = false;
+    for (const Section& section : tagBlocks()) {
+      if (line.find(section.open) == line.npos) continue;
+      opened = true;
+      readSection(section, &block, lines);
+      if (section.name == "PLOT_MATERIAL") applyPlotFlags();
+      if (section.name == "PLOT_TRANSIENT_EXTENSION_MATERIAL") applyTransientFlag();
+    }
+    return opened;
+  }
+
+  void applyPlotFlags() {
+    if (block.m_iFlagIsPlotShearVis != 1 && block.m_iFlagIsPlotElongVis != 1) return;
+    block.m_bPlotMaterialFun = true;
+    std::string text = "\n";
+    text += kStars;
+    addLine(text, "FlagIsPlotShearVis = ", block.m_iFlagIsPlotShearVis);
+    addLine(text, "FlagIsPlotElongVis = ", block.m_iFlagIsPlotElongVis);
+    addLine(text, "RefTemperature    = ", block.m_dRefTem);
+    addLine(text, "DeltaTemperature    = ", block.m_dDeltaTem);
+    addLine(text, "DeltaTime          = ", block.m_dDeltaTime);
+    addLine(text, "TargetTime         = ", block.m_dTargetTime);
+    addLine(text, "SRateLowerBound    = ", block.m_dSRateLB);
+    addLine(text, "SRateUpperBound    = ", block.m_dSRateUB);
+    text += kStars;
+    writeOut(text);
+  }
+
+  void applyTransientFlag() {
+    if (block.m_iTransient_FlagIsPlotElongVis != 1) return;
+    block.m_bTransient_PlotMaterialFun = true;
+    std::string text = "\n";
+    text += kStars;
+    addLine(text, "FlagIsPlotElongVis_Transient = ", block.m_iTransient_FlagIsPlotElongVis);
+    addLine(text, "RefTemperature               = ", block.m_dTransient_RefTem);
+    addLine(text, "DeltaTemperature             = ", block.m_dTransient_DeltaTem);
+    addLine(text, "DeltaTime                    = ", block.m_dTransient_DeltaTime);
+    addLine(text, "TargetTime                   = ", block.m_dTransient_TargetTime);
+    addLine(text, "SRateLowerBound              = ", block.m_dTransient_SRateLB);
+    addLine(text, "SRateUpperBound              = ", block.m_dTransient_SRateUB);
+    addLine(text, "TotalSetofInputSRate         = ", block.m_nTransient_InputStrainRate);
+    addStrainRates(text);
+    text += kStars;
+    writeOut(text);
+  }
+
+  // A block that is read again may announce more strain rates than its array, which stays, has room for.
+  void addStrainRates(std::string& text) const {
+    const int count = std::min(block.m_nTransient_InputStrainRate, block.m_nTransient_HeldStrainRate);
+    const double* rates = block.m_dTransient_InputStrainRate.get();
+    for (int i = 1; i <= count; ++i) {
+      addLine(text, "#" + std::to_string(i) + " StrainRate                = ", rates[i]);
+    }
+  }
+
+  // --- What an observer is told -----------------------------------------------------------------------------------
+
+  static const Row& rowAt(Position at) {
+    return *std::find_if(head().rows.begin(), head().rows.end(),
+                         [at](const Row& row) { return row.at[0].line == at.line && row.at[0].field == at.field; });
+  }
+
+  void report(const Row& row, const HeadLine& line, int field) const {
+    if (lines.observer() == nullptr) [[likely]] {
+      return;
+    }
+    lines.observer()->keyFound(eventOf(row, line, field, KeyOutcome::kStored));
+  }
+
+  void reportNotTaken(const Row& row, const HeadLine& line, int field) const {
+    if (lines.observer() == nullptr) [[likely]] {
+      return;
+    }
+    lines.observer()->fieldNotTaken(eventOf(row, line, field, KeyOutcome::kNotStored));
+  }
+
+  KeyEvent eventOf(const Row& row, const HeadLine& line, int field, KeyOutcome outcome) const {
+    return {head(), row, &block, {}, line.text(), line.field(field), {}, line.lineNumber(), outcome};
+  }
+
+  void reportModelLine(const HeadLine& line, int plotMode) const {
+    if (lines.observer() == nullptr) [[likely]] {
+      return;
+    }
+    for (const Row& row : head().rows) {
+      const Position at = row.at[0];
+      if (at.line != 8 || at.field > line.converted()) continue;
+      const void* member = row.field.locate(&block);
+      if (member == &block.m_bPlotMaterialFun && plotMode != 1 && plotMode != 2) continue;
+      if (member == &block.m_bPlotMaterialFun_ideal && plotMode != 2) continue;
+      report(row, line, at.field);
+    }
+  }
+
+  bool refuse(int lineNumber, std::string_view reason) const {
+    if (lines.observer() != nullptr) [[unlikely]] {
+      lines.observer()->viscoelasticRefused(lineNumber, reason);
+    }
+    return false;
+  }
+
+  void finish(const HeadLine& line, int number) const {
+    if (lines.observer() == nullptr) [[likely]] {
+      return;
+    }
+    lines.observer()->linePositional(head(), line.lineNumber(), number, line.converted(), line.taken(), line.rest());
+  }
+};
+
+namespace {
+
+bool openOnRank0(std::ifstream& stream, const std::string& fileName, const LineSource& source) {
+  int opened = -1;
+  if (source.reads()) {
+    if (source.com != nullptr && source.printLevel > 0) writeOut("VE CMP file name = " + fileName + "\n");
+    opened = openFile(stream, fileName);
+  }
+  if (source.com != nullptr) source.com->Broadi(opened);
+  return opened == 1;
+}
+
+}  // namespace
+
+bool wantsViscoelasticFile(const CZEBCMPVEParm& block) { return ViscoelasticReader::isWanted(block); }
+
+int readViscoelasticLines(std::istream& stream, CZEBCMPVEParm& block, const LineSource& source,
+                          ReadObserver* observer) {
+  LineReader lines(stream, source, observer);
+  if (ViscoelasticReader{block, lines}.read()) return 1;
+  block.InitBoundingParameters();
+  return -1;
+}
+
+int readViscoelasticFile(const std::string& fileName, CZEBCMPVEParm& block, const LineSource& source,
+                         ReadObserver* observer, bool writesDefault) {
+  if (observer != nullptr) observer->fileStarted(fileName);
+  std::ifstream stream;
+  if (openOnRank0(stream, fileName, source)) {
+    if (readViscoelasticLines(stream, block, source, observer) == 1) return 1;
+    stream.close();
+  } else {
+    if (observer != nullptr) observer->viscoelasticRefused(0, "the file cannot be opened");
+    block.InitBoundingParameters();
+  }
+  if (writesDefault && source.reads()) writeDefaultViscoelasticFile(fileName, block);
+  return -1;
+}
+
+}  // namespace zeb
