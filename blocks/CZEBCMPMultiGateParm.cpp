@@ -1,30 +1,6 @@
 #include "blocks/CZEBCMPMultiGateParm.h"
 
-#include <algorithm>
-
-#include "engine/SectionEngine.hpp"
 #include "engine/TableBuilder.hpp"
-#include "engine/TextOutput.hpp"
-
-namespace {
-
-constexpr std::string_view kWeightKey = "Weightings";
-constexpr std::string_view kTooFewWeights =
-    "The Number of Inlet Groups and the number of Weightings Groups is different\n";
-
-// One message for each group; for many of them in few pieces, as a count may exceed the file's lines by far.
-void reportMissingWeights(int groups) {
-  constexpr int kGroupsAtOnce = 1000;
-  std::string text;
-  for (int group = 1; group <= groups; ++group) {
-    text += kTooFewWeights;
-    if (group % kGroupsAtOnce != 0 && group != groups) continue;
-    zeb::writeOut(text);
-    text.clear();
-  }
-}
-
-}  // namespace
 
 CZEBCMPMultiGateParm::CZEBCMPMultiGateParm() = default;
 CZEBCMPMultiGateParm::CZEBCMPMultiGateParm(const CZEBCMPMultiGateParm& other) = default;
@@ -55,31 +31,6 @@ int CZEBCMPMultiGateParm::InletWeightings(double* out) const {
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPMultiGateParm>() {
   using T = CZEBCMPMultiGateParm;
-  // The lines after the count belong to the groups whatever they hold, a closing line among them included.
-  static constexpr ListReader kReadWeightings = [](ListContext& context) {
-    T& block = *static_cast<T*>(context.block);
-    const int groups = block.m_iNumberofInletGroups;
-    double* const weights = block.m_pdInletWeightings.allocate(static_cast<std::size_t>(groups) + 1);
-    weights[groups] = 1.0;
-    std::string line;
-    for (int group = 1; group <= groups; ++group) {
-      if (!nextLineOfList(context, line)) {
-        reportMissingWeights(groups - group + 1);
-        break;
-      }
-      const bool found = line.find(kWeightKey) != line.npos;
-      double weight = 0.0;
-      const bool parsed = found && extractDouble(valueText(line), weight) > 0;
-      if (!found) reportMissingWeights(1);
-      if (parsed && group < groups) {
-        weights[group] = weight;
-        weights[groups] -= weight;
-      }
-      reportLineOfList(context, line, parsed);
-    }
-    return ListResult::kSameLine;
-  };
-
   // clang-format off
   static constexpr Row kRows[] = {
       {.field = field<&T::m_iMultipleGateDebug, &T::iMultipleGateDebug>(), .key = "Debug",
@@ -113,8 +64,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPMultiGateParm>() {
        .label = "m_dMultipleGateSPVariationLimit\t= ",
        .doc = "Limit of the variation of SP. Meaning defined by the solver."},
       {.field = field<&T::m_iNumberofInletGroups, &T::iNumberofInletGroups>(),
-       .key = "NumberofInletGroups", .count = true, .list = kReadWeightings, .fills = "m_pdInletWeightings",
-       .lines = {.entryName = kWeightKey, .sumsToOne = true},
+       .key = "NumberofInletGroups", .count = Count::kYes,
+       .list = {.array = field<&T::m_pdInletWeightings>(), .lastIsRest = true, .entryName = "Weightings",
+                .missing = "The Number of Inlet Groups and the number of Weightings Groups is different\n"},
        .label = "m_iNumberofInletGroups\t\t\t\t= ",
        .doc = "Number of inlet groups (0 to 1000000); as many lines with their weights follow."},
       {.field = field<&T::m_pdInletWeightings, &T::pdInletWeightings>(),

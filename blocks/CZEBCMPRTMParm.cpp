@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "engine/ListEngine.hpp"
 #include "engine/SectionEngine.hpp"
 #include "engine/TableBuilder.hpp"
 #include "engine/TextOutput.hpp"
@@ -11,10 +12,6 @@ namespace {
 // The lines of the vent inlets: their count, then one for each.
 constexpr std::string_view kVentCountKey = "NVentInlet";
 constexpr std::string_view kVentKey = "VentInletID";
-
-bool readInt(const std::string& line, std::string_view key, int& value) {
-  return line.find(key) != line.npos && zeb::extractInt(zeb::valueText(line), value) > 0;
-}
 
 }  // namespace
 
@@ -103,29 +100,29 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRTMParm>() {
     const auto takeLine = [&] { return nextLineOfList(context, line) && !isClosedBy(context.section, line); };
     if (!takeLine()) return ListResult::kSectionEnded;
     int count = 0;
-    const bool counted = readInt(line, kVentCountKey, count);
-    const bool valid = count >= 0 && count <= kLargestCount;
-    if (counted) {
+    EntryEvent counted = takeValue(line, kVentCountKey, count);
+    counted.isCount = true;
+    const bool valid = isValidCount(Count::kYes, count);
+    if (counted.used) {
       block.m_iNVentInlet = valid ? count : 0;  // with a refused one, the list that an earlier line filled is gone
-      reportMemberOfList(context, &block.m_iNVentInlet, line, valueText(line));
+      reportMemberOfList(context, &block.m_iNVentInlet, line, counted.value);
     }
-    reportLineOfList(context, line, counted);
-    if (!counted) return ListResult::kNextLine;
+    reportLineOfList(context, counted);
+    if (!counted.used) return ListResult::kNextLine;
     if (!valid) {
-      refuseCount(context, kVentCountKey, count);
+      refuseCount(context.section, context.row, &block, kVentCountKey, count, context.lines);
       return ListResult::kNextLine;
     }
     int* const numbers = block.m_piVentInletID.allocate(static_cast<std::size_t>(count) + 1);
     for (int i = 1; i <= count; ++i) {
       if (!takeLine()) return ListResult::kSectionEnded;
-      reportLineOfList(context, line, readInt(line, kVentKey, numbers[i]));
+      reportLineOfList(context, takeValue(line, kVentKey, numbers[i]));
     }
     return ListResult::kNextLine;
   };
-  static constexpr ListReader kEchoVoidPrediction = [](ListContext& context) {
-    const std::string value = std::to_string(static_cast<const T*>(context.block)->m_iVoidPrediction);
-    writeOut("sline = " + context.line + "\nii = " + value + "\nm_iVoidPrediction = " + value + "\n");
-    return ListResult::kSameLine;
+  static constexpr WhenStored kEchoVoidPrediction = [](void* block, const std::string& line) {
+    const std::string value = std::to_string(static_cast<const T*>(block)->m_iVoidPrediction);
+    writeOut("sline = " + line + "\nii = " + value + "\nm_iVoidPrediction = " + value + "\n");
   };
 
   // clang-format off
@@ -159,7 +156,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRTMParm>() {
       {.field = field<&T::m_iRTMAlgorithm, &T::iRTMAlgorithm>(), .key = "RTMAlgorithm",
        .doc = "Algorithm of resin transfer molding. Meaning defined by the solver."},
       {.field = field<&T::m_iVoidPrediction, &T::iVoidPrediction>(),
-       .key = "VoidPrediction", .list = kEchoVoidPrediction,
+       .key = "VoidPrediction", .whenStored = kEchoVoidPrediction,
        .doc = "Prediction of voids; reading it prints three lines. Meaning defined by the solver."},
       {.field = field<&T::m_dKTube, &T::dKTube>(), .key = "KTube",
        .doc = "Meaning defined by the solver."},
@@ -255,9 +252,10 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRTMParm>() {
        .doc = "Use of the Kozeny-Carman relation with the shear angle. Meaning defined by the solver."},
       {.field = field<&T::m_iOutputErrorMesh, &T::iOutputErrorMesh>(), .key = "OutputErrorMesh",
        .doc = "Output of the erroneous mesh. Meaning defined by the solver."},
-      {.field = field<&T::m_iIsVentInlet, &T::iIsVentInlet>(), .key = "IsVentInlet", .list = kReadVentInlets,
-       .fills = "m_iNVentInlet m_piVentInletID",
-       .lines = {.countName = kVentCountKey, .entryName = kVentKey, .number = ListLines::Number::kInt},
+      {.field = field<&T::m_iIsVentInlet, &T::iIsVentInlet>(), .key = "IsVentInlet",
+       .list = {.array = field<&T::m_piVentInletID>(), .entryName = kVentKey, .countName = kVentCountKey,
+                .read = kReadVentInlets},
+       .fills = members<&T::m_iNVentInlet>,
        .doc = "List of vent inlets; 1 announces it on the next lines."},
       {.field = field<&T::m_iNVentInlet, &T::iNVentInlet>(),
        .doc = "Number of vent inlets (0 to 1000000), from the key NVentInlet on the line after IsVentInlet."},

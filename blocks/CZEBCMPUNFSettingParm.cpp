@@ -1,6 +1,5 @@
 #include "blocks/CZEBCMPUNFSettingParm.h"
 
-#include "engine/SectionEngine.hpp"
 #include "engine/TableBuilder.hpp"
 
 namespace {
@@ -11,27 +10,17 @@ constexpr std::size_t kPointSize = 3;
 
 constexpr std::size_t placeOf(int point, Axis axis) { return kPointSize * static_cast<std::size_t>(point) + axis; }
 
+// One coordinate of a point.
+constexpr zeb::Row coordinate(zeb::Field points, int point, Axis axis, std::string_view key, std::string_view doc,
+                              std::string_view label = {}) {
+  return {.field = points,
+          .key = key,
+          .element = static_cast<std::uint16_t>(placeOf(point, axis)),
+          .label = label,
+          .doc = doc};
+}
+
 }  // namespace
-
-struct CZEBCMPUNFSettingParm::Points {
-  template <int kPoint, Axis kAxis>
-  static bool store(void* block, double value) {
-    const auto& setting = *static_cast<const CZEBCMPUNFSettingParm*>(block);
-    if (setting.m_iNDispenserPass < kPoint) return false;
-    // A copy is asked: the block itself has handed nothing out and may release the points when the count is read again.
-    zeb::SharedArray<double>(setting.m_pdDispenserPoint).get()[placeOf(kPoint, kAxis)] = value;
-    return true;
-  }
-
-  template <int kPoint, Axis kAxis>
-  static constexpr zeb::Row row(std::string_view key, std::string_view doc, std::string_view label = {}) {
-    return {.field = zeb::field<&CZEBCMPUNFSettingParm::m_pdDispenserPoint>(),
-            .key = key,
-            .store = store<kPoint, kAxis>,
-            .label = label,
-            .doc = doc};
-  }
-};
 
 CZEBCMPUNFSettingParm::CZEBCMPUNFSettingParm() = default;
 CZEBCMPUNFSettingParm::CZEBCMPUNFSettingParm(const CZEBCMPUNFSettingParm& other) = default;
@@ -64,13 +53,7 @@ int CZEBCMPUNFSettingParm::dDispenser(double** points, double& speed) const {
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPUNFSettingParm>() {
   using T = CZEBCMPUNFSettingParm;
-  using Points = T::Points;
-  static constexpr ListReader kMakePoints = [](ListContext& context) {
-    T& block = *static_cast<T*>(context.block);
-    block.m_pdDispenserPoint.allocate(kPointSize * (static_cast<std::size_t>(block.m_iNDispenserPass) + 1));
-    return ListResult::kSameLine;
-  };
-
+  static constexpr Field kPoints = field<&T::m_pdDispenserPoint>();
   // clang-format off
   static constexpr Row kRows[] = {
       {.field = field<&T::m_dVofInter, &T::dVofInter>(), .key = "VofInterface",
@@ -90,21 +73,22 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPUNFSettingParm>() {
       {.field = field<&T::m_iFillType, &T::iFillType>(), .key = "FillType", .gateBelow = 2,
        .label = "m_iFillType\t\t\t= ", .doc = "Type of the filling; below 2 the dispenser's keys are ignored."},
       {.field = field<&T::m_iNDispenserPass, &T::iNDispenserPass>(),
-       .key = "nDispenserPoint", .count = true, .list = kMakePoints, .fills = "m_pdDispenserPoint",
+       .key = "nDispenserPoint", .count = Count::kYes,
+       .list = {.array = kPoints, .perEntry = kPointSize, .hasLines = false},
        .label = "m_iNDispenserPass\t\t= ",
        .doc = "Number of dispenser points (0 to 1000000); a new count sets all points to the origin."},
       {.field = field<&T::m_dDispenserSpeed>(), .key = "Speed_V",
        .label = "m_dDispenserSpeed\t\t= ", .doc = "Speed of the dispenser."},
-      Points::row<1, kX>("Point_x1", "x of dispenser point 1.", "m_pdDispenserPoint\t\t= "),
-      Points::row<1, kY>("Point_y1", "y of dispenser point 1."),
-      Points::row<2, kX>("Point_x2", "x of dispenser point 2."),
-      Points::row<2, kY>("Point_y2", "y of dispenser point 2."),
-      Points::row<3, kX>("Point_x3", "x of dispenser point 3."),
-      Points::row<3, kY>("Point_y3", "y of dispenser point 3."),
-      Points::row<4, kX>("Point_x4", "x of dispenser point 4."),
-      Points::row<4, kY>("Point_y4", "y of dispenser point 4."),
-      Points::row<5, kX>("Point_x5", "x of dispenser point 5."),
-      Points::row<5, kY>("Point_y5", "y of dispenser point 5."),
+      coordinate(kPoints, 1, kX, "Point_x1", "x of dispenser point 1.", "m_pdDispenserPoint\t\t= "),
+      coordinate(kPoints, 1, kY, "Point_y1", "y of dispenser point 1."),
+      coordinate(kPoints, 2, kX, "Point_x2", "x of dispenser point 2."),
+      coordinate(kPoints, 2, kY, "Point_y2", "y of dispenser point 2."),
+      coordinate(kPoints, 3, kX, "Point_x3", "x of dispenser point 3."),
+      coordinate(kPoints, 3, kY, "Point_y3", "y of dispenser point 3."),
+      coordinate(kPoints, 4, kX, "Point_x4", "x of dispenser point 4."),
+      coordinate(kPoints, 4, kY, "Point_y4", "y of dispenser point 4."),
+      coordinate(kPoints, 5, kX, "Point_x5", "x of dispenser point 5."),
+      coordinate(kPoints, 5, kY, "Point_y5", "y of dispenser point 5."),
   };
   // clang-format on
   static constexpr Order<20> kReadingOrder{

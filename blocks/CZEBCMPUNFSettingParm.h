@@ -32,7 +32,6 @@ class CZEBCMPUNFSettingParm {
 
  private:
   friend const zeb::BlockTable& zeb::tableOf<CZEBCMPUNFSettingParm>();
-  struct Points;
 
   double m_dVofInter = 0.01;
   double m_dContactAngle = 90.0;

@@ -1,8 +1,9 @@
 #include "blocks/CZEBCMPVEParm.h"
 
+#include <algorithm>
 #include <string>
 
-#include "engine/ReadObserver.hpp"
+#include "engine/ListEngine.hpp"
 #include "engine/SectionEngine.hpp"
 #include "engine/TableBuilder.hpp"
 #include "engine/TextOutput.hpp"
@@ -116,28 +117,14 @@ namespace {
 
 constexpr std::string_view kStrainRateKey = "StrainRate";
 
-// A negative count is stored as it is and opens no list (-1 stands in every default file); only one too large is
-// refused.
-void refuseTooLarge(const zeb::ListContext& context, int& count) {
-  if (count <= zeb::kLargestCount) return;
-  if (context.lines.source().reads()) {
-    zeb::writeOut(std::string(context.section.open) + " " + std::string(context.row.key) + " = " +
-                  std::to_string(count) + " is no valid count (at most " + std::to_string(zeb::kLargestCount) +
-                  "); 0 is used\n");
-  }
-  count = 0;
-  zeb::releaseLists(context.section, context.row, context.block);
-  if (context.lines.observer() != nullptr) {
-    context.lines.observer()->keyFound({context.section,
-                                        context.row,
-                                        context.block,
-                                        context.row.key,
-                                        context.line,
-                                        zeb::valueText(context.line),
-                                        {},
-                                        context.lines.lineNumber(),
-                                        zeb::KeyOutcome::kRefused});
-  }
+std::string lineOf(std::string_view label, int value) { return std::string(label) + std::to_string(value) + '\n'; }
+std::string lineOf(std::string_view label, double value) {
+  return std::string(label) + zeb::formatGeneral(value) + '\n';
+}
+
+void writeStarred(const std::string& text) {
+  constexpr std::string_view kStars = "*********************\n";
+  zeb::writeOut("\n" + std::string(kStars) + text + std::string(kStars));
 }
 
 // Takes every line to the end of the file, the section's closing line and whatever follows it included.
@@ -147,10 +134,10 @@ zeb::ListResult readStrainRates(zeb::ListContext& context, double* rates, int co
   std::string line;
   while (context.lines.next(line)) {
     closed = closed || zeb::isClosedBy(context.section, line);
-    const bool used = stored < count && line.find(kStrainRateKey) != line.npos &&
-                      zeb::extractDouble(zeb::valueText(line), rates[stored + 1]) > 0;
-    if (used) ++stored;
-    zeb::reportLineOfList(context, line, used);
+    zeb::EntryEvent taken;
+    if (stored < count) taken = zeb::takeValue(line, kStrainRateKey, rates[stored + 1]);
+    if (taken.used) ++stored;
+    zeb::reportLineOfList(context, taken);
   }
   context.line = closed ? context.section.close : std::string_view();
   return zeb::ListResult::kSectionEnded;
@@ -164,18 +151,48 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPVEParm>() {
 
   static constexpr ListReader kReadStrainRates = [](ListContext& context) {
     T& block = *static_cast<T*>(context.block);
-    int& count = block.m_nTransient_InputStrainRate;
-    refuseTooLarge(context, count);
+    const int count = block.m_nTransient_InputStrainRate;
     if (count <= 0 || block.m_dTransient_InputStrainRate.get() != nullptr) return ListResult::kSameLine;
     double* const rates = block.m_dTransient_InputStrainRate.allocate(static_cast<std::size_t>(count) + 1);
     block.m_nTransient_HeldStrainRate = count;
     return readStrainRates(context, rates, count);
   };
-  // Outside of the list, a line with a strain rate has no place to store it.
-  static constexpr ElementStore kNoElement = [](void*, double) { return false; };
+
+  static constexpr auto kApplyPlotFlags = [](void* viscoelastic) {
+    T& block = *static_cast<T*>(viscoelastic);
+    if (block.m_iFlagIsPlotShearVis != 1 && block.m_iFlagIsPlotElongVis != 1) return;
+    block.m_bPlotMaterialFun = true;
+    writeStarred(lineOf("FlagIsPlotShearVis = ", block.m_iFlagIsPlotShearVis) +
+                 lineOf("FlagIsPlotElongVis = ", block.m_iFlagIsPlotElongVis) +
+                 lineOf("RefTemperature    = ", block.m_dRefTem) + lineOf("DeltaTemperature    = ", block.m_dDeltaTem) +
+                 lineOf("DeltaTime          = ", block.m_dDeltaTime) +
+                 lineOf("TargetTime         = ", block.m_dTargetTime) +
+                 lineOf("SRateLowerBound    = ", block.m_dSRateLB) + lineOf("SRateUpperBound    = ", block.m_dSRateUB));
+  };
+
+  static constexpr auto kApplyTransientFlag = [](void* viscoelastic) {
+    T& block = *static_cast<T*>(viscoelastic);
+    if (block.m_iTransient_FlagIsPlotElongVis != 1) return;
+    block.m_bTransient_PlotMaterialFun = true;
+    std::string text = lineOf("FlagIsPlotElongVis_Transient = ", block.m_iTransient_FlagIsPlotElongVis) +
+                       lineOf("RefTemperature               = ", block.m_dTransient_RefTem) +
+                       lineOf("DeltaTemperature             = ", block.m_dTransient_DeltaTem) +
+                       lineOf("DeltaTime                    = ", block.m_dTransient_DeltaTime) +
+                       lineOf("TargetTime                   = ", block.m_dTransient_TargetTime) +
+                       lineOf("SRateLowerBound              = ", block.m_dTransient_SRateLB) +
+                       lineOf("SRateUpperBound              = ", block.m_dTransient_SRateUB) +
+                       lineOf("TotalSetofInputSRate         = ", block.m_nTransient_InputStrainRate);
+    // A block that is read again may announce more strain rates than its array, which stays, has room for.
+    const int held = std::min(block.m_nTransient_InputStrainRate, block.m_nTransient_HeldStrainRate);
+    for (int i = 1; i <= held; ++i) {
+      text += lineOf("#" + std::to_string(i) + " StrainRate                = ",
+                     block.m_dTransient_InputStrainRate.get()[i]);
+    }
+    writeStarred(text);
+  };
 
   // clang-format off
-  // The head's places; which values a place takes is the reader's matter.
+  // The head's places.
   static constexpr Row kHeadRows[] = {
       {.field = field<&T::m_bIstoCalcRS>(), .label = "m_bIstoCalcRS               = ",
        .doc = "Switch, set by the host alone: the viscoelastic file is read after the CMP file."},
@@ -187,46 +204,49 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPVEParm>() {
        .at = {{1, 1}}, .doc = "Version of the viscoelastic file; a file of another version is refused."},
       {.field = field<&T::m_dTgPoint>(),
        .doc = "Temperature point, set by the host alone, that the lower temperature bound starts from."},
-      {.field = field<&T::m_dTLowBond, &T::getCtrlParam_TLowBond>(), .label = "\nm_iNVE_Model                = ",
-       .at = {{2, 1}}, .doc = "Lower bound of the temperature; only a value above 10 is taken."},
+      {.field = field<&T::m_dTLowBond, &T::getCtrlParam_TLowBond>(), .rule = {.takenAbove = 10.0},
+       .label = "\nm_iNVE_Model                = ",
+       .at = {{2, 1}}, .doc = "Lower bound of the temperature."},
       {.field = field<&T::m_dModifyLamdaLowT, &T::getCtrlParam_ModifyLamdaLowT>(),
-       .label = "m_dModifyLamdaLowT          = ", .at = {{2, 2}},
-       .doc = "Modifier of the relaxation time at low temperature; only a value above 0 is taken."},
+       .rule = {.takenAbove = 0.0}, .label = "m_dModifyLamdaLowT          = ", .at = {{2, 2}},
+       .doc = "Modifier of the relaxation time at low temperature."},
       {.field = field<&T::m_dShrateUpBond1, &T::getCtrlParam_ShrateUpBond1>(),
-       .label = "m_dShrateUpBond1            = ", .at = {{3, 1}},
-       .doc = "First upper bound of the shear rate; only a value above 10 is taken."},
+       .rule = {.takenAbove = 10.0}, .label = "m_dShrateUpBond1            = ", .at = {{3, 1}},
+       .doc = "First upper bound of the shear rate."},
       {.field = field<&T::m_dShrateUpBond2, &T::getCtrlParam_ShrateUpBond2>(),
-       .label = "m_dShrateUpBond2            = ", .at = {{3, 3}},
-       .doc = "Second upper bound of the shear rate; only a value above 10 is taken."},
+       .rule = {.takenAbove = 10.0}, .label = "m_dShrateUpBond2            = ", .at = {{3, 3}},
+       .doc = "Second upper bound of the shear rate."},
       {.field = field<&T::m_dModifyLamdaShrateUB, &T::getCtrlParam_ModifyLamdaShrateUB>(),
-       .label = "m_dModifyLamdaShrateUB      = ", .at = {{3, 2}},
-       .doc = "Modifier of the relaxation time at the upper shear rate bound; only a value above 0 is taken."},
+       .rule = {.takenAbove = 0.0}, .label = "m_dModifyLamdaShrateUB      = ", .at = {{3, 2}},
+       .doc = "Modifier of the relaxation time at the upper shear rate bound."},
       {.field = field<&T::m_dShrateLowBond1, &T::getCtrlParam_ShrateLowBond1>(),
-       .label = "m_dShrateLowBond1           = ", .at = {{7, 1}},
-       .doc = "First lower bound of the shear rate; only a value above 0 is taken."},
+       .rule = {.takenAbove = 0.0}, .label = "m_dShrateLowBond1           = ", .at = {{7, 1}},
+       .doc = "First lower bound of the shear rate."},
       {.field = field<&T::m_dShrateLowBond2, &T::getCtrlParam_ShrateLowBond2>(),
-       .label = "m_dShrateLowBond2           = ", .at = {{7, 3}},
-       .doc = "Second lower bound of the shear rate; only a value above 0 is taken."},
+       .rule = {.takenAbove = 0.0}, .label = "m_dShrateLowBond2           = ", .at = {{7, 3}},
+       .doc = "Second lower bound of the shear rate."},
       {.field = field<&T::m_dModifyLamdaShrateLB, &T::getCtrlParam_ModifyLamdaShrateLB>(),
-       .label = "m_dModifyLamdaShrateLB      = ", .at = {{7, 2}},
-       .doc = "Modifier of the relaxation time at the lower shear rate bound; only a value above 0 is taken."},
-      {.field = field<&T::m_dStressUpBond, &T::getCtrlParam_StressUpBond>(), .rule = {.scale = 1e7},
+       .rule = {.takenAbove = 0.0}, .label = "m_dModifyLamdaShrateLB      = ", .at = {{7, 2}},
+       .doc = "Modifier of the relaxation time at the lower shear rate bound."},
+      {.field = field<&T::m_dStressUpBond, &T::getCtrlParam_StressUpBond>(), .rule = {.scale = 1e7, .takenAbove = 0.0},
        .label = "m_dStressUpBond             = ", .at = {{4, 1}}, .unit = "dyn/cm^2 (file: MPa)",
-       .doc = "Upper bound of the stress; only a value above 0 is taken."},
+       .doc = "Upper bound of the stress."},
       {.field = field<&T::m_dModifyLamdaStressUB, &T::getCtrlParam_ModifyLamdaStressUB>(),
-       .label = "m_dModifyLamdaStressUB      = ", .at = {{4, 2}},
-       .doc = "Modifier of the relaxation time at the upper stress bound; only a value above 0 is taken."},
-      {.field = field<&T::m_dFreezeLamda, &T::getCtrlParam_FreezeLamda>(), .label = "m_dFreezeLamda              = ",
-       .at = {{5, 1}}, .doc = "Freeze bound of the relaxation time; only a value above 0 is taken."},
+       .rule = {.takenAbove = 0.0}, .label = "m_dModifyLamdaStressUB      = ", .at = {{4, 2}},
+       .doc = "Modifier of the relaxation time at the upper stress bound."},
+      {.field = field<&T::m_dFreezeLamda, &T::getCtrlParam_FreezeLamda>(), .rule = {.takenAbove = 0.0},
+       .label = "m_dFreezeLamda              = ",
+       .at = {{5, 1}}, .doc = "Freeze bound of the relaxation time."},
       {.field = field<&T::m_dFreezeViscosity, &T::getCtrlParam_FreezeViscosity>(),
-       .label = "m_dFreezeViscosity          = ", .at = {{5, 2}},
-       .doc = "Freeze bound of the viscosity; only a value above 10000 is taken."},
-      {.field = field<&T::m_dPackPressureLowBond, &T::getCtrlParam_PackPressureLowBond>(), .rule = {.scale = 1e7},
+       .rule = {.takenAbove = 1e4}, .label = "m_dFreezeViscosity          = ", .at = {{5, 2}},
+       .doc = "Freeze bound of the viscosity."},
+      {.field = field<&T::m_dPackPressureLowBond, &T::getCtrlParam_PackPressureLowBond>(),
+       .rule = {.scale = 1e7, .takenAbove = -50.0},
        .label = "m_dPackPressureLowBond      = ", .at = {{6, 1}}, .unit = "dyn/cm^2 (file: MPa)",
-       .doc = "Lower bound of the pressure in packing; only a value above -50 MPa is taken."},
+       .doc = "Lower bound of the pressure in packing."},
       {.field = field<&T::m_dPackShrateUpBond, &T::getCtrlParam_PackShrateUpBond>(),
-       .label = "m_dPackShrateUpBond         = ", .at = {{6, 2}},
-       .doc = "Upper bound of the shear rate in packing; only a value above 10 is taken."},
+       .rule = {.takenAbove = 10.0}, .label = "m_dPackShrateUpBond         = ", .at = {{6, 2}},
+       .doc = "Upper bound of the shear rate in packing."},
       {.field = field<&T::m_bPlotMaterialFun, &T::getMatFunPlotParam_isPlotMaterialFun>(), .at = {{8, 3}},
        .doc = "Switch: material functions are plotted; set by plot mode 1 or 2 and by either plot flag of 1."},
       {.field = field<&T::m_bPlotMaterialFun_ideal, &T::getMatFunPlotParam_isPlotMaterialFun_ideal>(), .at = {{8, 3}},
@@ -294,11 +314,12 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPVEParm>() {
                       &T::getMatFunPlotParam_Transient_FlagIsPlotElongVis_Transient>(),
        .key = "FlagIsPlotElongVis_Transient", .doc = "Flag: the transient elongational viscosity is plotted if 1."},
       {.field = field<&T::m_nTransient_InputStrainRate, &T::getMatFunPlotParam_Transient_NSetofInput_StrainRate>(),
-       .key = "TotalSetofInputSRate", .list = kReadStrainRates, .fills = "m_dTransient_InputStrainRate",
-       .lines = {.toEndOfFile = true},
+       .key = "TotalSetofInputSRate", .count = Count::kNegativeIsNone,
+       .list = {.array = field<&T::m_dTransient_InputStrainRate>(), .toEndOfFile = true, .read = kReadStrainRates},
        .doc = "Number of input strain rates; above 0 it announces them, negative: none."},
       {.field = field<&T::m_dTransient_InputStrainRate, &T::getMatFunPlotParam_Transient_InputStrainRate>(),
-       .key = kStrainRateKey, .store = kNoElement, .doc = "Input strain rates, one a line, to the end of the file."},
+       .key = kStrainRateKey, .element = kNoElement,  // outside of the list, there is no place for it
+       .doc = "Input strain rates, one a line, to the end of the file."},
       {.field = field<&T::m_dTransient_RefTem, &T::getMatFunPlotParam_Transient_RefTem>(), .key = "RefTemperature",
        .doc = "Reference temperature of the transient plot."},
       {.field = field<&T::m_dTransient_DeltaTem, &T::getMatFunPlotParam_Transient_DeltaTem>(),
@@ -331,14 +352,19 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPVEParm>() {
     head.name = "viscoelastic head";
     return head;
   }();
+  static constexpr auto read = [](Section section, void (*whenRead)(void*)) {
+    section.whenRead = whenRead;
+    return section;
+  };
   // The head, then the blocks in the order in which the reader looks for their tags.
   static constexpr Section kSections[] = {
       kHead,
       taggedSection<"VE_Solver", kSolverRows>(),
       taggedSection<"WhiteMetzner_Gai", kWhiteMetznerRows>(),
       taggedSection<"Complete_PTT", kCompletePttRows>(),
-      taggedSection<"PLOT_MATERIAL", kPlotRows>(),
-      taggedSection<"PLOT_TRANSIENT_EXTENSION_MATERIAL", kTransientRows, kTransientReadingOrder>()};
+      read(taggedSection<"PLOT_MATERIAL", kPlotRows>(), kApplyPlotFlags),
+      read(taggedSection<"PLOT_TRANSIENT_EXTENSION_MATERIAL", kTransientRows, kTransientReadingOrder>(),
+           kApplyTransientFlag)};
   static constexpr BlockTable kTable = blockTable<T, kSections, kDumpOrder>("\n---------VECMP Parameters---------");
   return kTable;
 }

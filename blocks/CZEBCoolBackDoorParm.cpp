@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "engine/SectionEngine.hpp"
 #include "engine/TableBuilder.hpp"
+#include "engine/ValueText.hpp"
 
 CZEBCoolBackDoorParm::CZEBCoolBackDoorParm() = default;
 CZEBCoolBackDoorParm::CZEBCoolBackDoorParm(const CZEBCoolBackDoorParm& other) = default;
@@ -32,10 +32,10 @@ template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCoolBackDoorParm>() {
   using T = CZEBCoolBackDoorParm;
   // "ElemagComsol 1.5 20.0 coil.txt", whatever the first word; what is missing leaves its member and all later ones.
-  static constexpr ListReader kReadHeating = [](ListContext& context) {
+  static constexpr WhenStored kReadHeating = [](void* whiteboard, const std::string& line) {
     constexpr std::size_t kLongestName = 511;
-    T& block = *static_cast<T*>(context.block);
-    FieldScanner scanner(context.line);
+    T& block = *static_cast<T*>(whiteboard);
+    FieldScanner scanner(line);
     std::string_view word;
     double start = 0.0, end = 0.0;
     scanner.next(word);
@@ -44,7 +44,6 @@ const zeb::BlockTable& zeb::tableOf<CZEBCoolBackDoorParm>() {
     if (scanner.next(word)) {
       block.m_cGetElectromagneticxternalFile.assign(word.data(), std::min(word.size(), kLongestName));
     }
-    return ListResult::kSameLine;
   };
 
   // clang-format off
@@ -53,8 +52,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCoolBackDoorParm>() {
        .key = "HeatFluxHistory", .lookup = Lookup::kPresence,
        .doc = "Switch: heat-flux history; set by the word alone."},
       {.field = field<&T::m_iGetIfActive_ElectromagneticHeating, &T::iGetIfActive_ElectromagneticHeating>(),
-       .key = "ElemagComsol", .lookup = Lookup::kPresence, .list = kReadHeating,
-       .fills = "m_dGetTime_StartHeating m_dGetTime_EndHeating m_cGetElectromagneticxternalFile",
+       .key = "ElemagComsol", .lookup = Lookup::kPresence, .whenStored = kReadHeating,
+       .fills = members<&T::m_dGetTime_StartHeating, &T::m_dGetTime_EndHeating,
+                        &T::m_cGetElectromagneticxternalFile>,
        .doc = "Switch: electromagnetic heating; set by the word, with start, end and external file as the next words."},
       {.field = field<&T::m_cGetElectromagneticxternalFile, &T::cGetElectromagneticxternalFile>(),
        .doc = "Name of the external file of the electromagnetic heating, cut to 511 characters."},

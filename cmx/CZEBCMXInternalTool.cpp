@@ -1,12 +1,10 @@
 #include "cmx/CZEBCMXInternalTool.hpp"
 
-#include <fstream>
-
-#include "engine/ReadObserver.hpp"
 #include "engine/TableBuilder.hpp"
-#include "engine/TextOutput.hpp"
 
 namespace {
+
+constexpr zeb::Format kFormat{.name = "CMX", .nameLine = zeb::Format::NameLine::kIfTraced, .barrier = false};
 
 // The blocks behind <SUMMARY>, which is the tool's own.
 template <class... Blocks>
@@ -52,26 +50,16 @@ void CZEBCMXInternalTool::setPrintLevel(int level) { m_nPrintLevel = level; }
 
 int CZEBCMXInternalTool::nCMXVersion() const { return m_nCMXVersion; }
 
-zeb::LineSource CZEBCMXInternalTool::lineSource() const {
-  return {.com = m_pCom, .printLevel = m_nPrintLevel, .barrier = false};
-}
+zeb::LineSource CZEBCMXInternalTool::lineSource() const { return kFormat.lineSource(m_pCom, m_nPrintLevel); }
 
 int CZEBCMXInternalTool::setSolidFillBlock(const std::string& fileName) {
-  std::ifstream stream;
-  if (lineSource().reads()) {
-    if (m_nPrintLevel > 0) zeb::writeOut(" CMX file name = " + fileName + "\n");
-    zeb::openFile(stream, fileName);
-  }
-  if (observer != nullptr) observer->fileStarted(fileName);
-  readBlocks(stream);
-  return 1;
+  return zeb::readFile(kFormat, m_sections, fileName, lineSource(), observer);
 }
 
 void CZEBCMXInternalTool::readBlocks(std::istream& stream) {
   const zeb::LineSource source = lineSource();
   zeb::LineReader lines(stream, source, observer);
-  std::string line;
-  while (lines.next(line)) zeb::dispatchLine(m_sections, line, lines);
+  zeb::readLines(m_sections, lines);
 }
 
 template <>

@@ -19,7 +19,7 @@
 #include "cmx/CZEBCMX_SOLID_PACK.h"
 #include "cmx/CZEBCMX_SOLID_VE.h"
 #include "cmx/CZEBCMX_TASKMANAGER.h"
-#include "engine/SectionDispatch.hpp"
+#include "engine/Format.hpp"
 
 /// Shared by a CMX parameter set and its copies.
 class CZEBCMXInternalTool {

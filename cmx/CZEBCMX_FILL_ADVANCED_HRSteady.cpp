@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "engine/SectionEngine.hpp"
 #include "engine/TableBuilder.hpp"
 #include "engine/ValueText.hpp"
 
@@ -21,30 +20,17 @@ const double* CZEBCMX_FILL_ADVANCED_HRSteady::pHRGateBC() const { return m_pHRGa
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_HRSteady>() {
   using T = CZEBCMX_FILL_ADVANCED_HRSteady;
-  static constexpr ListReader kMakeGates = [](ListContext& context) {
-    T& block = *static_cast<T*>(context.block);
-    block.m_pHRGateBC.allocate(static_cast<std::size_t>(block.m_iNHRGate) + 1);
-    return ListResult::kSameLine;
-  };
-  // A line without a value leaves its gate as it is; the next line is the next gate's all the same.
-  static constexpr ListReader kReadGates = [](ListContext& context) {
-    T& block = *static_cast<T*>(context.block);
-    std::string line;
-    for (int gate = 1; gate <= block.m_iNHRGate && nextLineOfList(context, line); ++gate) {
-      reportLineOfList(context, line, extractDouble(valueText(line), block.m_pHRGateBC.get()[gate]) > 0);
-    }
-    return ListResult::kSameLine;
-  };
   // clang-format off
   static constexpr Row kRows[] = {
       {.field = field<&T::m_dHRFlowRate, &T::dHRFlowRate>(), .key = "ValueFlowRate", .doc = "Flow rate."},
       {.field = field<&T::m_dHRConvergenceCriteria, &T::dHRConvergenceCriteria>(), .key = "ValueConvergenceCriteria",
        .otherKey = "ValueFlowRateDiffRatio", .doc = "Convergence criterion: ratio of the flow rate difference."},
-      {.field = field<&T::m_iNHRGate, &T::iNHRGate>(), .key = "ValueNoHRGate", .count = true, .list = kMakeGates,
-       .fills = "m_pHRGateBC",
+      {.field = field<&T::m_iNHRGate, &T::iNHRGate>(), .key = "ValueNoHRGate", .count = Count::kYes,
+       .list = {.array = field<&T::m_pHRGateBC>(), .hasLines = false},
        .doc = "Number of hot runner gates, 0 to 1,000,000."},
-      {.field = field<&T::m_iHRGateType, &T::iHRGateType>(), .key = "ValueHRGateType", .list = kReadGates,
-       .fills = "m_pHRGateBC",
+      {.field = field<&T::m_iHRGateType, &T::iHRGateType>(), .key = "ValueHRGateType",
+       // A line without a value leaves its gate as it is; the next line is the next gate's all the same.
+       .list = {.array = field<&T::m_pHRGateBC>(), .count = field<&T::m_iNHRGate>(), .makesRoom = false},
        .doc = "Type of the gates' boundary condition. Meaning defined by the solver."},
       {.field = field<&T::m_pHRGateBC, &T::pHRGateBC>(),
        .doc = "Values of the gates' boundary condition, one line each behind ValueHRGateType."},

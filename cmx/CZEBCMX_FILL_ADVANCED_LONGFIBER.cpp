@@ -3,7 +3,7 @@
 #include <span>
 #include <string>
 
-#include "engine/SectionEngine.hpp"
+#include "engine/ListEngine.hpp"
 #include "engine/TableBuilder.hpp"
 #include "engine/ValueText.hpp"
 
@@ -57,11 +57,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_LONGFIBER>() {
     std::string line;
     for (double* coefficient : coefficients) {
       if (!nextLineOfList(context, line)) break;
-      FieldScanner scanner(line);
-      std::string_view name, equals;
-      const bool used = scanner.next(name) && scanner.next(equals) && scanner.next(*coefficient);
-      if (used) reportMemberOfList(context, coefficient, line, valueText(line));
-      reportLineOfList(context, line, used);
+      const EntryEvent taken = scanValue(line, Entry::kNamed, *coefficient);
+      if (taken.used) reportMemberOfList(context, coefficient, line, valueText(line));
+      reportLineOfList(context, taken);
     }
     return ListResult::kSameLine;
   };
@@ -77,9 +75,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_LONGFIBER>() {
       {.field = field<&T::m_dWeightPercent, &T::dWeightPercent>(), .key = "Weight",
        .doc = "Weight percentage of the fibers."},
       {.field = field<&T::m_iDiffusionModelType, &T::iDiffusionModelType>(), .key = "DiffusionModelType",
-       .list = kReadCoefficients,
-       .fills = "m_dARD_b1 m_dARD_b2 m_dARD_b3 m_dARD_b4 m_dARD_b5 m_dARD_Cf m_dARD_Cm m_dFiber_CI",
-       .lines = {.number = ListLines::Number::kScanned},
+       .list = {.entry = Entry::kNamed, .read = kReadCoefficients},
+       .fills = members<&T::m_dARD_b1, &T::m_dARD_b2, &T::m_dARD_b3, &T::m_dARD_b4, &T::m_dARD_b5, &T::m_dARD_Cf,
+                        &T::m_dARD_Cm, &T::m_dFiber_CI>,
        .doc = "Fiber diffusion model, 0, 1 or 2; the lines of its coefficients follow."},
       {.field = field<&T::m_dARD_b1, &T::dARD_b1>(), .doc = "Coefficient b1 of fiber diffusion model 2."},
       {.field = field<&T::m_dARD_b2, &T::dARD_b2>(), .doc = "Coefficient b2 of fiber diffusion model 2."},

@@ -1,6 +1,5 @@
 #include "cmx/CZEBCMX_FILL_OUTPUT_TIMES.h"
 
-#include "cmx/OutputMoments.hpp"
 #include "engine/TableBuilder.hpp"
 
 CZEBCMX_FILL_OUTPUT_TIMES::CZEBCMX_FILL_OUTPUT_TIMES() = default;
@@ -20,16 +19,13 @@ int CZEBCMX_FILL_OUTPUT_TIMES::setMultiOutputType(int type) {
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_OUTPUT_TIMES>() {
   using T = CZEBCMX_FILL_OUTPUT_TIMES;
-  static constexpr ListReader kReadMoments = [](ListContext& context) {
-    return readOutputMoments(context, static_cast<T*>(context.block)->m_pOutTimeStep);
-  };
   // clang-format off
   static constexpr Row kRows[] = {
       {.field = field<&T::m_iMultiOutputType, &T::MultiOutputType>(), .key = "FlagFillMultiOutputType",
        .rule = {.replace = {equal(3, 2)}},
        .doc = "Scale of the moments, 1 seconds, 2 percent; a 3 in the file becomes 2."},
-      {.field = field<&T::m_iNoOutTimeStep, &T::NoOutTimeStep>(), .key = "ValueNoFillOutputTime", .count = true,
-       .list = kReadMoments, .fills = "m_pOutTimeStep", .lines = kMomentLines,
+      {.field = field<&T::m_iNoOutTimeStep, &T::NoOutTimeStep>(), .key = "ValueNoFillOutputTime", .count = Count::kYes,
+       .list = {.array = field<&T::m_pOutTimeStep>(), .entry = Entry::kNumbered},
        .doc = "Number of output moments, 0 to 1,000,000."},
       {.field = field<&T::m_pOutTimeStep, &T::pOutTimeStep>(), .doc = "Output moments in the order of their lines."},
   };

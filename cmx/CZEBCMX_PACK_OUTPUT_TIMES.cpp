@@ -1,6 +1,5 @@
 #include "cmx/CZEBCMX_PACK_OUTPUT_TIMES.h"
 
-#include "cmx/OutputMoments.hpp"
 #include "engine/TableBuilder.hpp"
 
 CZEBCMX_PACK_OUTPUT_TIMES::CZEBCMX_PACK_OUTPUT_TIMES() = default;
@@ -14,13 +13,10 @@ const double* CZEBCMX_PACK_OUTPUT_TIMES::pOutTimeStep() const { return m_pOutTim
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMX_PACK_OUTPUT_TIMES>() {
   using T = CZEBCMX_PACK_OUTPUT_TIMES;
-  static constexpr ListReader kReadMoments = [](ListContext& context) {
-    return readOutputMoments(context, static_cast<T*>(context.block)->m_pOutTimeStep);
-  };
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iNoOutTimeStep, &T::iNoOutTimeStep>(), .key = "ValueNoPackOutputTime", .count = true,
-       .list = kReadMoments, .fills = "m_pOutTimeStep", .lines = kMomentLines,
+      {.field = field<&T::m_iNoOutTimeStep, &T::iNoOutTimeStep>(), .key = "ValueNoPackOutputTime", .count = Count::kYes,
+       .list = {.array = field<&T::m_pOutTimeStep>(), .entry = Entry::kNumbered},
        .doc = "Number of output moments, 0 to 1,000,000."},
       {.field = field<&T::m_pOutTimeStep, &T::pOutTimeStep>(), .doc = "Output moments in the order of their lines."},
   };

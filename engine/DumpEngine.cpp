@@ -10,35 +10,26 @@ namespace zeb {
 
 namespace {
 
-std::string doubleText(double value, DumpFormat format) {
-  if (format == DumpFormat::kByType) return formatGeneral(value);
-  return std::to_string(static_cast<std::int32_t>(std::bit_cast<std::uint64_t>(value) & 0xFFFFFFFFu));
-}
+struct ValueDump {
+  DumpFormat format;
+
+  std::string operator()(int value) const { return std::to_string(value); }
+  std::string operator()(bool value) const { return value ? "1" : "0"; }
+  std::string operator()(double value) const {
+    if (format == DumpFormat::kByType) return formatGeneral(value);
+    return std::to_string(static_cast<std::int32_t>(std::bit_cast<std::uint64_t>(value) & 0xFFFFFFFFu));
+  }
+  std::string operator()(const OwnedText& text) const { return text.get() == nullptr ? "" : text.get(); }
+  template <class Element>
+  std::string operator()(const SharedArray<Element>& array) const {
+    return formatAddress(array.get());
+  }
+};
 
 }  // namespace
 
 std::string dumpValue(const Row& row, const void* block) {
-  // Only read through; the tables locate members of mutable blocks.
-  const void* member = row.field.locate(const_cast<void*>(block));
-  switch (row.field.type) {
-    case FieldType::kInt:
-      return std::to_string(*static_cast<const int*>(member));
-    case FieldType::kDouble:
-      return doubleText(*static_cast<const double*>(member), row.dump);
-    case FieldType::kBool:
-      return *static_cast<const bool*>(member) ? "1" : "0";
-    case FieldType::kText: {
-      const char* text = static_cast<const OwnedText*>(member)->get();
-      return text == nullptr ? "" : text;
-    }
-    case FieldType::kInts:
-      return formatAddress(static_cast<const SharedArray<int>*>(member)->get());
-    case FieldType::kDoubles:
-      return formatAddress(static_cast<const SharedArray<double>*>(member)->get());
-    case FieldType::kNone:
-      break;
-  }
-  return {};
+  return visit(row.field, const_cast<void*>(block), ValueDump{row.dump});
 }
 
 std::string dumpText(const BlockTable& table, const void* block) {

@@ -5,9 +5,11 @@
 // order of its own, name the new key or member there too: the compiler refuses an order that is not whole.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <limits>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "engine/Field.hpp"
@@ -42,6 +44,8 @@ struct Replacement {
   When when = When::kNever;
   double limit = 0.0;
   double value = 0.0;
+
+  bool fits(double scaled) const;
 };
 
 constexpr Replacement below(double limit, double becomes) { return {Replacement::When::kBelow, limit, becomes}; }
@@ -57,8 +61,14 @@ struct Rule {
   double scale = 1.0;
   Replacement replace[2] = {};
 
+  // Of a field in a head: only a value above is taken; the limit stands before the scale.
+  double takenAbove = -std::numeric_limits<double>::infinity();
+
+  constexpr bool isBounded() const { return takenAbove != -std::numeric_limits<double>::infinity(); }
   constexpr bool none() const { return scale == 1.0 && replace[0].when == Replacement::When::kNever; }
   double apply(double value) const;
+  /// The replacement that fits the scaled value; null where it stays.
+  const Replacement* replacementOf(double scaled) const;
 };
 
 /// A line printed on every rank as soon as the value is stored, whatever the print level.
@@ -89,24 +99,47 @@ enum class ListResult : std::uint8_t {
   kNextLine,      // `line` now holds the line with which the section goes on
   kSectionEnded,  // the list met the closing line or the end of the input
 };
-/// Reads the lines of a list that a key announces; called after the key's value is stored.
+/// Reads a list that is like no other; called after the key's value is stored.
 using ListReader = ListResult (*)(ListContext& context);
-/// What the lines of a list hold, for whoever explains or checks them; the list's reader knows it by itself.
-struct ListLines {
-  enum class Number : std::uint8_t {
-    kDouble,
-    kInt,
-    kScanned,  // by the formatted scan, to which nan, inf and hexadecimal are numbers
-  };
-  std::string_view countName = {};  // before the '=' of a first line that holds the count; empty: the key has it
-  std::string_view entryName = {};  // before the '=' of each entry; empty: any text
-  bool numbered = false;            // numbers stand there
-  Number number = Number::kDouble;
-  bool sumsToOne = false;
-  bool toEndOfFile = false;  // it takes all lines that are left, the closing line included
+
+/// What an entry of a list looks like.
+enum class Entry : std::uint8_t {
+  kValue,     // the number behind '='
+  kNumbered,  // "3 = 0.5", by the formatted scan, to which nan, inf and hexadecimal are numbers; any number in front
+  kNamed,     // "Cf = 0.5", by the formatted scan; any word in front
 };
-/// Stores a number that is an element of a list; false when the list has no such element.
-using ElementStore = bool (*)(void* block, double value);
+
+/// The entries that a key announces, one a line, and the array that takes them, from its element 1 on.
+struct List {
+  Field array = {};           // none: the row's `fills` tell what the reader sets
+  Field count = {};           // how many; none: the announcing key's own value
+  std::uint8_t perEntry = 1;  // elements of the array
+  bool makesRoom = true;      // a new array each time
+  bool hasLines = true;       // else room is all that is made
+  bool lastIsRest = false;    // the last entry is one minus the others, whatever its line says
+  bool toEndOfFile = false;   // it takes all lines that are left, the closing line included
+  Entry entry = Entry::kValue;
+  std::string_view entryName = {};  // before the '=' of each entry; empty: any text
+  std::string_view countName = {};  // before the '=' of a first line that holds the count; empty: the key has it
+  std::string_view missing = {};    // printed for each entry that is not there
+  ListReader read = nullptr;        // null: as the above says
+
+  constexpr bool isNone() const { return array.member.empty() && read == nullptr; }
+  constexpr bool isScanned() const { return entry != Entry::kValue; }
+};
+
+/// Runs as soon as the value of the key is stored, with the line that holds the key.
+using WhenStored = void (*)(void* block, const std::string& line);
+
+/// Whether a member is the number of a list's entries.
+enum class Count : std::uint8_t {
+  kNo,
+  kYes,            // negative or above kLargestCount is refused
+  kNegativeIsNone  // only above kLargestCount is refused; a negative one is stored and opens no list
+};
+
+/// Of a row that is one element of an array: an element that no array has.
+constexpr std::uint16_t kNoElement = std::numeric_limits<std::uint16_t>::max();
 
 /// One member of a block, or one further key of a member.
 struct Row {
@@ -116,12 +149,12 @@ struct Row {
   Lookup lookup = Lookup::kByType;
   std::uint16_t textBuffer = 0;  // size of the buffer that a text is cut to; 0: as large as the text needs
   Rule rule = {};
-  int gateBelow = kNoGate;       // while the int member is below, the line's later keys are skipped
-  bool count = false;            // sizes a list: negative or above kLargestCount is refused
-  ElementStore store = nullptr;  // an element of the field's array instead of the field
-  ListReader list = nullptr;
-  std::string_view fills = {};  // the members without a key of their own that the list sets, separated by blanks
-  ListLines lines = {};
+  int gateBelow = kNoGate;    // while the int member is below, the line's later keys are skipped
+  Count count = Count::kNo;   // sizes a list
+  std::uint16_t element = 0;  // not 0: the key sets this element of the array, where the array has it
+  List list = {};
+  WhenStored whenStored = nullptr;
+  std::span<const std::string_view> fills = {};  // members<...>: what `list.read` or `whenStored` sets besides
   Echo echo = {};
   std::string_view label = {};  // in the dump; empty: never dumped
   DumpFormat dump = DumpFormat::kByType;
@@ -129,13 +162,18 @@ struct Row {
   std::string_view unit = {};
   std::string_view doc = {};
 
+  constexpr bool isElement() const { return element != 0; }
+  constexpr bool opensList() const { return !list.isNone() || whenStored != nullptr; }
   /// Whether reading the key comes to nothing more than parsing a number into the member.
   constexpr bool isPlainNumber() const {
-    const bool isNumber = field.type == FieldType::kInt || field.type == FieldType::kDouble;
-    return isNumber && lookup == Lookup::kByType && otherKey.empty() && rule.none() && !count && store == nullptr &&
-           list == nullptr && echo.label.empty();
+    return field.isNumber() && lookup == Lookup::kByType && otherKey.empty() && rule.none() && count == Count::kNo &&
+           !opensList() && echo.label.empty();
   }
 };
+
+/// The names of members, for Row::fills.
+template <auto... Members>
+inline constexpr std::array<std::string_view, sizeof...(Members)> members{detail::pointerName<Members>()...};
 
 /// All that the reader needs of a row that is a plain number, close together: rows are large, and most of what a file
 /// sets are plain numbers.
@@ -144,7 +182,7 @@ struct PlainNumber {
   void* (*locate)(void* block) = nullptr;
 };
 
-/// Whether the list that `announcing` opens sets the member of `row`.
+/// Whether what `announcing` opens or runs sets the member of `row`.
 bool fills(const Row& announcing, const Row& row);
 
 constexpr int kLargestCount = 1'000'000;
@@ -161,6 +199,8 @@ struct PositionalLines {
   std::uint8_t lines = 0;
   bool versioned = false;          // line 1 must hold the value of the block's first member, or nothing is read
   std::uint32_t absentIsZero = 0;  // bit per line: a field that the line lacks counts as 0
+
+  bool isAbsentZero(int line) const { return (absentIsZero >> line & 1u) != 0; }
 };
 
 struct Section {
@@ -174,10 +214,15 @@ struct Section {
   std::span<const PlainNumber> plainNumbers = {};   // by key
   bool closingLineIsRead = false;                   // the closing line's keys count too
   int headVersion = 0;                              // a head behind "[VER]": read only for this version number
+  void (*whenRead)(void* block) = nullptr;          // runs at the end of each reading
   bool readByRank0 = false;                         // rank 0 reads the stream by itself and broadcasts the members
   PositionalLines positional = {};
 
   bool isPositional() const { return positional.lines > 0; }
+  /// The row of a key, by the key's number.
+  const Row& rowOf(std::size_t key) const { return rows[readingOrder[key]]; }
+  /// Of a section with a gate.
+  const Row& gateRow() const { return rowOf(static_cast<std::size_t>(gate)); }
 };
 
 struct BlockTable {

@@ -8,16 +8,6 @@ namespace zeb {
 
 namespace {
 
-void store(const Slot& slot, void* block, double value) {
-  void* member = slot.row->field.locate(block);
-  if (!slot.row->rule.none()) value = slot.row->rule.apply(value);
-  if (slot.type == FieldType::kInt) {
-    *static_cast<int*>(member) = static_cast<int>(value);
-  } else {
-    *static_cast<double*>(member) = value;
-  }
-}
-
 // An int fits a double exactly, so one type carries both.
 bool scanField(FieldScanner& scanner, FieldType type, double& value) {
   if (type == FieldType::kDouble) return scanner.next(value);
@@ -37,62 +27,77 @@ struct PositionalReader {
     lines.nextOrEmpty(line);
     FieldScanner scanner(line);
     const Slot* end = section.positional.slots.data() + section.positional.slots.size();
-    const bool absentIsZero = (section.positional.absentIsZero >> number & 1u) != 0;
+    const bool absentIsZero = section.positional.isAbsentZero(number);
     int converted = 0, expected = 0;
     for (; slot != end && slot->at.line == number; ++slot, ++expected) {
-      double value = 0.0;
+      Parsed parsed;
       const std::string_view before = scanner.rest();
-      const bool read = scanField(scanner, slot->type, value);
+      const bool read = scanField(scanner, slot->type, parsed.number);
       converted += read ? 1 : 0;
       if (slot->row == nullptr || !(read || absentIsZero)) continue;
-      store(*slot, block, value);
-      if (read) report(*slot, line, before, scanner.rest());
+      store(*slot, parsed);
+      if (read) report(*slot, line, before, scanner.rest(), KeyOutcome::kStored, parsed);
     }
     if (lines.observer() != nullptr) [[unlikely]] {
-      lines.observer()->linePositional(section, lines.lineNumber(), number, converted, expected, scanner.rest());
+      lines.observer()->linePositional(number, converted, expected, scanner.rest());
     }
     return slot;
   }
 
-  void report(const Slot& slot, std::string_view line, std::string_view before, std::string_view after) const {
+  void store(const Slot& slot, Parsed& parsed) const {
+    const Rule& rule = slot.row->rule;
+    const double scaled = rule.none() ? parsed.number : parsed.number * rule.scale;
+    parsed.replaced = rule.replacementOf(scaled);
+    const double value = parsed.replaced != nullptr ? parsed.replaced->value : scaled;
+    if (slot.type == FieldType::kInt) {
+      slot.row->field.in<int>(block) = static_cast<int>(value);
+    } else {
+      slot.row->field.in<double>(block) = value;
+    }
+  }
+
+  void report(const Slot& slot, std::string_view line, std::string_view before, std::string_view after,
+              KeyOutcome outcome, Parsed parsed) const {
     if (lines.observer() == nullptr) [[likely]] {
       return;
     }
     const std::string_view text = before.substr(0, before.size() - after.size());
-    lines.observer()->keyFound(
-        {section, *slot.row, block, {}, line, text, {}, lines.lineNumber(), KeyOutcome::kStored});
+    lines.observer()->keyFound({section, *slot.row, block, {}, line, text, {}, lines.lineNumber(), outcome, parsed});
   }
 
   // Line 1 must hold the version that the block carries.
   bool versionMatches(const Slot& slot, std::string& line) const {
-    lines.nextOrEmpty(line);
+    const bool isThere = lines.nextOrEmpty(line);
+    FieldScanner scanner(line);
     int version = 0;
-    FieldScanner(line).next(version);
-    if (version == *static_cast<const int*>(slot.row->field.locate(block))) return true;
-    if (lines.observer() != nullptr) [[unlikely]] {
-      lines.observer()->sectionRefused(section, lines.lineNumber(), version);
+    const bool read = scanner.next(version);
+    const bool matches = version == slot.row->field.in<int>(block);
+    if (isThere) {
+      report(slot, line, line, scanner.rest(), matches ? KeyOutcome::kConfirmed : KeyOutcome::kNotTaken,
+             {static_cast<double>(version), read ? ParseFailure::kNone : ParseFailure::kNoNumber});
     }
-    return false;
+    return matches;
   }
 };
 
 }  // namespace
 
 bool readPositional(const Section& section, void* block, LineReader& lines) {
-  if (lines.observer() != nullptr) [[unlikely]] {
-    lines.observer()->sectionOpened(section, lines.lineNumber());
-  }
   const PositionalReader reader{section, block, lines};
   const Slot* slot = section.positional.slots.data();
   std::string& line = lines.sectionLine();
   int number = 1;
+  bool accepted = true;
   if (section.positional.versioned) {
-    if (!reader.versionMatches(*slot, line)) return false;
+    accepted = reader.versionMatches(*slot, line);
     ++slot;
     ++number;
   }
-  for (; number <= section.positional.lines; ++number) slot = reader.readLine(slot, number, line);
-  return true;
+  for (; accepted && number <= section.positional.lines; ++number) slot = reader.readLine(slot, number, line);
+  if (lines.observer() != nullptr) [[unlikely]] {
+    lines.observer()->sectionEnded(section, accepted ? SectionEnd::kComplete : SectionEnd::kRefused);
+  }
+  return accepted;
 }
 
 }  // namespace zeb

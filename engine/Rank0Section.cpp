@@ -28,20 +28,21 @@ void shareText(OwnedText& text, CZEBCom& com, bool isSource) {
   if (!isSource) text.assign(content.data(), content.size());
 }
 
-void shareMember(const Row& row, void* block, CZEBCom& com, bool isSource) {
-  void* member = row.field.locate(block);
-  if (row.field.type == FieldType::kDouble) {
-    com.Broadd(*static_cast<double*>(member));
-  } else if (row.field.type == FieldType::kText) {
-    shareText(*static_cast<OwnedText*>(member), com, isSource);
-  } else if (row.field.type == FieldType::kInt) {
-    com.Broadi(*static_cast<int*>(member));
-  } else {
-    int flag = *static_cast<bool*>(member) ? 1 : 0;
+struct MemberSharing {
+  CZEBCom& com;
+  bool isSource;
+
+  void operator()(int& number) const { com.Broadi(number); }
+  void operator()(double& number) const { com.Broadd(number); }
+  void operator()(bool& value) const {
+    int flag = value ? 1 : 0;
     com.Broadi(flag);
-    *static_cast<bool*>(member) = flag != 0;
+    value = flag != 0;
   }
-}
+  void operator()(OwnedText& text) const { shareText(text, com, isSource); }
+  template <class Element>
+  void operator()(SharedArray<Element>&) const {}  // no such section has any
+};
 
 }  // namespace
 
@@ -54,7 +55,7 @@ void readSectionOnRank0(const Section& section, void* block, LineReader& lines) 
     lines.continueAfter(own);
   }
   if (source.com == nullptr) return;
-  for (const Row& row : section.rows) shareMember(row, block, *source.com, source.reads());
+  for (const Row& row : section.rows) visit(row.field, block, MemberSharing{*source.com, source.reads()});
 }
 
 }  // namespace zeb

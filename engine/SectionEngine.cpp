@@ -2,6 +2,7 @@
 // echo.
 #include "engine/SectionEngine.hpp"
 
+#include "engine/ListEngine.hpp"
 #include "engine/ReadObserver.hpp"
 #include "engine/TextOutput.hpp"
 
@@ -15,27 +16,26 @@ struct Found {
   std::string_view key;
   void* block;
   LineReader& lines;
+  int lineNumber;  // of the line that holds the key: a list may have read on
+};
+
+struct Stored {
+  std::size_t used = 0;  // characters of the value text
+  KeyOutcome outcome = KeyOutcome::kUnparsed;
+  Parsed parsed = {};
 };
 
 template <class Type>
 Type& member(const Found& found) {
-  return *static_cast<Type*>(found.row.field.locate(found.block));
+  return found.row.field.in<Type>(found.block);
 }
 
-void report(const Found& found, std::string_view line, std::string_view value, std::size_t used, KeyOutcome outcome) {
+void report(const Found& found, std::string_view line, std::string_view value, const Stored& stored) {
   if (found.lines.observer() == nullptr) [[likely]] {
     return;
   }
-  found.lines.observer()->keyFound({found.section, found.row, found.block, found.key, line, value, value.substr(used),
-                                    found.lines.lineNumber(), outcome});
-}
-
-bool isValidCount(int count) { return count >= 0 && count <= kLargestCount; }
-
-void sayCountIsRefused(const Section& section, std::string_view key, int count, const LineReader& lines) {
-  if (!lines.source().reads()) return;
-  writeOut(std::string(section.open) + " " + std::string(key) + " = " + std::to_string(count) +
-           " is no valid count (0 to " + std::to_string(kLargestCount) + "); 0 is used\n");
+  found.lines.observer()->keyFound({found.section, found.row, found.block, found.key, line, value,
+                                    value.substr(stored.used), found.lineNumber, stored.outcome, stored.parsed});
 }
 
 void storeText(const Found& found, std::string_view text) {
@@ -44,60 +44,98 @@ void storeText(const Found& found, std::string_view text) {
   member<OwnedText>(found).assign(text.data(), text.size(), size);
 }
 
-KeyOutcome storeNumber(const Found& found, double value) {
-  const Row& row = found.row;
-  if (!row.rule.none()) value = row.rule.apply(value);
-  if (row.store != nullptr) return row.store(found.block, value) ? KeyOutcome::kStored : KeyOutcome::kNotStored;
-  member<double>(found) = value;
+KeyOutcome storeElement(const Found& found, double value) {
+  // A copy is asked: the block itself hands nothing out, so that a count that is read again releases the array.
+  const SharedArray<double> array(member<SharedArray<double>>(found));
+  if (found.row.element == kNoElement || found.row.element >= array.size()) return KeyOutcome::kNotStored;
+  array.get()[found.row.element] = value;
   return KeyOutcome::kStored;
 }
 
-KeyOutcome storeInt(const Found& found, int value) {
-  const Row& row = found.row;
-  if (row.count && !isValidCount(value)) {
-    sayCountIsRefused(found.section, found.key, value, found.lines);
-    releaseLists(found.section, row, found.block);
-    member<int>(found) = 0;
-    return KeyOutcome::kRefused;
+double applyRule(const Rule& rule, Parsed& parsed) {
+  if (rule.none()) return parsed.number;
+  const double scaled = parsed.number * rule.scale;
+  parsed.replaced = rule.replacementOf(scaled);
+  return parsed.replaced != nullptr ? parsed.replaced->value : scaled;
+}
+
+void storeDouble(const Found& found, Stored& stored) {
+  const double value = applyRule(found.row.rule, stored.parsed);
+  stored.outcome = KeyOutcome::kStored;
+  if (found.row.isElement()) {
+    stored.outcome = storeElement(found, value);
+  } else {
+    member<double>(found) = value;
   }
-  member<int>(found) = row.rule.none() ? value : static_cast<int>(row.rule.apply(value));
-  return KeyOutcome::kStored;
 }
 
-struct Stored {
-  std::size_t used = 0;
-  KeyOutcome outcome = KeyOutcome::kUnparsed;
-};
+void storeInt(const Found& found, int value, Stored& stored) {
+  const Row& row = found.row;
+  const bool refused = row.count != Count::kNo && !isValidCount(row.count, value);
+  if (refused) refuseCount(found.section, row, found.block, found.key, value, found.lines);
+  stored.outcome = refused ? KeyOutcome::kRefused : KeyOutcome::kStored;
+  member<int>(found) = refused ? 0 : static_cast<int>(applyRule(row.rule, stored.parsed));
+}
+
+Stored storePresence(const Found& found, std::string_view value) {
+  if (found.row.field.type == FieldType::kBool) {
+    member<bool>(found) = true;
+  } else {
+    member<int>(found) = 1;
+  }
+  return {value.size(), KeyOutcome::kStored};
+}
+
+Stored parseText(const Found& found, std::string_view value) {
+  std::string_view text = value;
+  const bool isWord = found.row.lookup == Lookup::kWord;
+  const std::size_t used = isWord ? extractWord(value, text) : value.size();
+  if (isWord && used == 0) return {};
+  storeText(found, text);
+  return {used, KeyOutcome::kStored};
+}
+
+bool readsInt(const Row& row) { return row.field.type == FieldType::kInt || row.lookup == Lookup::kInt; }
+
+// The number alone, nothing stored.
+Stored parseNumber(const Row& row, std::string_view value) {
+  Stored stored;
+  if (readsInt(row)) {
+    int number = 0;
+    stored.used = extractInt(value, number);
+    stored.parsed.number = number;
+  } else {
+    stored.used = extractDouble(value, stored.parsed.number);
+  }
+  if (stored.used > 0) return stored;
+  const bool outOfRange = readsInt(row) ? isIntOutOfRange(value) : isDoubleOutOfRange(value);
+  stored.parsed.failure = outOfRange ? ParseFailure::kRange : ParseFailure::kNoNumber;
+  return stored;
+}
+
+Stored storeNumber(const Found& found, Stored stored) {
+  if (stored.used == 0) return stored;
+  if (found.row.field.type == FieldType::kInt) {
+    storeInt(found, static_cast<int>(stored.parsed.number), stored);
+  } else {
+    storeDouble(found, stored);
+  }
+  return stored;
+}
 
 Stored parseAndStore(const Found& found, std::string_view value) {
-  const Row& row = found.row;
-  Stored result;
-  if (row.lookup == Lookup::kPresence) {
-    if (row.field.type == FieldType::kBool) {
-      member<bool>(found) = true;
-    } else {
-      member<int>(found) = 1;
-    }
-    return {value.size(), KeyOutcome::kStored};
+  if (found.row.lookup == Lookup::kPresence) return storePresence(found, value);
+  if (found.row.field.type == FieldType::kText) return parseText(found, value);
+  return storeNumber(found, parseNumber(found.row, value));
+}
+
+void reportGated(const Found& found, std::string_view line, std::string_view value) {
+  if (found.lines.observer() == nullptr) [[likely]] {
+    return;
   }
-  if (row.field.type == FieldType::kText) {
-    std::string_view text = value;
-    result.used = row.lookup == Lookup::kWord ? extractWord(value, text) : value.size();
-    if (row.lookup == Lookup::kWord && result.used == 0) return result;
-    storeText(found, text);
-    result.outcome = KeyOutcome::kStored;
-  } else if (row.field.type == FieldType::kInt || row.lookup == Lookup::kInt) {
-    int number = 0;
-    result.used = extractInt(value, number);
-    if (result.used == 0) return result;
-    result.outcome = row.field.type == FieldType::kInt ? storeInt(found, number) : storeNumber(found, number);
-  } else {
-    double number = 0.0;
-    result.used = extractDouble(value, number);
-    if (result.used == 0) return result;
-    result.outcome = storeNumber(found, number);
-  }
-  return result;
+  const bool isText = found.row.field.type == FieldType::kText || found.row.lookup == Lookup::kPresence;
+  const Parsed parsed = isText ? Parsed() : parseNumber(found.row, value).parsed;
+  report(found, line, value, {0, KeyOutcome::kGated, parsed});
 }
 
 void echo(const Found& found) {
@@ -113,8 +151,8 @@ void echo(const Found& found) {
 }
 
 bool isGateClosed(const Section& section, void* block) {
-  const Row& row = section.rows[section.readingOrder[static_cast<std::size_t>(section.gate)]];
-  return *static_cast<const int*>(row.field.locate(block)) < row.gateBelow;
+  const Row& row = section.gateRow();
+  return row.field.in<int>(block) < row.gateBelow;
 }
 
 // The filter finds both spellings of a key; the second counts only where the first is absent. As the value text does
@@ -125,84 +163,42 @@ bool repeatsFirstSpelling(const Found& found, std::string_view line) {
 
 }  // namespace
 
-bool fills(const Row& announcing, const Row& row) {
-  const std::string_view names = announcing.fills, name = row.field.member;
-  for (auto at = names.find(name); at != names.npos; at = names.find(name, at + 1)) {
-    const bool starts = at == 0 || names[at - 1] == ' ';
-    const auto end = at + name.size();
-    if (starts && (end == names.size() || names[end] == ' ')) return true;
+double Rule::apply(double value) const {
+  value *= scale;
+  const Replacement* replacement = replacementOf(value);
+  return replacement != nullptr ? replacement->value : value;
+}
+
+const Replacement* Rule::replacementOf(double scaled) const {
+  for (const Replacement& replacement : replace) {
+    if (replacement.fits(scaled)) return &replacement;
+  }
+  return nullptr;
+}
+
+bool Replacement::fits(double scaled) const {
+  switch (when) {
+    case When::kNever:
+      return false;
+    case When::kBelow:
+      return scaled < limit;
+    case When::kAbove:
+      return scaled > limit;
+    case When::kAtMost:
+      return scaled <= limit;
+    case When::kNotAbove:
+      return !(scaled > limit);
+    case When::kEqual:
+      return scaled == limit;
+    case When::kTruncatesTo0:
+      return scaled > -1.0 && scaled < 1.0;
+    case When::kAlways:
+      return true;
   }
   return false;
 }
 
-double Rule::apply(double value) const {
-  value *= scale;
-  for (const Replacement& replacement : replace) {
-    bool fits = false;
-    switch (replacement.when) {
-      case Replacement::When::kNever:
-        break;
-      case Replacement::When::kBelow:
-        fits = value < replacement.limit;
-        break;
-      case Replacement::When::kAbove:
-        fits = value > replacement.limit;
-        break;
-      case Replacement::When::kAtMost:
-        fits = value <= replacement.limit;
-        break;
-      case Replacement::When::kNotAbove:
-        fits = !(value > replacement.limit);
-        break;
-      case Replacement::When::kEqual:
-        fits = value == replacement.limit;
-        break;
-      case Replacement::When::kTruncatesTo0:
-        fits = value > -1.0 && value < 1.0;
-        break;
-      case Replacement::When::kAlways:
-        fits = true;
-        break;
-    }
-    if (fits) return replacement.value;
-  }
-  return value;
-}
-
 bool isClosedBy(const Section& section, std::string_view line) { return line.find(section.close) != line.npos; }
-
-bool nextLineOfList(ListContext& context, std::string& line) { return context.lines.nextOrEmpty(line); }
-
-void reportLineOfList(const ListContext& context, std::string_view line, bool used) {
-  if (context.lines.observer() == nullptr) [[likely]] {
-    return;
-  }
-  context.lines.observer()->lineOfList(context.section, context.lines.lineNumber(), line, used);
-}
-
-void reportMemberOfList(const ListContext& context, const void* member, std::string_view line, std::string_view value) {
-  if (context.lines.observer() == nullptr) [[likely]] {
-    return;
-  }
-  for (const Row& row : context.section.rows) {
-    if (row.field.locate(context.block) != member) continue;
-    context.lines.observer()->keyFound(
-        {context.section, row, context.block, {}, line, value, {}, context.lines.lineNumber(), KeyOutcome::kStored});
-  }
-}
-
-void releaseLists(const Section& section, const Row& announcing, void* block) {
-  for (const Row& row : section.rows) {
-    if (!fills(announcing, row)) continue;
-    if (row.field.type == FieldType::kInts) static_cast<SharedArray<int>*>(row.field.locate(block))->release();
-    if (row.field.type == FieldType::kDoubles) static_cast<SharedArray<double>*>(row.field.locate(block))->release();
-  }
-}
-
-void refuseCount(const ListContext& context, std::string_view key, int count) {
-  sayCountIsRefused(context.section, key, count, context.lines);
-  releaseLists(context.section, context.row, context.block);
-}
 
 namespace {
 
@@ -214,25 +210,33 @@ void storePlainNumber(const PlainNumber& plain, void* block, std::string_view va
   }
 }
 
+// What a key opens or runs behind its value.
+ListResult readBehind(const Found& found, std::string& line) {
+  ListResult result = ListResult::kSameLine;
+  if (found.row.whenStored != nullptr) found.row.whenStored(found.block, line);
+  if (!found.row.list.isNone()) {
+    ListContext context{found.section, found.row, found.block, found.lines, line};
+    result = readList(context);
+  }
+  if (found.lines.observer() != nullptr && found.row.opensList()) found.lines.observer()->listEnded();
+  return result;
+}
+
 // All that a key does: value, echo, list.
 ListResult readKey(const Found& found, std::string& line, std::string_view value) {
   if (repeatsFirstSpelling(found, line)) return ListResult::kSameLine;
   const Stored stored = parseAndStore(found, value);
-  report(found, line, value, stored.used, stored.outcome);
+  report(found, line, value, stored);
   if (stored.outcome != KeyOutcome::kStored) return ListResult::kSameLine;
   if (!found.row.echo.label.empty()) echo(found);
-  if (found.row.list == nullptr) return ListResult::kSameLine;
-  ListContext context{found.section, found.row, found.block, found.lines, line};
-  return found.row.list(context);
+  return found.row.opensList() ? readBehind(found, line) : ListResult::kSameLine;
 }
 
 // Reads the keys that stand in the line, in the section's order. False when a list met the section's end.
 bool readKeys(const Section& section, void* block, LineReader& lines, std::string& line, KeySet keys) {
+  if (keys.empty()) return true;
   const bool observed = lines.observer() != nullptr;
-  if (keys.empty()) {
-    if (observed) lines.observer()->lineWithoutKey(section, lines.lineNumber(), line);
-    return true;
-  }
+  int lineNumber = lines.lineNumber();
   std::string_view value = valueText(line);
   while (!keys.empty()) {
     const std::size_t number = keys.popFirst();
@@ -241,9 +245,9 @@ bool readKeys(const Section& section, void* block, LineReader& lines, std::strin
       storePlainNumber(plain, block, value);
       continue;
     }
-    const Found found{section, section.rows[section.readingOrder[number]], section.filter.keys[number], block, lines};
+    const Found found{section, section.rowOf(number), section.filter.keys[number], block, lines, lineNumber};
     if (section.gate >= 0 && static_cast<int>(number) > section.gate && isGateClosed(section, block)) {
-      report(found, line, value, 0, KeyOutcome::kGated);
+      reportGated(found, line, value);
       continue;
     }
     const ListResult result = readKey(found, line, value);
@@ -252,6 +256,7 @@ bool readKeys(const Section& section, void* block, LineReader& lines, std::strin
       keys = section.filter.find(line).keys;
       keys.dropUpTo(number);
       value = valueText(line);
+      lineNumber = lines.lineNumber();
     }
   }
   return true;
@@ -260,9 +265,6 @@ bool readKeys(const Section& section, void* block, LineReader& lines, std::strin
 }  // namespace
 
 void readSection(const Section& section, void* block, LineReader& lines) {
-  if (lines.observer() != nullptr) [[unlikely]] {
-    lines.observer()->sectionOpened(section, lines.lineNumber());
-  }
   std::string& line = lines.sectionLine();
   bool closed = false;
   while (!closed && lines.next(line)) {
@@ -272,11 +274,7 @@ void readSection(const Section& section, void* block, LineReader& lines) {
     if (!readKeys(section, block, lines, line, hits.keys)) closed = isClosedBy(section, line);
   }
   if (lines.observer() != nullptr) [[unlikely]] {
-    if (closed) {
-      lines.observer()->sectionClosed(section, lines.lineNumber());
-    } else {
-      lines.observer()->sectionUnclosed(section, lines.lineNumber());
-    }
+    lines.observer()->sectionEnded(section, closed ? SectionEnd::kClosed : SectionEnd::kUnclosed);
   }
 }
 

@@ -232,6 +232,21 @@ std::size_t extractDouble(std::string_view text, double& value) {
   return static_cast<std::size_t>(after - text.data());
 }
 
+bool isDoubleOutOfRange(std::string_view text) {
+  const char* end = text.data() + text.size();
+  double read = 0.0;
+  return readDecimal(skipSpace(text.data(), end), end, std::numeric_limits<double>::infinity(), read) != nullptr &&
+         std::abs(read) == std::numeric_limits<double>::infinity();
+}
+
+bool isIntOutOfRange(std::string_view text) {
+  const char* end = text.data() + text.size();
+  const char* at = skipSpace(text.data(), end);
+  int value = 0;
+  if (at != end && isSign(*at)) ++at;
+  return at != end && isDigit(*at) && readInt(skipSpace(text.data(), end), end, value) == nullptr;
+}
+
 std::size_t extractInt(std::string_view text, int& value) {
   const char* end = text.data() + text.size();
   const char* after = readInt(skipSpace(text.data(), end), end, value);

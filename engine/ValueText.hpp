@@ -13,6 +13,9 @@ std::string_view valueText(std::string_view line);
 /// and hexadecimal are no numbers here ("0x10" is 0).
 std::size_t extractDouble(std::string_view text, double& value);
 std::size_t extractInt(std::string_view text, int& value);
+/// Of a text from which nothing is extracted: whether a number stands there that does not fit its type.
+bool isDoubleOutOfRange(std::string_view text);
+bool isIntOutOfRange(std::string_view text);
 /// The first word delimited by white space; its end is the end of what was used.
 std::size_t extractWord(std::string_view text, std::string_view& value);
 

@@ -2,11 +2,7 @@
 // ignored.
 #include "frame/CMPReader.hpp"
 
-#include <fstream>
 #include <stdexcept>
-
-#include "engine/ReadObserver.hpp"
-#include "engine/TextOutput.hpp"
 
 namespace zeb {
 
@@ -102,19 +98,7 @@ std::vector<DispatchEntry> cmpSections(CZEBCMPInternalTool& tool) {
 }
 
 int readCMPFile(CZEBCMPInternalTool& tool, const std::string& fileName) {
-  const LineSource source = tool.lineSource();
-  std::ifstream stream;
-  if (source.reads()) {
-    if (source.com != nullptr && source.traces()) writeOut(" CMP file name = " + fileName + "\n");
-    openFile(stream, fileName);
-  }
-  if (tool.m_observer != nullptr) tool.m_observer->fileStarted(fileName);
-  LineReader lines(stream, source, tool.m_observer);
-  const std::vector<DispatchEntry> sections = cmpSections(tool);
-  std::string line;
-  while (lines.next(line)) dispatchLine(sections, line, lines);
-  if (source.reads()) stream.close();
-  return 1;
+  return readFile(kCMPFormat, cmpSections(tool), fileName, tool.lineSource(), tool.m_observer);
 }
 
 }  // namespace zeb

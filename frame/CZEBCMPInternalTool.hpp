@@ -9,10 +9,6 @@
 #include "engine/ParameterTable.hpp"
 #include "frame/AllBlocks.hpp"
 
-namespace zeb {
-struct DispatchEntry;
-}
-
 class CZEBCMPInternalTool {
  public:
   CZEBCMPInternalTool();

@@ -1,6 +1,8 @@
 // The order of the steps matters: each sees what the ones before it left.
 #include "frame/Repairs.hpp"
 
+#include <type_traits>
+
 #include "engine/ReadObserver.hpp"
 
 namespace zeb {
@@ -143,28 +145,25 @@ std::span<const RepairStep> Repairs::common() {
 
 namespace {
 
-double readNumber(FieldType type, const void* member) {
-  return type == FieldType::kInt ? *static_cast<const int*>(member) : *static_cast<const double*>(member);
-}
-
-void writeNumber(FieldType type, void* member, double value) {
-  if (type == FieldType::kInt) {
-    *static_cast<int*>(member) = static_cast<int>(value);
-  } else {
-    *static_cast<double*>(member) = value;
+const Row* rowOf(const Repair& repair) {
+  for (const Section& section : repair.block.table().sections) {
+    for (const Row& row : section.rows) {
+      if (row.field.member == repair.field.member) return &row;
+    }
   }
+  return nullptr;
 }
 
 void apply(CZEBCMPInternalTool& tool, const Repair& repair, std::string_view condition) {
   void* block = repair.block.locate(tool);
-  void* member = repair.field.locate(block);
-  const double before = readNumber(repair.field.type, member);
-  const double after = repair.rule.apply(before);
-  writeNumber(repair.field.type, member, after);
-  if (tool.m_observer != nullptr) {
-    tool.m_observer->repaired(
-        {block, member, repair.block.table().className, repair.field.member, condition, before, after});
-  }
+  visit(repair.field, block, [&](auto& member) {
+    using Number = std::remove_reference_t<decltype(member)>;
+    if constexpr (std::is_arithmetic_v<Number>) {
+      const double before = member, after = repair.rule.apply(before);
+      member = static_cast<Number>(after);
+      if (tool.m_observer != nullptr) tool.m_observer->repaired({block, rowOf(repair), condition, before, after});
+    }
+  });
 }
 
 void apply(CZEBCMPInternalTool& tool, std::span<const RepairStep> steps) {

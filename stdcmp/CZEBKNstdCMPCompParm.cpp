@@ -6,12 +6,6 @@
 #include "engine/TextOutput.hpp"
 #include "stdcmp/StdParameters.hpp"
 
-namespace {
-
-zeb::LineSource lineSource(CZEBCom* com) { return {.com = com, .alwaysTrace = true}; }
-
-}  // namespace
-
 CZEBKNstdCMPCompParm::CZEBKNstdCMPCompParm() : m_pCom(nullptr), m_pParameters(std::make_shared<zeb::StdParameters>()) {}
 CZEBKNstdCMPCompParm::CZEBKNstdCMPCompParm(const CZEBKNstdCMPCompParm& other) = default;
 CZEBKNstdCMPCompParm::~CZEBKNstdCMPCompParm() = default;
@@ -25,11 +19,11 @@ int CZEBKNstdCMPCompParm::setZEBCom(CZEBCom* com) {
 }
 
 int CZEBKNstdCMPCompParm::setSolidFillBlock(const std::string& fileName) {
-  return m_pParameters->readFileBlock(fileName, lineSource(m_pCom));
+  return m_pParameters->readFileBlock(fileName, m_pCom);
 }
 
 int CZEBKNstdCMPCompParm::ZEB_getline_Parallel(std::istream& stream, std::string& line) const {
-  return lineSource(m_pCom).getLine(stream, line);
+  return zeb::kStdFormat.lineSource(m_pCom, 0).getLine(stream, line);
 }
 
 // The defaults are looked for with the tolerances below; they differ on purpose.

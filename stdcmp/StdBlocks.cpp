@@ -11,7 +11,8 @@ namespace {
 template <auto Member>
 consteval Field value() {
   using Block = typename detail::MemberOf<decltype(Member)>::Block;
-  Field result = field<Member, Member>();
+  Field result = field<Member>();
+  result.getter = result.member;
   result.get = [](const void* block) { return static_cast<double>(static_cast<const Block*>(block)->*Member); };
   return result;
 }

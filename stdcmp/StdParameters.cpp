@@ -1,11 +1,5 @@
 #include "stdcmp/StdParameters.hpp"
 
-#include <fstream>
-
-#include "engine/ReadObserver.hpp"
-#include "engine/SectionEngine.hpp"
-#include "engine/TextOutput.hpp"
-
 namespace zeb {
 
 namespace {
@@ -18,7 +12,7 @@ DispatchEntry entryOf(Block& block) {
 }  // namespace
 
 StdParameters::StdParameters()
-    : m_head(entryOf(solver)), m_sections{entryOf(general), entryOf(stableFlag), entryOf(multiGate)} {}
+    : m_sections{entryOf(solver), entryOf(general), entryOf(stableFlag), entryOf(multiGate)} {}
 
 std::span<const BlockTable* const> StdParameters::tables() {
   static const BlockTable* const kTables[] = {&tableOf<StdSolverSettings>(), &tableOf<StdGeneral>(),
@@ -26,36 +20,8 @@ std::span<const BlockTable* const> StdParameters::tables() {
   return kTables;
 }
 
-int StdParameters::readFileBlock(const std::string& fileName, const LineSource& source) {
-  std::ifstream stream;
-  if (source.reads()) {
-    writeOut(" CMP file name = " + fileName + "\n");
-    openFile(stream, fileName);
-  }
-  if (observer != nullptr) observer->fileStarted(fileName);
-  readLines(stream, source);
-  return 1;
-}
-
-void StdParameters::readLines(std::istream& stream, const LineSource& source) {
-  LineReader lines(stream, source, observer);
-  std::string line;
-  while (lines.next(line)) {
-    if (line.find("[VER]") != line.npos) readVersionLine(line, lines);
-    dispatchLine(m_sections, line, lines);
-  }
-}
-
-void StdParameters::readVersionLine(const std::string& line, LineReader& lines) {
-  int version = 0;
-  const bool parsed = scanVersion(line, version);
-  if (observer != nullptr) observer->versionRead(lines.lineNumber(), line, parsed, version);
-  if (version == m_head.section->headVersion) readOldFormat(lines);
-}
-
-int StdParameters::readOldFormat(LineReader& lines) {
-  readPositional(*m_head.section, m_head.block, lines);
-  return 1;
+int StdParameters::readFileBlock(const std::string& fileName, CZEBCom* com) {
+  return readFile(kStdFormat, m_sections, fileName, kStdFormat.lineSource(com, 0), observer);
 }
 
 }  // namespace zeb

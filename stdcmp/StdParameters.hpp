@@ -2,14 +2,16 @@
 #pragma once
 
 #include <array>
-#include <istream>
 #include <span>
 #include <string>
 
-#include "engine/SectionDispatch.hpp"
+#include "engine/Format.hpp"
 #include "stdcmp/StdBlocks.hpp"
 
 namespace zeb {
+
+/// The same files as those of the CMP parameter set, told of in another way.
+inline constexpr Format kStdFormat{.name = "CMP", .nameLine = Format::NameLine::kAlways, .alwaysTrace = true};
 
 /// Shared by a CZEBKNstdCMPCompParm and its copies.
 class StdParameters {
@@ -19,16 +21,11 @@ class StdParameters {
   StdParameters& operator=(const StdParameters&) = delete;
 
   /// As CZEBKNstdCMPCompParm::setSolidFillBlock.
-  int readFileBlock(const std::string& fileName, const LineSource& source);
-  /// Reads an open stream, of which ranks other than 0 take no notice. Collective.
-  void readLines(std::istream& stream, const LineSource& source);
+  int readFileBlock(const std::string& fileName, CZEBCom* com);
 
-  /// The keyed sections in the order in which the reader tests a line for them; the head, which no opening
-  /// announces, is not among them.
+  /// The head and the sections in the order in which the reader tests a line for them.
   std::span<const DispatchEntry> sections() const { return m_sections; }
-  /// The fixed-line head.
-  const DispatchEntry& head() const { return m_head; }
-  /// The tables of the head and of the sections, in this order.
+  /// Their tables, in the same order.
   static std::span<const BlockTable* const> tables();
 
   StdSolverSettings solver;
@@ -39,11 +36,7 @@ class StdParameters {
   ReadObserver* observer = nullptr;
 
  private:
-  void readVersionLine(const std::string& line, LineReader& lines);
-  int readOldFormat(LineReader& lines);
-
-  DispatchEntry m_head;
-  std::array<DispatchEntry, 3> m_sections;
+  std::array<DispatchEntry, 4> m_sections;
 };
 
 }  // namespace zeb

@@ -5,28 +5,17 @@
 #include <algorithm>
 #include <fstream>
 #include <span>
-#include <type_traits>
 #include <utility>
+#include <vector>
 
+#include "engine/Format.hpp"
 #include "engine/ReadObserver.hpp"
-#include "engine/SectionEngine.hpp"
 #include "engine/TextOutput.hpp"
 #include "engine/ValueText.hpp"
 
 namespace zeb {
 
 namespace {
-
-/// A place of the head's lines 2 to 7 and what its value must exceed to be stored.
-struct HeadBound {
-  Position at;
-  double above;
-};
-
-constexpr HeadBound kHeadBounds[] = {
-    {{2, 1}, 10.0}, {{2, 2}, 0.0}, {{3, 1}, 10.0},  {{3, 2}, 0.0},  {{3, 3}, 10.0}, {{4, 1}, 0.0}, {{4, 2}, 0.0},
-    {{5, 1}, 0.0},  {{5, 2}, 1e4}, {{6, 1}, -50.0}, {{6, 2}, 10.0}, {{7, 1}, 0.0},  {{7, 2}, 0.0}, {{7, 3}, 0.0},
-};
 
 constexpr std::string_view kModelNames[] = {
     "White Metzner",
@@ -94,19 +83,6 @@ class HeadLine {
   int m_converted = 0;
 };
 
-template <class Value>
-void addLine(std::string& text, std::string_view label, Value value) {
-  text += label;
-  if constexpr (std::is_same_v<Value, int>) {
-    text += std::to_string(value);
-  } else {
-    text += formatGeneral(value);
-  }
-  text += '\n';
-}
-
-constexpr std::string_view kStars = "*********************\n";
-
 }  // namespace
 
 struct ViscoelasticReader {
@@ -119,13 +95,14 @@ struct ViscoelasticReader {
 
   static std::span<const Section> sections() { return tableOf<CZEBCMPVEParm>().sections; }
   static const Section& head() { return sections().front(); }
-  static std::span<const Section> tagBlocks() { return sections().subspan(1); }
 
   static void GetVEModelName(int model) { writeOut(std::string(modelName(model)) + " model"); }
 
   bool read() {
     if (!readHead()) return false;
-    readTagBlocks();
+    std::vector<DispatchEntry> tagBlocks;
+    for (const Section& section : sections().subspan(1)) tagBlocks.push_back({&section, &block});
+    readLines(tagBlocks, lines);
     return true;
   }
 
@@ -133,7 +110,7 @@ struct ViscoelasticReader {
 
   bool readHead() {
     if (lines.observer() != nullptr) [[unlikely]] {
-      lines.observer()->sectionOpened(head(), lines.lineNumber());
+      lines.observer()->sectionOpened(head(), &block, 0, {});
     }
     if (!versionMatches()) return false;
     for (int number = 2; number <= 7; ++number) readBounds(number);
@@ -146,7 +123,7 @@ struct ViscoelasticReader {
     line.take(version);
     finish(line, 1);
     if (version != block.m_iVECMPVersion) return refuse(1, "line 1 does not hold the version of this file format");
-    report(rowAt({1, 1}), line, 1);
+    report(*rowAt({1, 1}), line, 1, KeyOutcome::kStored);
     return true;
   }
 
@@ -154,18 +131,17 @@ struct ViscoelasticReader {
     HeadLine line(lines);
     const int fields = number == 5 ? 2 : 3;
     for (int field = 0; field < fields; ++field) line.take(scratch[field]);
-    for (const HeadBound& bound : kHeadBounds) {
-      if (bound.at.line != number) continue;
-      const double value = scratch[bound.at.field - 1];
-      const Row& row = rowAt(bound.at);
-      if (value > bound.above) {
-        *static_cast<double*>(row.field.locate(&block)) = row.rule.apply(value);
-        report(row, line, bound.at.field);
-      } else if (bound.at.field <= line.converted()) {
-        reportNotTaken(row, line, bound.at.field);
+    finish(line, number);
+    for (int field = 1; field <= fields; ++field) {
+      const Row* row = rowAt({static_cast<std::uint8_t>(number), static_cast<std::uint8_t>(field)});
+      if (row == nullptr) continue;
+      const double value = scratch[field - 1];
+      const bool taken = value > row->rule.takenAbove;
+      if (taken) row->field.in<double>(&block) = row->rule.apply(value);
+      if (taken || field <= line.converted()) {
+        report(*row, line, field, taken ? KeyOutcome::kStored : KeyOutcome::kNotTaken, {value});
       }
     }
-    finish(line, number);
   }
 
   // Where line 8 is short, the model and the weight stay as they are; a missing line 9 confirms nothing.
@@ -189,6 +165,9 @@ struct ViscoelasticReader {
     if (plotMode == 1 || plotMode == 2) block.m_bPlotMaterialFun = true;
     if (plotMode == 2) block.m_bPlotMaterialFun_ideal = true;
     reportModelLine(line, plotMode);
+    if (lines.observer() != nullptr) [[unlikely]] {
+      lines.observer()->sectionEnded(head(), SectionEnd::kComplete);
+    }
     return true;
   }
 
@@ -211,101 +190,21 @@ struct ViscoelasticReader {
     block.m_dSmoothFactor = smooths ? std::min(weight, 1.0) : 0.0;
   }
 
-  // --- The tag blocks ---------------------------------------------------------------------------------------------
-
-  void readTagBlocks() {
-    std::string line;
-    bool unread = false;
-    while (lines.next(line)) {
-      // This block stands in every default file, but nothing reads it.
-      if (line.find("<PLOT_TRANSIENT_SHEAR_MATERIAL>") != line.npos) unread = true;
-      if (!openTagBlocks(line) && !unread && lines.observer() != nullptr) [[unlikely]] {
-        lines.observer()->lineOutside(lines.lineNumber(), line);
-      }
-      if (line.find("</PLOT_TRANSIENT_SHEAR_MATERIAL>") != line.npos) unread = false;
-    }
-  }
-
-  // All tags are looked for in this line, also after a block's reader has gone on from it.
-  bool openTagBlocks(const std::string& line) {
-    bool opened = false;
-    for (const Section& section : tagBlocks()) {
-      if (line.find(section.open) == line.npos) continue;
-      opened = true;
-      readSection(section, &block, lines);
-      if (section.name == "PLOT_MATERIAL") applyPlotFlags();
-      if (section.name == "PLOT_TRANSIENT_EXTENSION_MATERIAL") applyTransientFlag();
-    }
-    return opened;
-  }
-
-  void applyPlotFlags() {
-    if (block.m_iFlagIsPlotShearVis != 1 && block.m_iFlagIsPlotElongVis != 1) return;
-    block.m_bPlotMaterialFun = true;
-    std::string text = "\n";
-    text += kStars;
-    addLine(text, "FlagIsPlotShearVis = ", block.m_iFlagIsPlotShearVis);
-    addLine(text, "FlagIsPlotElongVis = ", block.m_iFlagIsPlotElongVis);
-    addLine(text, "RefTemperature    = ", block.m_dRefTem);
-    addLine(text, "DeltaTemperature    = ", block.m_dDeltaTem);
-    addLine(text, "DeltaTime          = ", block.m_dDeltaTime);
-    addLine(text, "TargetTime         = ", block.m_dTargetTime);
-    addLine(text, "SRateLowerBound    = ", block.m_dSRateLB);
-    addLine(text, "SRateUpperBound    = ", block.m_dSRateUB);
-    text += kStars;
-    writeOut(text);
-  }
-
-  void applyTransientFlag() {
-    if (block.m_iTransient_FlagIsPlotElongVis != 1) return;
-    block.m_bTransient_PlotMaterialFun = true;
-    std::string text = "\n";
-    text += kStars;
-    addLine(text, "FlagIsPlotElongVis_Transient = ", block.m_iTransient_FlagIsPlotElongVis);
-    addLine(text, "RefTemperature               = ", block.m_dTransient_RefTem);
-    addLine(text, "DeltaTemperature             = ", block.m_dTransient_DeltaTem);
-    addLine(text, "DeltaTime                    = ", block.m_dTransient_DeltaTime);
-    addLine(text, "TargetTime                   = ", block.m_dTransient_TargetTime);
-    addLine(text, "SRateLowerBound              = ", block.m_dTransient_SRateLB);
-    addLine(text, "SRateUpperBound              = ", block.m_dTransient_SRateUB);
-    addLine(text, "TotalSetofInputSRate         = ", block.m_nTransient_InputStrainRate);
-    addStrainRates(text);
-    text += kStars;
-    writeOut(text);
-  }
-
-  // A block that is read again may announce more strain rates than its array, which stays, has room for.
-  void addStrainRates(std::string& text) const {
-    const int count = std::min(block.m_nTransient_InputStrainRate, block.m_nTransient_HeldStrainRate);
-    const double* rates = block.m_dTransient_InputStrainRate.get();
-    for (int i = 1; i <= count; ++i) {
-      addLine(text, "#" + std::to_string(i) + " StrainRate                = ", rates[i]);
-    }
-  }
-
   // --- What an observer is told -----------------------------------------------------------------------------------
 
-  static const Row& rowAt(Position at) {
-    return *std::find_if(head().rows.begin(), head().rows.end(),
-                         [at](const Row& row) { return row.at[0].line == at.line && row.at[0].field == at.field; });
+  /// Of the members in that place the first; null where nothing is kept.
+  static const Row* rowAt(Position at) {
+    const auto stands = [at](const Row& row) { return row.at[0].line == at.line && row.at[0].field == at.field; };
+    const auto found = std::find_if(head().rows.begin(), head().rows.end(), stands);
+    return found == head().rows.end() ? nullptr : &*found;
   }
 
-  void report(const Row& row, const HeadLine& line, int field) const {
+  void report(const Row& row, const HeadLine& line, int field, KeyOutcome outcome, Parsed parsed = {}) const {
     if (lines.observer() == nullptr) [[likely]] {
       return;
     }
-    lines.observer()->keyFound(eventOf(row, line, field, KeyOutcome::kStored));
-  }
-
-  void reportNotTaken(const Row& row, const HeadLine& line, int field) const {
-    if (lines.observer() == nullptr) [[likely]] {
-      return;
-    }
-    lines.observer()->fieldNotTaken(eventOf(row, line, field, KeyOutcome::kNotStored));
-  }
-
-  KeyEvent eventOf(const Row& row, const HeadLine& line, int field, KeyOutcome outcome) const {
-    return {head(), row, &block, {}, line.text(), line.field(field), {}, line.lineNumber(), outcome};
+    lines.observer()->keyFound(
+        {head(), row, &block, {}, line.text(), line.field(field), {}, line.lineNumber(), outcome, parsed});
   }
 
   void reportModelLine(const HeadLine& line, int plotMode) const {
@@ -318,13 +217,13 @@ struct ViscoelasticReader {
       const void* member = row.field.locate(&block);
       if (member == &block.m_bPlotMaterialFun && plotMode != 1 && plotMode != 2) continue;
       if (member == &block.m_bPlotMaterialFun_ideal && plotMode != 2) continue;
-      report(row, line, at.field);
+      report(row, line, at.field, KeyOutcome::kStored);
     }
   }
 
   bool refuse(int lineNumber, std::string_view reason) const {
     if (lines.observer() != nullptr) [[unlikely]] {
-      lines.observer()->viscoelasticRefused(lineNumber, reason);
+      lines.observer()->fileRefused(lineNumber, reason);
     }
     return false;
   }
@@ -333,7 +232,7 @@ struct ViscoelasticReader {
     if (lines.observer() == nullptr) [[likely]] {
       return;
     }
-    lines.observer()->linePositional(head(), line.lineNumber(), number, line.converted(), line.taken(), line.rest());
+    lines.observer()->linePositional(number, line.converted(), line.taken(), line.rest());
   }
 };
 
@@ -369,7 +268,7 @@ int readViscoelasticFile(const std::string& fileName, CZEBCMPVEParm& block, cons
     if (readViscoelasticLines(stream, block, source, observer) == 1) return 1;
     stream.close();
   } else {
-    if (observer != nullptr) observer->viscoelasticRefused(0, "the file cannot be opened");
+    if (observer != nullptr) observer->fileRefused(0, "the file cannot be opened");
     block.InitBoundingParameters();
   }
   if (writesDefault && source.reads()) writeDefaultViscoelasticFile(fileName, block);

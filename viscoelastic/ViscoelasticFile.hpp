@@ -3,6 +3,7 @@
 
 #include <istream>
 #include <string>
+#include <string_view>
 
 #include "blocks/CZEBCMPVEParm.h"
 #include "engine/LineSource.hpp"
@@ -10,6 +11,9 @@
 namespace zeb {
 
 class ReadObserver;
+
+/// This block stands in every default file, but nothing reads it.
+inline constexpr std::string_view kUnreadTagBlock = "PLOT_TRANSIENT_SHEAR_MATERIAL";
 
 /// Whether the host asked for the viscoelastic file (setIstoCalcRS).
 bool wantsViscoelasticFile(const CZEBCMPVEParm& block);

@@ -6,7 +6,7 @@
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "inspect/catalogue/NearestNames.hpp"
 #include "inspect/set/Inspection.hpp"
-#include "inspect/set/Settings.hpp"
+#include "inspect/set/Values.hpp"
 #include "stdcmp/StdParameters.hpp"
 
 namespace zeb {
@@ -54,11 +54,17 @@ std::string replacementText(const Replacement& replacement) {
   return {};
 }
 
+std::string filledText(const Row& row) {
+  std::string text;
+  for (const std::string_view member : row.fills) text += " " + std::string(member);
+  return row.list.array.member.empty() ? text : text + " " + std::string(row.list.array.member);
+}
+
 bool isGated(const Section& section, const Row& row) {
   if (section.gate < 0) return false;
   const auto gate = static_cast<std::size_t>(section.gate);
   for (std::size_t key = gate + 1; key < section.readingOrder.size(); ++key) {
-    if (&section.rows[section.readingOrder[key]] == &row) return true;
+    if (&section.rowOf(key) == &row) return true;
   }
   return false;
 }
@@ -67,9 +73,9 @@ bool fits(std::string_view a, std::string_view b, bool withCase) { return withCa
 
 // What stands in front of the value in the lines of a list that sets the row's member.
 bool isCalledInList(const Section& section, const Row& row, std::string_view name, bool withCase) {
-  const bool isEntry = row.field.type == FieldType::kInts || row.field.type == FieldType::kDoubles;
+  const bool isEntry = row.field.isArray();
   return std::any_of(section.rows.begin(), section.rows.end(), [&](const Row& list) {
-    return fills(list, row) && fits(isEntry ? list.lines.entryName : list.lines.countName, name, withCase);
+    return fills(list, row) && fits(isEntry ? list.list.entryName : list.list.countName, name, withCase);
   });
 }
 
@@ -94,11 +100,11 @@ bool isCalled(const CatalogueEntry& entry, std::string_view name, bool withCase)
 
 std::string searchText(const CatalogueEntry& entry) {
   std::string text;
-  const std::string type = typeText(*entry.row), rules = joined(ruleTexts(entry));
+  const std::string type = typeText(*entry.row), rules = joined(ruleTexts(entry)), meaning = describe(*entry.row);
   for (const std::string_view part :
        {entry.format, entry.sectionText(), std::string_view(entry.block), entry.table->className, entry.row->key,
         entry.row->otherKey, entry.row->field.member, entry.row->field.getter, std::string_view(type), entry.row->unit,
-        std::string_view(rules), entry.row->doc}) {
+        std::string_view(rules), std::string_view(meaning)}) {
     text += lower(part) + '\n';
   }
   return text;
@@ -185,7 +191,7 @@ std::vector<std::string> nearestNames(std::string_view name, std::string_view fo
 
 std::string typeText(const Row& row) {
   if (row.lookup == Lookup::kPresence) return "presence";
-  if (row.store != nullptr) return "double";
+  if (row.isElement()) return "double";
   switch (row.field.type) {
     case FieldType::kInt:
       return "int";
@@ -219,11 +225,11 @@ std::vector<std::string> ruleTexts(const Section& section, const Row& row) {
     texts.push_back("gate: below " + std::to_string(row.gateBelow) + " the section's gated keys are skipped");
   }
   if (isGated(section, row)) {
-    const Row& gate = section.rows[section.readingOrder[static_cast<std::size_t>(section.gate)]];
+    const Row& gate = section.gateRow();
     texts.push_back("gated by " + std::string(gate.key));
   }
-  if (row.count) texts.push_back("count, 0 to " + std::to_string(kLargestCount));
-  if (!row.fills.empty()) texts.push_back("list: sets " + std::string(row.fills));
+  if (row.count == Count::kYes) texts.push_back("count, 0 to " + std::to_string(kLargestCount));
+  if (const std::string filled = filledText(row); !filled.empty()) texts.push_back("list: sets" + filled);
   if (!row.echo.label.empty()) texts.push_back("printed when stored");
   return texts;
 }
@@ -268,7 +274,7 @@ std::string catalogueMarkdown(const std::vector<const CatalogueEntry*>& entries)
     const Row& row = *entry->row;
     text += "| " + keyCell(row) + " | " + code(row.field.member) + " | " + typeText(row) + " | " +
             cell(entry->defaultValue) + " | " + cell(row.unit) + " | " + cell(joined(ruleTexts(*entry))) + " | " +
-            cell(row.doc) + " |\n";
+            cell(describe(row)) + " |\n";
   }
   return text;
 }

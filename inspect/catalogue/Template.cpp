@@ -8,7 +8,6 @@
 #include <sstream>
 
 #include "cmx/CZEBCMXInternalTool.hpp"
-#include "engine/ReadObserver.hpp"
 #include "engine/SectionEngine.hpp"
 #include "frame/CMPReader.hpp"
 #include "frame/MoldingTypes.hpp"
@@ -16,7 +15,8 @@
 #include "inspect/catalogue/Catalogue.hpp"
 #include "inspect/set/Analysis.hpp"
 #include "inspect/set/OutputCapture.hpp"
-#include "inspect/set/Settings.hpp"
+#include "inspect/set/Values.hpp"
+#include "inspect/trace/LineTrace.hpp"
 
 namespace zeb {
 
@@ -69,16 +69,16 @@ class Trial {
 // Stands for whatever comes next in the section: no list may take it.
 constexpr std::string_view kNextLine = "following line";
 
-struct TrialWatch final : ReadObserver {
+struct TrialWatch final : TraceReader {
   bool tookNextLine = false;
   bool isGated = false;
   std::vector<const Row*> entries;  // members that have lines of their own in a list
-  void keyFound(const KeyEvent& event) override {
-    isGated = isGated || event.outcome == KeyOutcome::kGated;
-    if (event.key.empty()) entries.push_back(&event.row);
-  }
-  void lineOfList(const Section& /*section*/, int /*number*/, std::string_view line, bool /*used*/) override {
-    tookNextLine = tookNextLine || line == kNextLine;
+  void line(const ReadLine& line) override {
+    tookNextLine = tookNextLine || (line.part == ReadLine::Part::kEntry && line.text == kNextLine);
+    for (const Hit& hit : line.hits) {
+      isGated = isGated || hit.outcome == KeyOutcome::kGated;
+      if (hit.key.empty()) entries.push_back(hit.row);
+    }
   }
 };
 
@@ -87,8 +87,11 @@ TrialWatch readInto(const Trial& trial, const Part& part, const std::string& lin
   std::istringstream text(lines + "\n" + std::string(part.section->close) + "\n");
   const LineSource source{};
   TrialWatch watch;
-  LineReader reader(text, source, &watch);
+  LineTrace trace(watch);
+  LineReader reader(text, source, &trace);
+  trace.sectionOpened(*part.section, trial.block(), 0, {});
   readSection(*part.section, trial.block(), reader);
+  trace.finish();
   return watch;
 }
 
@@ -115,8 +118,7 @@ std::vector<std::string> textsFor(const Row& row, FieldType type, void* block) {
   std::vector<double> numbers;
   const bool isInt = row.field.type == FieldType::kInt;
   if (!isInt && row.field.type != FieldType::kDouble) return {};
-  const void* member = row.field.locate(block);
-  const double value = isInt ? *static_cast<const int*>(member) : *static_cast<const double*>(member);
+  const double value = isInt ? row.field.in<int>(block) : row.field.in<double>(block);
   const double plain = value / row.rule.scale;
   numbers.push_back(plain);
   // Scaling rounds: one of the neighbours may hit the value where the quotient does not.
@@ -171,7 +173,7 @@ class RepairedDefaults {
 
 std::vector<std::string> candidates(const Row& row, void* block) {
   if (row.lookup == Lookup::kPresence) return {};
-  if (row.store != nullptr) return {"0"};
+  if (row.isElement()) return {"0"};
   if (const std::string text = textOf(row, block); !text.empty()) return {text};
   return textsFor(row, row.field.type, block);
 }
@@ -204,7 +206,7 @@ std::vector<KeyLine> keyLines(const Part& part, const RepairedDefaults* repaired
   for (KeyLine& line : lines) {
     for (const std::string& text : candidates(*line.rows.front(), defaults.block())) {
       std::string tried = std::string(line.key) + " = " + text;
-      if (line.rows.front()->list != nullptr) tried += entriesBehind(part, tried);
+      if (line.rows.front()->opensList()) tried += entriesBehind(part, tried);
       const Effect effect = effectOf(part, line.rows, tried);
       if (effect == Effect::kChanges) continue;
       line.line = tried;
@@ -275,7 +277,7 @@ std::string description(const Part& part, const Row& row, std::string_view name,
   if (!row.otherKey.empty()) text += " or " + std::string(row.otherKey);
   text += " (" + typeText(row) + ", default " + valueOf(row, defaults.block());
   if (!row.unit.empty()) text += " " + std::string(row.unit);
-  text += "): " + std::string(row.doc);
+  text += "): " + describe(row);
   const std::string rules = joined(ruleTexts(*part.section, row));
   if (!rules.empty()) text += " Rules: " + rules + ".";
   return comment(withoutBrackets(text + note));
@@ -316,7 +318,7 @@ std::string gatedComment(const Section& section, const std::vector<const KeyLine
     if (line->isIgnored && line->repaired.empty()) text += "#     " + line->line + "\n";
   }
   if (text.empty()) return {};
-  const Row& gate = section.rows[section.readingOrder[static_cast<std::size_t>(section.gate)]];
+  const Row& gate = section.gateRow();
   return comment("To be written below " + std::string(gate.key) + " once that is " + std::to_string(gate.gateBelow) +
                  " or more:") +
          text;

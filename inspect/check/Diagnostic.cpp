@@ -31,29 +31,29 @@ Place placeIn(int line, std::string_view text, std::size_t at) {
 }
 
 DiagnosticList::DiagnosticList() : m_enabled(checkRules().size()), m_counts(checkRules().size()) {
-  for (const RuleInfo& rule : checkRules()) enable(rule.rule, rule.byDefault);
+  for (const CheckRule* rule : checkRules()) enable(*rule, rule->byDefault);
 }
 
-void DiagnosticList::enable(CheckRule rule, bool on) { m_enabled[static_cast<std::size_t>(rule)] = on; }
+void DiagnosticList::enable(const CheckRule& rule, bool on) { m_enabled[indexOf(rule)] = on; }
 
-bool DiagnosticList::wants(CheckRule rule) const {
-  const auto index = static_cast<std::size_t>(rule);
+bool DiagnosticList::wants(const CheckRule& rule) const {
+  const auto index = indexOf(rule);
   return m_enabled[index] && m_counts[index] < kMostPerRule;
 }
 
-void DiagnosticList::skip(CheckRule rule) {
-  if (m_enabled[static_cast<std::size_t>(rule)]) ++m_dropped;
+void DiagnosticList::skip(const CheckRule& rule) {
+  if (m_enabled[indexOf(rule)]) ++m_dropped;
 }
 
-void DiagnosticList::add(CheckRule rule, Place place, std::string message, std::string hint) {
+void DiagnosticList::add(const CheckRule& rule, Place place, std::string message, std::string hint) {
   if (!wants(rule)) return skip(rule);
-  ++m_counts[static_cast<std::size_t>(rule)];
+  ++m_counts[indexOf(rule)];
   const std::string file = m_file < 0 ? std::string() : m_files[static_cast<std::size_t>(m_file)];
-  if (hint.empty()) hint = info(rule).hint;
-  m_all.push_back({rule, file, m_file, std::move(place), std::move(message), std::move(hint)});
+  if (hint.empty()) hint = rule.hint;
+  m_all.push_back({&rule, file, m_file, std::move(place), std::move(message), std::move(hint)});
 }
 
-void DiagnosticList::add(CheckRule rule, int line, std::string_view text, std::size_t at, std::string message,
+void DiagnosticList::add(const CheckRule& rule, int line, std::string_view text, std::size_t at, std::string message,
                          std::string hint) {
   if (!wants(rule)) return skip(rule);
   add(rule, placeIn(line, text, at), std::move(message), std::move(hint));

@@ -21,7 +21,7 @@ struct Place {
 Place placeIn(int line, std::string_view text, std::size_t at);
 
 struct Diagnostic {
-  CheckRule rule;
+  const CheckRule* rule;
   std::string file;
   int fileOrder = 0;
   Place place;
@@ -35,16 +35,17 @@ class DiagnosticList {
   static constexpr int kMostPerRule = 200;
 
   DiagnosticList();
-  void enable(CheckRule rule, bool on);
+  void enable(const CheckRule& rule, bool on);
   /// Whether a finding of this rule would be kept; callers may then save the work of wording it.
-  bool wants(CheckRule rule) const;
+  bool wants(const CheckRule& rule) const;
   /// Counts a finding that is not worded, because wants() was false.
-  void skip(CheckRule rule);
+  void skip(const CheckRule& rule);
 
   /// An empty hint stands for the rule's own.
-  void add(CheckRule rule, Place place, std::string message, std::string hint = {});
+  void add(const CheckRule& rule, Place place, std::string message, std::string hint = {});
   /// `at` is an offset in bytes into `text`.
-  void add(CheckRule rule, int line, std::string_view text, std::size_t at, std::string message, std::string hint = {});
+  void add(const CheckRule& rule, int line, std::string_view text, std::size_t at, std::string message,
+           std::string hint = {});
 
   /// What is added from here on belongs to this file. Returns its number.
   int startFile(std::string name);

@@ -31,8 +31,8 @@ Json asResult(const Diagnostic& found, std::string_view severity) {
     location["region"] = {{"startLine", found.place.line}, {"startColumn", found.place.column}};
   }
   Json result;
-  result["ruleId"] = info(found.rule).id;
-  result["ruleIndex"] = static_cast<int>(found.rule);
+  result["ruleId"] = found.rule->id;
+  result["ruleIndex"] = indexOf(*found.rule);
   result["level"] = severity;
   result["message"] = {{"text", found.message + ". Hint: " + found.hint + "."}};
   result["locations"] = Json::array({Json{{"physicalLocation", std::move(location)}}});
@@ -44,7 +44,7 @@ Json asResult(const Diagnostic& found, std::string_view severity) {
 std::string headline(const Diagnostic& found, std::string_view severity) {
   std::string text = found.file;
   if (found.place.line > 0) text += ":" + std::to_string(found.place.line) + ":" + std::to_string(found.place.column);
-  text += ": " + std::string(severity) + ": " + found.message + " [" + std::string(info(found.rule).id) + "]";
+  text += ": " + std::string(severity) + ": " + found.message + " [" + std::string(found.rule->id) + "]";
   std::replace_if(text.begin(), text.end(), isControl, '?');
   return text;
 }
@@ -71,7 +71,7 @@ Json diagnosticsAsJson(std::span<const Diagnostic> all, std::string_view severit
                     {"line", found.place.line},
                     {"column", found.place.column},
                     {"severity", severity},
-                    {"rule", info(found.rule).id},
+                    {"rule", found.rule->id},
                     {"message", found.message},
                     {"hint", found.hint}});
   }
@@ -80,11 +80,11 @@ Json diagnosticsAsJson(std::span<const Diagnostic> all, std::string_view severit
 
 Json diagnosticsAsSarif(std::span<const Diagnostic> all, std::string_view severity) {
   Json rules = Json::array();
-  for (const RuleInfo& rule : checkRules()) {
-    rules.push_back({{"id", rule.id},
-                     {"shortDescription", {{"text", rule.about}}},
-                     {"help", {{"text", rule.hint}}},
-                     {"defaultConfiguration", {{"enabled", rule.byDefault}, {"level", "warning"}}}});
+  for (const CheckRule* rule : checkRules()) {
+    rules.push_back({{"id", rule->id},
+                     {"shortDescription", {{"text", rule->about}}},
+                     {"help", {{"text", rule->hint}}},
+                     {"defaultConfiguration", {{"enabled", rule->byDefault}, {"level", "warning"}}}});
   }
   Json results = Json::array();
   for (const Diagnostic& found : all) results.push_back(asResult(found, severity));

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "frame/CZEBCMPInternalTool.hpp"
+#include "blocks/CZEBCMPVEParm.h"
 #include "inspect/catalogue/Catalogue.hpp"
-#include "inspect/set/Settings.hpp"
+#include "inspect/set/Values.hpp"
+#include "inspect/trace/LineText.hpp"
 
 namespace zeb {
 
@@ -14,300 +15,231 @@ using Kind = HistoryStep::Kind;
 
 constexpr std::string_view kWhyNotTaken = "the value is not taken";
 
+std::string whyMissing(const ReadLine& line) {
+  if (line.isMissing) return "the file ends before this line";
+  const std::string_view rest = trimmed(std::string_view(line.text).substr(line.restAt));
+  if (!rest.empty()) return "reading of the line stops at \"" + std::string(rest) + '"';
+  if (line.converted == 0) return "the line holds no field";
+  return "the line holds only " + std::to_string(line.converted) + (line.converted == 1 ? " field" : " fields");
+}
+
 const Section* sectionOf(const Row& row) {
-  for (const CatalogueEntry& entry : catalogue()) {
-    if (entry.row == &row) return entry.section;
-  }
-  return nullptr;
+  const auto entry = std::find_if(catalogue().begin(), catalogue().end(),
+                                  [&](const CatalogueEntry& candidate) { return candidate.row == &row; });
+  return entry == catalogue().end() ? nullptr : entry->section;
 }
 
-std::string defaultOf(const Row& row) {
-  for (const CatalogueEntry& entry : catalogue()) {
-    if (entry.row == &row) return entry.defaultValue;
-  }
-  return {};
+// What a step says about the members of a section that as a whole is not read; a version line does not know the head
+// that it fails to announce.
+bool concerns(const HistoryStep& refusal, const Section* section) {
+  if (section == nullptr) return false;
+  return refusal.section != nullptr ? refusal.section == section : section->headVersion != 0;
 }
 
-std::string_view withoutBlanks(std::string_view text) {
-  constexpr std::string_view kBlank = " \t\r\v\f";
-  const auto first = text.find_first_not_of(kBlank);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlank) - first + 1);
-}
-
-std::string whyMissing(bool fileEnded, int converted, std::string_view tail) {
-  if (fileEnded) return "the file ends before this line";
-  if (!withoutBlanks(tail).empty()) return "reading of the line stops at \"" + std::string(withoutBlanks(tail)) + '"';
-  if (converted == 0) return "the line holds no field";
-  return "the line holds only " + std::to_string(converted) + (converted == 1 ? " field" : " fields");
-}
-
-// What a step says about a member that a section as a whole keeps from being read.
-bool concerns(const HistoryStep& step, const Section* section) {
-  if (step.kind != Kind::kRefused || section == nullptr) return false;
-  return step.section != nullptr ? step.section == section : section->headVersion != 0;
-}
+bool isOrdered(const HistoryStep* a, const HistoryStep* b) { return a->order < b->order; }
 
 }  // namespace
 
-std::vector<const HistoryStep*> History::stepsOf(const Row& row, void* block, Elements elements) const {
-  const void* address = row.field.locate(block);
-  const Section* section = sectionOf(row);
-  std::vector<const HistoryStep*> steps;
-  for (const HistoryStep& step : m_steps) {
-    const bool same = step.address != nullptr ? step.address == address : step.target == &row;
-    const bool otherElement = elements == Elements::kOwn && row.store != nullptr && step.target != nullptr &&
-                              step.target->store != nullptr && step.target != &row;
-    // A list that sets the whole array is told once for each of its elements.
-    const bool isCopy =
-        elements == Elements::kAll && step.kind == Kind::kList && step.target != nullptr && step.target != &row;
-    if ((same && !otherElement && !isCopy) || concerns(step, section)) steps.push_back(&step);
-  }
-  return steps;
+void History::Chain::add(HistoryStep step) {
+  if (first.size() < kMostSteps) return first.push_back(std::move(step));
+  last.push_back(std::move(step));
+  if (last.size() <= kMostSteps) return;
+  const std::size_t leftOut = last.front().leftOut + 1;
+  last.pop_front();
+  last.front().leftOut = leftOut;
 }
 
-std::vector<const HistoryStep*> History::othersOf(const HistoryStep& step) const {
-  std::vector<const HistoryStep*> others;
-  if (step.row == nullptr) return others;
-  for (const HistoryStep& other : m_steps) {
-    const bool sameLine = other.lineNumber == step.lineNumber && other.file == step.file;
-    const bool sameSection = other.section == step.section;
-    if (&other == &step || !sameLine || !sameSection || other.row == step.row) continue;
-    // The fields of a positional line share their line by design.
-    if (other.kind == Kind::kLine && !other.key.empty()) others.push_back(&other);
+std::vector<const HistoryStep*> History::stepsOf(const Row& row, void* block, Elements elements) const {
+  const void* address = row.field.locate(block);
+  std::vector<const HistoryStep*> steps;
+  for (auto chain = m_chains.lower_bound({address, nullptr}); chain != m_chains.end() && chain->first.first == address;
+       ++chain) {
+    const bool isOther = chain->first.second != &row;
+    if (isOther && elements == Elements::kOwn && row.isElement() && chain->first.second->isElement()) continue;
+    // A list that sets the whole array is told once for each of its elements.
+    const auto take = [&](const HistoryStep& step) {
+      if (!(isOther && elements == Elements::kAll && step.kind == Kind::kList)) steps.push_back(&step);
+    };
+    std::for_each(chain->second.first.begin(), chain->second.first.end(), take);
+    std::for_each(chain->second.last.begin(), chain->second.last.end(), take);
   }
-  return others;
+  const Section* section = m_refusals.empty() ? nullptr : sectionOf(row);
+  for (const HistoryStep& refusal : m_refusals) {
+    if (concerns(refusal, section)) steps.push_back(&refusal);
+  }
+  std::sort(steps.begin(), steps.end(), isOrdered);
+  return steps;
 }
 
 std::vector<int> History::openings(const Section& section) const {
   std::vector<int> lines;
-  for (const Opening& opening : m_openings) {
-    if (opening.section == &section) lines.push_back(opening.lineNumber);
+  for (const auto& [opened, line] : m_openings) {
+    if (opened == &section) lines.push_back(line);
   }
   return lines;
 }
 
-HistoryStep History::stepAt(Kind kind, const Section* section, int lineNumber) const {
-  HistoryStep step;
-  step.kind = kind;
-  step.section = section;
-  step.file = m_laterFile;
-  step.lineNumber = lineNumber;
-  step.line = m_line;
-  return step;
-}
-
 void History::fileStarted(std::string_view fileName) {
-  settleList();
-  m_line.clear();
-  m_lineBefore.clear();
-  m_lineNumber = 0;
   if (m_filesStarted++ == 0) return;
   const auto slash = fileName.rfind('/');
   m_laterFile = fileName.substr(slash == fileName.npos ? 0 : slash + 1);
 }
 
-// A file may hold millions of lines; a step is worth keeping for its own member and for those in the same line.
-void History::forgetUnwanted() {
-  if (m_wanted.empty()) return;
-  const auto isWanted = [&](const HistoryStep& step) {
-    return step.target == nullptr || std::any_of(m_wanted.begin(), m_wanted.end(), [&](const Row* row) {
-             return row->field.member == step.target->field.member;
-           });
-  };
-  const auto undecided = m_steps.begin() + static_cast<std::ptrdiff_t>(m_decided);
-  if (std::none_of(undecided, m_steps.end(), isWanted)) m_steps.erase(undecided, m_steps.end());
-  m_decided = m_steps.size();
-}
-
-void History::lineRead(int lineNumber, std::string_view line) {
-  forgetUnwanted();
-  if (m_listIsNew) {
-    for (const ListTrace::Member& member : m_list.members()) {
-      m_listValues[member.row] = valueOf(*member.row, member.block);
-    }
-    m_listIsNew = false;
-  }
-  m_lineBefore.swap(m_line);
-  m_line = line;
-  m_lineNumber = lineNumber;
-  m_lineIsNew = true;
-  if (m_isOpening) m_versionStep = stepAt(Kind::kLine, m_openings.back().section, lineNumber);
-  m_isOpening = false;
-}
-
-// Taken back as soon as the head that the line announces is read.
-void History::versionRead(int lineNumber, std::string_view /*line*/, bool parsed, int version) {
-  HistoryStep step = stepAt(Kind::kRefused, nullptr, lineNumber);
-  step.reason = parsed ? "version " + std::to_string(version) : "no version number";
-  m_steps.push_back(std::move(step));
-}
-
-void History::sectionOpened(const Section& section, int lineNumber) {
-  settleList();
-  const bool isHead = section.headVersion != 0;
-  if (isHead && !m_steps.empty() && concerns(m_steps.back(), &section)) m_steps.pop_back();
-  m_openings.push_back({&section, lineNumber});
-  m_lineIsNew = false;
-  m_isOpening = true;
-}
-
-void History::sectionClosed(const Section& /*section*/, int /*lineNumber*/) { settleList(); }
-void History::sectionUnclosed(const Section& /*section*/, int /*lineNumber*/) { settleList(); }
-
-void History::sectionRefused(const Section& section, int lineNumber, int version) {
-  HistoryStep step = stepAt(Kind::kRefused, &section, lineNumber);
-  const std::string wanted = defaultOf(*section.positional.slots.front().row);
-  step.reason = m_lineIsNew ? "version " + std::to_string(version) + " instead of " + wanted
-                            : "the file ends before the version line";
-  m_steps.push_back(std::move(step));
-}
-
-HistoryStep History::stepOf(const KeyEvent& event) const {
-  HistoryStep step = stepAt(Kind::kLine, &event.section, event.lineNumber);
-  step.row = step.target = &event.row;
-  step.address = event.row.field.locate(event.block);
-  step.outcome = event.outcome;
-  step.line = event.line;
-  step.key = event.key;
-  step.used = event.value.substr(0, event.value.size() - event.tail.size());
-  if (event.key.empty()) step.used = withoutBlanks(step.used);
-  step.left = event.tail;
-  if (event.row.lookup == Lookup::kPresence) {
-    step.used = event.key;
-    step.left.clear();
-  }
-  const bool isField = event.key.empty() && event.row.at[0].line > 0;
-  if (isField && !m_openings.empty()) step.positionalLine = event.lineNumber - m_openings.back().lineNumber;
-  if (isField && step.used.empty()) step.reason = "the line lacks the field; that of the line above counts";
-  step.after = valueOf(event.row, event.block);
+HistoryStep History::stepAt(Kind kind, const ReadLine& line, const Section* section) const {
+  HistoryStep step;
+  step.kind = kind;
+  step.section = section;
+  step.file = m_laterFile;
+  step.lineNumber = line.number;
+  step.line = line.text;
   return step;
 }
 
-void History::keyFound(const KeyEvent& event) {
-  const bool isInList = m_list.takes(event);
-  if (!isInList) settleList();
-  if (m_hasNotTaken) takeBack(event);
-  m_steps.push_back(stepOf(event));
-  if (event.row.list == nullptr) return;
-  m_listStep = m_steps.back();
-  m_listStep.kind = Kind::kList;
-  if (event.outcome == KeyOutcome::kStored) {
-    m_list.start(event);
-    m_listIsNew = true;
+HistoryStep History::stepOf(const Hit& hit, const ReadLine& line) const {
+  HistoryStep step = stepAt(hit.outcome == KeyOutcome::kNotTaken ? Kind::kNotTaken : Kind::kLine, line, line.section);
+  step.row = step.target = hit.row;
+  step.address = hit.row->field.locate(hit.block);
+  step.outcome = hit.outcome;
+  step.key = hit.key;
+  step.used = line.convertedText(hit);
+  step.left = line.left(hit);
+  if (hit.key.empty()) step.used = trimmed(step.used);
+  if (hit.row->lookup == Lookup::kPresence) {
+    step.used = hit.key;
+    step.left.clear();
   }
-  if (event.outcome != KeyOutcome::kRefused) return;
-  for (const Row& row : event.section.rows) {
-    if (fills(event.row, row)) addListStep(row, event.block, {}, valueOf(row, event.block));
+  step.others = othersOf(*hit.row);
+  step.positionalLine = line.positionalLine;
+  if (step.kind == Kind::kNotTaken) {
+    step.reason = kWhyNotTaken;
+  } else {
+    step.after = hit.after;
+    if (line.positionalLine > 0 && step.used.empty())
+      step.reason = "the line lacks the field; that of the line above counts";
+  }
+  return step;
+}
+
+std::vector<HistoryStep::Other> History::othersOf(const Row& row) const {
+  std::vector<HistoryStep::Other> others;
+  std::copy_if(m_keys.begin(), m_keys.end(), std::back_inserter(others),
+               [&](const HistoryStep::Other& other) { return other.row != &row; });
+  return others;
+}
+
+void History::line(const ReadLine& line) {
+  const auto isHead = [](const Opening& opening) { return opening.section->headVersion != 0; };
+  if (line.version && std::none_of(line.openings.begin(), line.openings.end(), isHead)) {
+    HistoryStep step = stepAt(Kind::kRefused, line, nullptr);
+    step.reason = line.version->parsed ? "version " + std::to_string(line.version->number) : "no version number";
+    step.order = ++m_steps;
+    m_refusals.push_back(std::move(step));
+  }
+  if (line.end == SectionEnd::kRefused) {
+    addRefusal(line);
+  } else {
+    addHits(line);
+    if (line.part == ReadLine::Part::kPositional) addUnreadFields(line);
+  }
+  for (const Opening& opening : line.openings) m_openings.push_back({opening.section, opening.line});
+}
+
+void History::addHits(const ReadLine& line) {
+  // The fields of a positional line share their line by design.
+  const bool isKeyed = !line.hits.empty() && !line.hits.front().key.empty();
+  if (isKeyed && line.number != m_keysLine) m_keys.clear();
+  if (isKeyed) {
+    m_keysLine = line.number;
+    for (const Hit& hit : line.hits) m_keys.push_back({hit.key, hit.row, hit.outcome, hit.after});
+  } else if (line.part != ReadLine::Part::kEntry) {
+    m_keys.clear();
+  }
+  auto list = line.lists.begin();
+  for (std::size_t i = 0; i <= line.hits.size(); ++i) {
+    for (; list != line.lists.end() && list->hitsBefore == i; ++list) addList(*list, line);
+    if (i < line.hits.size()) add(*line.hits[i].row, stepOf(line.hits[i], line));
   }
 }
 
-void History::fieldNotTaken(const KeyEvent& event) {
-  HistoryStep step = stepOf(event);
-  step.kind = Kind::kNotTaken;
-  step.reason = kWhyNotTaken;
-  step.after.clear();
-  m_steps.push_back(std::move(step));
-}
-
-// The last line of the viscoelastic head is read before what the one above it sets is told.
-void History::takeBack(const KeyEvent& event) {
-  m_hasNotTaken = event.key.empty();
-  m_decided = 0;
-  std::erase_if(m_steps, [&](const HistoryStep& step) {
-    return step.kind == Kind::kNotTaken && step.row == &event.row && step.lineNumber == event.lineNumber;
-  });
-}
-
-void History::lineOfList(const Section& /*section*/, int lineNumber, std::string_view line, bool used) {
-  m_list.line(lineNumber, line, used);
-}
-
-void History::settleList() {
-  for (const ListTrace::Member& member : m_list.finish()) {
-    if (member.lines.empty() && !member.isChanged()) continue;
-    const auto known = m_listValues.find(member.row);
-    const bool isOver = member.lines.empty() && known != m_listValues.end();
-    addListStep(*member.row, member.block, member.lines, isOver ? known->second : valueOf(*member.row, member.block));
+void History::addList(const ListTaken& list, const ReadLine& line) {
+  for (const ListTaken::Member& member : list.members) {
+    const bool hasLines = member.row->field.isArray() && !list.entries.empty();
+    if (!hasLines && !member.isReplaced) continue;
+    ReadLine announcing;
+    announcing.number = list.line;
+    announcing.text = list.text;
+    announcing.section = line.section;
+    HistoryStep step = stepOf(list.announcing, announcing);
+    step.kind = Kind::kList;
+    step.target = member.row;
+    step.address = member.row->field.locate(member.block);
+    for (const ListTaken::Entry& entry : list.entries) {
+      if (!hasLines) break;
+      step.listLines.push_back("line " + std::to_string(entry.line) + ": " + entry.text +
+                               (entry.used ? "" : " (not used)"));
+    }
+    step.after = member.after;
+    add(*member.row, std::move(step));
   }
-  m_listValues.clear();
-  m_listIsNew = false;
 }
 
-void History::addListStep(const Row& row, void* block, const std::vector<ListTrace::Line>& lines, std::string after) {
-  HistoryStep step = m_listStep;
-  step.target = &row;
-  step.address = row.field.locate(block);
-  for (const ListTrace::Line& line : lines) {
-    step.listLines.push_back("line " + std::to_string(line.number) + ": " + line.text +
-                             (line.used ? "" : " (not used)"));
-  }
-  step.after = std::move(after);
-  m_steps.push_back(std::move(step));
-}
-
-bool History::isSetBy(int lineNumber, const Row& row) const {
-  for (auto step = m_steps.rbegin(); step != m_steps.rend(); ++step) {
-    if (step->lineNumber != lineNumber || step->file != m_laterFile) break;
-    if (step->row == &row) return true;
-  }
-  return false;
-}
-
-// A version line that matches is told of by the line that follows it.
-void History::addVersionStep(const Section& section) {
-  HistoryStep step = m_versionStep;
-  step.row = step.target = section.positional.slots.front().row;
-  step.positionalLine = 1;
-  step.used = withoutBlanks(step.line);
-  step.after = defaultOf(*step.row);
-  m_steps.push_back(std::move(step));
-}
-
-void History::linePositional(const Section& section, int lineNumber, int positionalLine, int converted,
-                             int /*expected*/, std::string_view tail) {
-  const bool fileEnded = !m_lineIsNew;
-  m_lineIsNew = false;
-  const bool absentIsZero = (section.positional.absentIsZero >> positionalLine & 1u) != 0;
-  for (const Row& row : section.rows) {
+// The members with a place in the line to which nothing of it came.
+void History::addUnreadFields(const ReadLine& line) {
+  for (const Row& row : line.section->rows) {
     for (const Position at : row.at) {
-      if (at.line != positionalLine) continue;
-      if (isSetBy(lineNumber, row)) continue;
-      const bool isMissing = at.field > converted;
-      HistoryStep step = stepAt(isMissing ? Kind::kMissingField : Kind::kNotTaken, &section, lineNumber);
+      const auto isHit = [&](const Hit& hit) { return hit.row == &row; };
+      if (at.line != line.positionalLine || std::any_of(line.hits.begin(), line.hits.end(), isHit)) continue;
+      const bool isMissing = at.field > line.converted;
+      HistoryStep step = stepAt(isMissing ? Kind::kMissingField : Kind::kNotTaken, line, line.section);
       step.row = step.target = &row;
-      step.positionalLine = positionalLine;
-      if (fileEnded) step.line.clear();
-      step.reason = isMissing ? whyMissing(fileEnded, converted, tail) : std::string(kWhyNotTaken);
-      if (isMissing && absentIsZero) step.after = exact(row.rule.apply(0.0));
-      if (!isMissing) m_hasNotTaken = true;
-      m_steps.push_back(std::move(step));
+      step.address = row.field.locate(line.block);
+      step.positionalLine = line.positionalLine;
+      step.reason = isMissing ? whyMissing(line) : std::string(kWhyNotTaken);
+      if (isMissing && line.section->positional.isAbsentZero(at.line)) step.after = exact(row.rule.apply(0.0));
+      add(row, std::move(step));
     }
   }
-  if (section.positional.versioned && positionalLine == 2) addVersionStep(section);
 }
 
-void History::viscoelasticRefused(int lineNumber, std::string_view reason) {
-  settleList();
+// The version line of a positional section.
+void History::addRefusal(const ReadLine& line) {
+  HistoryStep step = stepAt(Kind::kRefused, line, line.section);
+  const Row& row = *line.section->positional.slots.front().row;
+  step.reason = line.isMissing
+                    ? "the file ends before the version line"
+                    : "version " + exact(line.hits.front().parsed.number) + " instead of " + valueOf(row, line.block);
+  step.order = ++m_steps;
+  m_refusals.push_back(std::move(step));
+}
+
+void History::fileRefused(int lineNumber, std::string_view text, std::string_view reason) {
+  ReadLine line;
+  line.number = lineNumber;
+  line.text = text;
   for (const Section& section : tableOf<CZEBCMPVEParm>().sections) {
-    HistoryStep step = stepAt(Kind::kRefused, &section, lineNumber);
-    // What line 8 says is judged when line 9 has been read.
-    if (lineNumber == m_lineNumber - 1) step.line = m_lineBefore;
-    if (lineNumber == 0 || lineNumber > m_lineNumber) step.line.clear();
+    HistoryStep step = stepAt(Kind::kRefused, line, &section);
     step.reason = std::string(reason) + "; what its lines have set is set back";
-    m_steps.push_back(std::move(step));
+    step.order = ++m_steps;
+    m_refusals.push_back(std::move(step));
   }
 }
 
 void History::repaired(const RepairEvent& event) {
-  settleList();
   HistoryStep step;
   step.kind = Kind::kRepair;
-  step.address = event.memberAddress;
+  step.address = event.row->field.locate(event.block);
   step.condition = event.condition;
   step.before = exact(event.before);
   step.after = exact(event.after);
-  m_steps.push_back(step);
+  add(*event.row, std::move(step));
+}
+
+// A file may hold millions of lines; a step is worth keeping for the members that are asked for.
+void History::add(const Row& row, HistoryStep step) {
+  const auto isWanted = [&](const Row* wanted) { return wanted->field.member == row.field.member; };
+  if (!m_wanted.empty() && std::none_of(m_wanted.begin(), m_wanted.end(), isWanted)) return;
+  step.order = ++m_steps;
+  m_chains[{step.address, &row}].add(std::move(step));
 }
 
 }  // namespace zeb

@@ -1,14 +1,14 @@
-// The whole story of every member: each line that touched it, what the reader made of the line, each repair.
+// The whole story of a member: each line that touched it, what the reader made of the line, each repair.
 #pragma once
 
+#include <deque>
 #include <map>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "engine/ReadObserver.hpp"
-#include "inspect/trace/ListTrace.hpp"
+#include "inspect/trace/LineTrace.hpp"
 
 namespace zeb {
 
@@ -22,6 +22,14 @@ struct HistoryStep {
     kRefused,       ///< the section or head is not read
     kRepair,
   };
+  /// Another key that stands in the same line.
+  struct Other {
+    std::string_view key;
+    const Row* row;
+    KeyOutcome outcome;
+    std::string after;
+  };
+
   Kind kind = Kind::kLine;
   const Section* section = nullptr;  ///< null for a repair, and for a head that a version line refuses
   const Row* row = nullptr;          ///< of the key that stood in the line; null for a repair or a refusal
@@ -34,22 +42,30 @@ struct HistoryStep {
   std::string key;   ///< the spelling that matched; empty for a field
   std::string used;  ///< the part of the value text that the conversion took
   std::string left;  ///< the part behind it
+  std::vector<Other> others;
   std::vector<std::string> listLines;
-  int positionalLine = 0;  ///< of a field, counted in its section
-  std::string reason;      ///< of a field or section that is not read
-  std::string condition;   ///< of a repair
-  std::string before;      ///< of a repair: the member's value, exactly
-  std::string after;       ///< the member's value behind the step; empty where it is known only to be unchanged
+  int positionalLine = 0;   ///< of a field, counted in its section
+  std::string reason;       ///< of a field or section that is not read
+  std::string condition;    ///< of a repair
+  std::string before;       ///< of a repair: the member's value, exactly
+  std::string after;        ///< the member's value behind the step; empty where it is known only to be unchanged
+  std::size_t order = 0;    ///< among all steps
+  std::size_t leftOut = 0;  ///< steps of the member before this one that are not kept
 
   /// Whether the step gave the member a value, be it the same.
-  bool sets() const { return !after.empty() && (outcome == KeyOutcome::kStored || outcome == KeyOutcome::kRefused); }
+  bool sets() const {
+    return !after.empty() && outcome != KeyOutcome::kUnparsed && outcome != KeyOutcome::kGated &&
+           outcome != KeyOutcome::kNotStored;
+  }
 };
 
+/// Of a member that is set very often only the first and the last kMostSteps steps are kept.
+///
 /// Records while a file is read and repaired; ask afterwards, as long as the parameter set lives.
-class History final : public ReadObserver {
+class History final : public TraceReader {
  public:
   History() = default;
-  /// Keeps only the lines that touch these members, whatever else they hold.
+  /// Keeps only what happens to these members.
   explicit History(std::vector<const Row*> wanted) : m_wanted(std::move(wanted)) {}
 
   /// Of a row that is one element of an array: its own key's steps, or also those of the other elements' keys.
@@ -57,59 +73,42 @@ class History final : public ReadObserver {
 
   /// The steps of the row's member in `block`, in order, with those that set the whole array.
   std::vector<const HistoryStep*> stepsOf(const Row& row, void* block, Elements elements = Elements::kOwn) const;
-  /// The other keys that stand in the line of the step.
-  std::vector<const HistoryStep*> othersOf(const HistoryStep& step) const;
   /// The lines that opened the section, in order.
   std::vector<int> openings(const Section& section) const;
 
+  bool wantsValues() const override { return true; }
   void fileStarted(std::string_view fileName) override;
-  void lineRead(int lineNumber, std::string_view line) override;
-  void versionRead(int lineNumber, std::string_view line, bool parsed, int version) override;
-  void sectionOpened(const Section& section, int lineNumber) override;
-  void sectionClosed(const Section& section, int lineNumber) override;
-  void sectionUnclosed(const Section& section, int lineNumber) override;
-  void sectionRefused(const Section& section, int lineNumber, int version) override;
-  void keyFound(const KeyEvent& event) override;
-  void fieldNotTaken(const KeyEvent& event) override;
-  void lineOfList(const Section& section, int lineNumber, std::string_view line, bool used) override;
-  void linePositional(const Section& section, int lineNumber, int positionalLine, int converted, int expected,
-                      std::string_view tail) override;
-  void viscoelasticRefused(int lineNumber, std::string_view reason) override;
+  void line(const ReadLine& line) override;
+  void fileRefused(int lineNumber, std::string_view text, std::string_view reason) override;
   void repaired(const RepairEvent& event) override;
 
  private:
-  struct Opening {
-    const Section* section;
-    int lineNumber;
+  static constexpr std::size_t kMostSteps = 1000;
+  // What happened to one member by one of its rows.
+  struct Chain {
+    std::vector<HistoryStep> first;
+    std::deque<HistoryStep> last;
+    void add(HistoryStep step);
   };
 
-  HistoryStep stepAt(HistoryStep::Kind kind, const Section* section, int lineNumber) const;
-  HistoryStep stepOf(const KeyEvent& event) const;
-  // Whether a field of the line just read has set the row's member.
-  bool isSetBy(int lineNumber, const Row& row) const;
-  void takeBack(const KeyEvent& event);
-  void forgetUnwanted();
-  void addVersionStep(const Section& section);
-  void addListStep(const Row& row, void* block, const std::vector<ListTrace::Line>& lines, std::string after);
-  // A list's members are complete only when the next thing happens.
-  void settleList();
+  HistoryStep stepAt(HistoryStep::Kind kind, const ReadLine& line, const Section* section) const;
+  HistoryStep stepOf(const Hit& hit, const ReadLine& line) const;
+  std::vector<HistoryStep::Other> othersOf(const Row& row) const;
+  void addHits(const ReadLine& line);
+  void addList(const ListTaken& list, const ReadLine& line);
+  void addUnreadFields(const ReadLine& line);
+  void addRefusal(const ReadLine& line);
+  void add(const Row& row, HistoryStep step);
 
   std::vector<const Row*> m_wanted;  // empty: all
-  std::vector<HistoryStep> m_steps;
-  std::size_t m_decided = 0;  // of the steps: they stay
-  std::vector<Opening> m_openings;
-  ListTrace m_list;
-  HistoryStep m_listStep;                          // of the key that announced the open list
-  std::map<const Row*, std::string> m_listValues;  // before the line behind that key, which may set elements
-  bool m_listIsNew = false;
-  HistoryStep m_versionStep;  // of the line behind the opening just read
-  bool m_isOpening = false;   // since the last line
+  std::map<std::pair<const void*, const Row*>, Chain> m_chains;
+  std::vector<HistoryStep> m_refusals;
+  std::vector<std::pair<const Section*, int>> m_openings;
+  std::size_t m_steps = 0;
+  int m_keysLine = 0;
+  std::vector<HistoryStep::Other> m_keys;  // of the line m_keysLine
   int m_filesStarted = 0;
   std::string m_laterFile;
-  std::string m_line, m_lineBefore;
-  int m_lineNumber = 0;
-  bool m_lineIsNew = false;    // since the last positional line
-  bool m_hasNotTaken = false;  // among the steps of the head just read
 };
 
 }  // namespace zeb

@@ -5,6 +5,19 @@
 
 namespace zeb {
 
+namespace {
+
+// Blocks of one section each, named by it.
+std::vector<BlockView> viewsOf(std::span<const DispatchEntry> entries, std::span<const BlockTable* const> tables) {
+  std::vector<BlockView> views;
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    views.push_back({std::string(entries[i].section->name), tables[i], entries[i].block});
+  }
+  return views;
+}
+
+}  // namespace
+
 bool equalWithoutCase(std::string_view a, std::string_view b) {
   const auto same = [](char x, char y) {
     return std::tolower(static_cast<unsigned char>(x)) == std::tolower(static_cast<unsigned char>(y));
@@ -24,24 +37,11 @@ std::vector<BlockView> blocksOf(const CZEBKNCMPCompParm& set) {
 }
 
 std::vector<BlockView> blocksOf(const CZEBKNCMXCompParm& set) {
-  const CZEBCMXInternalTool& tool = Inspection::tool(set);
-  std::vector<BlockView> views;
-  for (std::size_t i = 0; i < tool.sections().size(); ++i) {
-    const DispatchEntry& entry = tool.sections()[i];
-    views.push_back({std::string(entry.section->name), CZEBCMXInternalTool::tables()[i], entry.block});
-  }
-  return views;
+  return viewsOf(Inspection::tool(set).sections(), CZEBCMXInternalTool::tables());
 }
 
 std::vector<BlockView> blocksOf(const CZEBKNstdCMPCompParm& set) {
-  const StdParameters& parameters = Inspection::parameters(set);
-  const auto tables = StdParameters::tables();
-  std::vector<BlockView> views{{std::string(parameters.head().section->name), tables[0], parameters.head().block}};
-  for (std::size_t i = 0; i < parameters.sections().size(); ++i) {
-    const DispatchEntry& entry = parameters.sections()[i];
-    views.push_back({std::string(entry.section->name), tables[i + 1], entry.block});
-  }
-  return views;
+  return viewsOf(Inspection::parameters(set).sections(), StdParameters::tables());
 }
 
 std::string blockName(std::string_view className) {

@@ -5,7 +5,7 @@
 
 #include "inspect/check/Check.hpp"
 #include "inspect/check/DiagnosticOutput.hpp"
-#include "inspect/check/RulesManual.hpp"
+#include "inspect/check/Manual.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/Terminal.hpp"
@@ -83,7 +83,7 @@ void addCheck(CLI::App& app, int& exitCode) {
   command->add_option("FILE", arguments->files, "The parameter files");
   arguments->analysis.addKindTo(*command);
   std::vector<std::string> ids;
-  for (const zeb::RuleInfo& rule : zeb::checkRules()) ids.emplace_back(rule.id);
+  for (const zeb::CheckRule* rule : zeb::checkRules()) ids.emplace_back(rule->id);
   const auto addRules = [&](const char* name, std::vector<std::string>& rules, const char* about) {
     command->add_option(name, rules, about)
         ->type_name("RULE")

@@ -3,8 +3,8 @@
 #include <memory>
 #include <optional>
 
-#include "inspect/explain/Provenance.hpp"
-#include "inspect/set/Difference.hpp"
+#include "inspect/explain/Difference.hpp"
+#include "inspect/explain/Origins.hpp"
 #include "inspect/set/OutputCapture.hpp"
 #include "inspect/set/ParameterFile.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
@@ -29,7 +29,7 @@ struct Side {
   AnalysisArguments analysis;
   zeb::FileKind kind = zeb::FileKind::kCmp;
   zeb::ParameterFile file;
-  zeb::Provenance provenance;
+  zeb::Origins origins;
   std::vector<zeb::BlockSettings> settings;
 
   std::string title() const { return analysis.file + " (" + analysis.readAs(kind) + ")"; }
@@ -37,8 +37,8 @@ struct Side {
 
 void read(Side& side) {
   const zeb::OutputCapture discarded;
-  side.file = zeb::readParameterFile(side.analysis.file, side.kind, side.analysis.options, nullptr, &side.provenance);
-  side.settings = zeb::settingsOf(side.file.blocks(), &side.provenance);
+  side.file = zeb::readTraced(side.analysis.file, side.kind, side.analysis.options, nullptr, side.origins);
+  side.settings = zeb::settingsOf(side.file.blocks(), &side.origins);
 }
 
 Json sideOf(const zeb::Setting& setting) {
@@ -96,7 +96,7 @@ int run(const DiffArguments& arguments) {
   read(a);
   read(b);
   for (const Side* side : {&a, &b}) {
-    const std::string& refusal = side->provenance.refusal();
+    const std::string& refusal = side->origins.refusal();
     if (!refusal.empty()) std::cerr << "compparm: the viscoelastic file is not taken: " << refusal << '\n';
   }
   const auto differences = zeb::differencesOf(a.settings, b.settings, arguments.tolerance);

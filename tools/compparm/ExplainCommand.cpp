@@ -5,8 +5,8 @@
 
 #include "inspect/catalogue/Catalogue.hpp"
 #include "inspect/explain/History.hpp"
+#include "inspect/explain/Settings.hpp"
 #include "inspect/set/OutputCapture.hpp"
-#include "inspect/set/Settings.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"
@@ -30,8 +30,8 @@ struct Explained {
   std::vector<const zeb::CatalogueEntry*> elements;  // of an array asked for as a whole; empty: the entry alone
 
   bool isArray() const { return !elements.empty(); }
-  std::string_view description() const {
-    return isArray() ? "An array; each of the keys sets one element." : entry->row->doc;
+  std::string description() const {
+    return isArray() ? "An array; each of the keys sets one element." : zeb::describe(*entry->row);
   }
   std::string type() const { return isArray() ? "doubles" : zeb::typeText(*entry->row); }
   std::vector<const zeb::HistoryStep*> steps(const zeb::History& history) const {
@@ -43,6 +43,7 @@ struct Explained {
 std::string_view outcomeText(zeb::KeyOutcome outcome) {
   switch (outcome) {
     case zeb::KeyOutcome::kStored:
+    case zeb::KeyOutcome::kConfirmed:
       return "stored";
     case zeb::KeyOutcome::kUnparsed:
       return "no value of this type: ignored";
@@ -50,6 +51,8 @@ std::string_view outcomeText(zeb::KeyOutcome outcome) {
       return "the section's gate is closed: ignored";
     case zeb::KeyOutcome::kNotStored:
       return "nothing to store it in: ignored";
+    case zeb::KeyOutcome::kNotTaken:
+      return "the value is not taken";
     case zeb::KeyOutcome::kRefused:
       return "no valid count: 0 is stored";
   }
@@ -100,18 +103,18 @@ std::string reasonText(const zeb::HistoryStep& step, const Explained& explained)
          " alone";
 }
 
-Json sameLine(const zeb::HistoryStep& step, const zeb::History& history) {
+Json sameLine(const zeb::HistoryStep& step) {
   Json others = Json::array();
-  for (const zeb::HistoryStep* other : history.othersOf(step)) {
-    others.push_back({{"key", other->key},
-                      {"member", other->target->field.member},
-                      {"value", jsonOf(*other->target, other->after)},
-                      {"outcome", outcomeText(other->outcome)}});
+  for (const zeb::HistoryStep::Other& other : step.others) {
+    others.push_back({{"key", other.key},
+                      {"member", other.row->field.member},
+                      {"value", jsonOf(*other.row, other.after)},
+                      {"outcome", outcomeText(other.outcome)}});
   }
   return others;
 }
 
-Json jsonStep(const zeb::HistoryStep& step, const Explained& explained, const zeb::History& history) {
+Json jsonStep(const zeb::HistoryStep& step, const Explained& explained) {
   using Kind = zeb::HistoryStep::Kind;
   const zeb::Row& row = *explained.entry->row;
   Json json = {{"kind", kindText(step.kind)}};
@@ -137,7 +140,7 @@ Json jsonStep(const zeb::HistoryStep& step, const Explained& explained, const ze
     const auto rules = zeb::ruleTexts(*step.section, *step.row);
     if (!rules.empty()) json["rules"] = rules;
   }
-  Json others = sameLine(step, history);
+  Json others = sameLine(step);
   if (!others.empty()) json["sameLine"] = std::move(others);
   if (!step.after.empty()) json["value"] = jsonOf(row, step.after);
   return json;
@@ -145,7 +148,7 @@ Json jsonStep(const zeb::HistoryStep& step, const Explained& explained, const ze
 
 // Whether the value is none of those that the steps, the default before them, have given.
 bool isDerived(const Explained& explained, const std::vector<const zeb::HistoryStep*>& steps) {
-  if (explained.entry->row->store != nullptr) return false;
+  if (explained.entry->row->isElement()) return false;
   const std::string value = zeb::valueOf(*explained.entry->row, explained.block);
   return value != explained.entry->defaultValue &&
          std::none_of(steps.begin(), steps.end(), [&](const zeb::HistoryStep* step) { return step->after == value; });
@@ -156,7 +159,7 @@ Json describe(const Explained& explained, const zeb::History& history) {
   const zeb::Row& row = *entry.row;
   Json chain = Json::array();
   for (const zeb::HistoryStep* step : explained.steps(history)) {
-    chain.push_back(jsonStep(*step, explained, history));
+    chain.push_back(jsonStep(*step, explained));
   }
   Json json = {{"block", entry.block},           {"class", entry.table->className},
                {"section", entry.sectionText()}, {"sectionLines", history.openings(*entry.section)},
@@ -204,15 +207,16 @@ std::string parsedText(const zeb::HistoryStep& step) {
   return text;
 }
 
-void printOthers(const zeb::HistoryStep& step, const zeb::History& history) {
-  for (const zeb::HistoryStep* other : history.othersOf(step)) {
-    std::cout << coloured(Colour::kYellow, "      the same line holds " + other->key + " (" +
-                                               std::string(other->target->field.member) + "): ")
-              << (other->sets() ? printable(other->after) : std::string(outcomeText(other->outcome))) << '\n';
+void printOthers(const zeb::HistoryStep& step) {
+  for (const zeb::HistoryStep::Other& other : step.others) {
+    const bool sets = other.outcome == zeb::KeyOutcome::kStored || other.outcome == zeb::KeyOutcome::kRefused;
+    std::cout << coloured(Colour::kYellow, "      the same line holds " + std::string(other.key) + " (" +
+                                               std::string(other.row->field.member) + "): ")
+              << (sets ? printable(other.after) : std::string(outcomeText(other.outcome))) << '\n';
   }
 }
 
-void printLineStep(const zeb::HistoryStep& step, const Explained& explained, const zeb::History& history) {
+void printLineStep(const zeb::HistoryStep& step, const Explained& explained) {
   using Kind = zeb::HistoryStep::Kind;
   std::cout << "  " << coloured(Colour::kCyan, place(step)) << "  " << printable(step.line) << "\n      ";
   if (step.positionalLine > 0) std::cout << fieldText(step) << ": ";
@@ -229,18 +233,19 @@ void printLineStep(const zeb::HistoryStep& step, const Explained& explained, con
     case Kind::kList:
       std::cout << (step.key.empty() ? "set by the list" : "set by the list of " + step.key);
       for (const std::string& line : step.listLines) std::cout << "\n        " << printable(line);
-      if (step.row->lines.sumsToOne)
+      if (step.row->list.lastIsRest)
         std::cout << "\n        the last one is one minus the others, whatever its line says";
       break;
     default:
       std::cout << (step.reason.empty() ? parsedText(step) : step.reason);
-      if (step.outcome != zeb::KeyOutcome::kStored) std::cout << "; " << outcomeText(step.outcome);
+      if (step.outcome != zeb::KeyOutcome::kStored && step.outcome != zeb::KeyOutcome::kConfirmed)
+        std::cout << "; " << outcomeText(step.outcome);
   }
   if (step.kind == Kind::kLine && step.sets() && !step.row->rule.none()) {
     std::cout << "; " << zeb::joined(zeb::ruleTexts(*step.section, *step.row));
   }
   std::cout << '\n';
-  printOthers(step, history);
+  printOthers(step);
 }
 
 // Whether a file has a place for the member.
@@ -270,7 +275,7 @@ void printText(const Explained& explained, const zeb::History& history) {
       std::cout << "  " << coloured(Colour::kCyan, "repair") << "  " << step->condition
                 << (step->before == step->after ? ": nothing to change" : "") << '\n';
     } else {
-      printLineStep(*step, explained, history);
+      printLineStep(*step, explained);
       touched = true;
     }
     if (!step->after.empty()) std::cout << "      -> " << printable(step->after) << '\n';
@@ -286,8 +291,7 @@ void printText(const Explained& explained, const zeb::History& history) {
 
 bool isOneArray(const Explained& explained, const zeb::CatalogueEntry& entry, void* block) {
   const zeb::Row &first = *explained.entry->row, &other = *entry.row;
-  return first.store != nullptr && other.store != nullptr &&
-         first.field.locate(explained.block) == other.field.locate(block);
+  return first.isElement() && other.isElement() && first.field.locate(explained.block) == other.field.locate(block);
 }
 
 // Elements of one array are told as the array.
@@ -337,7 +341,7 @@ int run(const ExplainArguments& arguments) {
   zeb::ParameterFile file;
   {
     const zeb::OutputCapture discarded;
-    file = zeb::readParameterFile(arguments.analysis.file, kind, arguments.analysis.options, nullptr, &history);
+    file = zeb::readTraced(arguments.analysis.file, kind, arguments.analysis.options, nullptr, history);
   }
   const std::vector<Explained> all = explainedIn(file, entries, arguments);
   if (arguments.format == "json") {

@@ -53,7 +53,7 @@ std::vector<std::string> parameterNames() {
 
 std::vector<std::string> ruleIds() {
   std::vector<std::string> ids;
-  for (const zeb::RuleInfo& rule : zeb::checkRules()) ids.emplace_back(rule.id);
+  for (const zeb::CheckRule* rule : zeb::checkRules()) ids.emplace_back(rule->id);
   return ids;
 }
 

@@ -5,7 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "inspect/set/Settings.hpp"
+#include "inspect/explain/Settings.hpp"
 
 namespace compparm {
 

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "inspect/catalogue/Catalogue.hpp"
+#include "inspect/set/Values.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"
@@ -25,12 +26,17 @@ void printJson(const Entries& entries) {
   Json list = Json::array();
   for (const zeb::CatalogueEntry* entry : entries) {
     const zeb::Row& row = *entry->row;
-    Json json = {{"format", entry->format},    {"section", entry->sectionText()},
-                 {"block", entry->block},      {"class", entry->table->className},
-                 {"member", row.field.member}, {"getter", row.field.getter},
-                 {"type", zeb::typeText(row)}, {"default", jsonOf(row, entry->defaultValue)},
-                 {"unit", row.unit},           {"rules", zeb::ruleTexts(*entry)},
-                 {"description", row.doc}};
+    Json json = {{"format", entry->format},
+                 {"section", entry->sectionText()},
+                 {"block", entry->block},
+                 {"class", entry->table->className},
+                 {"member", row.field.member},
+                 {"getter", row.field.getter},
+                 {"type", zeb::typeText(row)},
+                 {"default", jsonOf(row, entry->defaultValue)},
+                 {"unit", row.unit},
+                 {"rules", zeb::ruleTexts(*entry)},
+                 {"description", zeb::describe(row)}};
     if (!row.key.empty()) json["key"] = row.key;
     if (!row.otherKey.empty()) json["otherKey"] = row.otherKey;
     if (row.at[0].line > 0) json["position"] = zeb::positionText(row);
@@ -65,7 +71,7 @@ void printText(const Entries& entries) {
     if (!rules.empty()) facts += "; " + rules;
     std::cout << "  " << coloured(Colour::kCyan, padded(keyOf(row), keyWidth)) << "  "
               << padded(row.field.member, memberWidth) << "  " << facts << '\n';
-    if (!row.doc.empty()) std::cout << "      " << coloured(Colour::kDim, row.doc) << '\n';
+    std::cout << "      " << coloured(Colour::kDim, zeb::describe(row)) << '\n';
   }
   std::cout << (section == nullptr ? "" : "\n") << entries.size()
             << (entries.size() == 1 ? " parameter.\n" : " parameters.\n");

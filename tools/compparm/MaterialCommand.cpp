@@ -5,8 +5,8 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
+#include "inspect/explain/Settings.hpp"
 #include "inspect/set/OutputCapture.hpp"
-#include "inspect/set/Settings.hpp"
 #include "material/CZEBKNMaterialParam.h"
 #include "standalone/MaterialEngine.h"
 #include "tools/compparm/Commands.hpp"

@@ -4,10 +4,10 @@
 #include <memory>
 #include <sstream>
 
-#include "inspect/explain/Provenance.hpp"
+#include "inspect/explain/Origins.hpp"
+#include "inspect/explain/Settings.hpp"
 #include "inspect/set/OutputCapture.hpp"
 #include "inspect/set/ParameterFile.hpp"
-#include "inspect/set/Settings.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"
@@ -170,18 +170,18 @@ std::vector<std::string> namesOf(const zeb::ParameterFile& set) {
   return names;
 }
 
-// Reads on this rank and, where wanted, on others; afterwards `provenance` knows where this rank's values came from.
+// Reads on this rank and, where wanted, on others; afterwards `origins` knows where this rank's values came from.
 struct Reading {
   zeb::ParameterFile set;
   RankComparison ranks;
 };
 
-Reading read(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* mpi, zeb::Provenance& provenance) {
+Reading read(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* mpi, zeb::Origins& origins) {
   Reading reading;
   const auto& analysis = arguments.analysis;
   const auto onRank = [&](CZEBCom& com) {
-    zeb::ReadObserver* observer = com.GetCPUId() == 0 ? &provenance : nullptr;
-    auto set = zeb::readParameterFile(analysis.file, kind, analysis.options, &com, observer);
+    auto set = com.GetCPUId() == 0 ? zeb::readTraced(analysis.file, kind, analysis.options, &com, origins)
+                                   : zeb::readParameterFile(analysis.file, kind, analysis.options, &com, nullptr);
     std::string values = zeb::fingerprint(set.blocks());
     if (com.GetCPUId() == 0) reading.set = std::move(set);
     return values;
@@ -191,7 +191,7 @@ Reading read(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* m
   } else if (arguments.ranks > 1) {
     reading.ranks = compareThreads(arguments.ranks, onRank);
   } else {
-    reading.set = zeb::readParameterFile(analysis.file, kind, analysis.options, nullptr, &provenance);
+    reading.set = zeb::readTraced(analysis.file, kind, analysis.options, nullptr, origins);
   }
   return reading;
 }
@@ -207,12 +207,12 @@ std::string withoutLineEcho(const std::string& text) {
 }
 
 int show(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* mpi) {
-  zeb::Provenance provenance;
+  zeb::Origins origins;
   Reading reading;
   Shown shown;
   {
     const zeb::OutputCapture capture;
-    reading = read(arguments, kind, mpi, provenance);
+    reading = read(arguments, kind, mpi, origins);
     shown.messages = kind == zeb::FileKind::kStd ? withoutLineEcho(capture.text()) : capture.text();
   }
   const int exitCode = reading.ranks.same() ? kClean : kFindings;
@@ -226,12 +226,12 @@ int show(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* mpi) 
     if (!reading.ranks.same()) return fail("the ranks differ: " + reading.ranks.difference), kFindings;
     return exitCode;
   }
-  shown.blocks = zeb::settingsOf(chosenBlocks(arguments, reading.set), &provenance);
+  shown.blocks = zeb::settingsOf(chosenBlocks(arguments, reading.set), &origins);
   shown.kind = kind;
-  shown.lines = provenance.linesRead();
-  shown.hasSections = provenance.hasSections();
+  shown.lines = origins.linesRead();
+  shown.hasSections = origins.hasSections();
   shown.ranks = reading.ranks;
-  shown.refusal = provenance.refusal();
+  shown.refusal = origins.refusal();
   if (arguments.changedOnly) {
     for (zeb::BlockSettings& block : shown.blocks) {
       std::erase_if(block.settings, [](const zeb::Setting& setting) { return !setting.isChanged(); });

@@ -9,10 +9,11 @@
 
 namespace zeb {
 
+constexpr std::size_t kLongestShown = 60;
+
 /// In single quotation marks, the end of a long text left out.
 inline std::string quoted(std::string_view text) {
-  constexpr std::size_t kLongest = 60;
-  return "'" + std::string(text.substr(0, kLongest)) + (text.size() > kLongest ? "..." : "") + "'";
+  return "'" + std::string(text.substr(0, kLongestShown)) + (text.size() > kLongestShown ? "..." : "") + "'";
 }
 
 inline std::string number(double value) {
@@ -21,10 +22,10 @@ inline std::string number(double value) {
   return text;
 }
 
-/// Of a part of the line, where the same text may stand further in front, too.
-inline std::size_t offsetIn(std::string_view line, std::string_view part) {
-  return part.empty() ? 0 : static_cast<std::size_t>(part.data() - line.data());
-}
+/// Where something stands in a line, or its start.
+inline std::size_t orStart(std::size_t at) { return at == std::string_view::npos ? 0 : at; }
+
+inline bool isInt(const Row& row) { return row.field.type == FieldType::kInt || row.lookup == Lookup::kInt; }
 
 /// What becomes of a count that the reader refuses.
 inline std::string countRefused() {

@@ -1,8 +1,8 @@
-#include "inspect/check/RulesManual.hpp"
+#include "inspect/check/Manual.hpp"
 
 #include <algorithm>
 
-#include "frame/MoldingTypes.hpp"
+#include "inspect/check/Rules.hpp"
 
 namespace zeb {
 
@@ -41,12 +41,13 @@ std::string codeBlock(std::string_view content) {
   return text + "```\n";
 }
 
-std::string fileText(const std::string& content, const std::string& companion) {
+std::string fileText(std::string_view content, std::string_view companion) {
   if (companion.empty()) return codeBlock(content);
   return codeBlock(content) + "\nwith `part.vecmp`\n\n" + codeBlock(companion);
 }
 
-std::string finding(const RuleExample& example, const RuleInfo& rule) {
+std::string finding(const CheckRule& rule) {
+  const RuleExample& example = rule.example;
   std::string text = std::string(example.badCompanion.empty() ? example.badName : "part.vecmp");
   if (example.line > 0) text += ":" + std::to_string(example.line) + ":" + std::to_string(example.column);
   text += ": warning: " + std::string(example.message) + " [" + std::string(rule.id) + "]";
@@ -54,14 +55,6 @@ std::string finding(const RuleExample& example, const RuleInfo& rule) {
 }
 
 }  // namespace
-
-std::string RuleExample::options() const {
-  std::string all;
-  if (molding != 0) all += "--molding " + std::string(moldingTypes()[static_cast<std::size_t>(molding)].name) + " ";
-  if (isViscoelastic()) all += "--viscoelastic ";
-  if (!info(rule).byDefault) all += "-W " + std::string(info(rule).id) + " ";
-  return all;
-}
 
 std::string rulesMarkdown() {
   std::string text =
@@ -72,14 +65,13 @@ std::string rulesMarkdown() {
       "rule "
       "is\nshown with a file in which it is found and one in which nothing is. Bytes that an editor does not show are "
       "written\n`\\r`, `\\t` and `\\x00`.\n";
-  for (const RuleExample& example : ruleExamples()) {
-    const RuleInfo& rule = info(example.rule);
-    text +=
-        "\n## " + std::string(rule.id) + "\n\n" + std::string(rule.about) + " " + std::string(example.text) + "\n\n";
-    if (const std::string options = example.options(); !options.empty()) {
+  for (const CheckRule* rule : checkRules()) {
+    const RuleExample& example = rule->example;
+    text += "\n## " + std::string(rule->id) + "\n\n" + std::string(rule->about) + " " + std::string(rule->why) + "\n\n";
+    if (const std::string options = exampleOptions(*rule); !options.empty()) {
       text += "With `compparm check " + options + std::string(example.badName) + "`:\n\n";
     }
-    text += "Bad:\n\n" + fileText(example.bad, example.badCompanion) + "\n" + finding(example, rule) + "\n\nGood:\n\n" +
+    text += "Bad:\n\n" + fileText(example.bad, example.badCompanion) + "\n" + finding(*rule) + "\n\nGood:\n\n" +
             fileText(example.good, example.goodCompanion);
   }
   return text;

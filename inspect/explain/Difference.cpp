@@ -1,4 +1,4 @@
-#include "inspect/set/Difference.hpp"
+#include "inspect/explain/Difference.hpp"
 
 #include <algorithm>
 #include <charconv>

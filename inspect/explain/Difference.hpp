@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "inspect/set/Settings.hpp"
+#include "inspect/explain/Settings.hpp"
 
 namespace zeb {
 

@@ -1,4 +1,4 @@
-#include "inspect/check/CheckNames.hpp"
+#include "inspect/check/KnownNames.hpp"
 
 #include <algorithm>
 
@@ -27,39 +27,6 @@ bool isNumber(std::string_view text) {
 }
 
 }  // namespace
-
-std::string_view trimmed(std::string_view text) {
-  constexpr std::string_view kBlank = " \t\r\v\f";
-  const auto first = text.find_first_not_of(kBlank);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlank) - first + 1);
-}
-
-bool isComment(std::string_view line) {
-  line = trimmed(line);
-  return line.starts_with('#') || line.starts_with(';') || line.starts_with('*') || line.starts_with("//");
-}
-
-std::string_view nameOf(std::string_view line) {
-  const auto equals = line.find('=');
-  const std::string_view name = trimmed(line.substr(0, equals));
-  return equals != line.npos ? name : name.substr(0, name.find_first_of(" \t"));
-}
-
-Tag tagOf(std::string_view line, char bracket) {
-  line = trimmed(line);
-  if (!line.starts_with(bracket)) return {};
-  Tag tag;
-  const auto end = line.find(bracket == '<' ? '>' : ']');
-  tag.whole = end != line.npos;
-  // Without its end only a single word passes for a tag.
-  if (!tag.whole && line.find_first_of(" \t=") != line.npos) return {};
-  tag.text = tag.whole ? line.substr(0, end + 1) : line;
-  tag.name = line.substr(1, tag.whole ? end - 1 : line.npos);
-  tag.closes = tag.name.starts_with('/');
-  if (tag.closes) tag.name.remove_prefix(1);
-  return tag;
-}
 
 KnownNames::KnownNames(char bracket, std::span<const BlockTable* const> tables) : m_bracket(bracket) {
   for (const BlockTable* table : tables) {
@@ -143,7 +110,8 @@ bool hasKey(const Section& section, std::string_view name) {
 
 bool isListWord(const Section& section, std::string_view name) {
   return !name.empty() && std::any_of(section.rows.begin(), section.rows.end(), [&](const Row& row) {
-    return name == row.lines.countName || name == row.lines.entryName || (row.lines.numbered && isNumber(name));
+    return name == row.list.countName || name == row.list.entryName ||
+           (row.list.entry == Entry::kNumbered && isNumber(name));
   });
 }
 

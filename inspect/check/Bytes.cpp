@@ -1,5 +1,6 @@
-#include "inspect/check/CheckRawFile.hpp"
+#include "inspect/check/Bytes.hpp"
 
+#include <array>
 #include <cstdint>
 #include <fstream>
 #include <memory>
@@ -7,6 +8,72 @@
 #include "engine/LineSource.hpp"
 
 namespace zeb {
+
+using namespace std::string_view_literals;
+
+namespace {
+
+// A comment of so many bytes, with its line end.
+template <std::size_t Bytes>
+constexpr auto commentOf() {
+  std::array<char, Bytes + 1> text{};
+  text.fill('x');
+  text[0] = '#';
+  text[1] = ' ';
+  text[Bytes] = '\n';
+  return text;
+}
+constexpr auto kLongestLine = commentOf<ZEBLINE_MAX - 1>();
+constexpr auto kTooLongLine = commentOf<ZEBLINE_MAX>();
+constexpr std::string_view kLongest(kLongestLine.data(), kLongestLine.size());
+constexpr std::string_view kTooLong(kTooLongLine.data(), kTooLongLine.size());
+
+}  // namespace
+
+const CheckRule kLineTooLong{
+    "line-too-long",
+    "A line is longer than 254 characters and is cut in parallel runs.",
+    "shorten the line",
+    "Ranks share lines of at most 254 bytes. A longer one is read whole in serial and cut in parallel.",
+    {kTooLong, 1, 255, "the line has 255 bytes; in parallel it is cut here, behind the first 254", kLongest}};
+
+const CheckRule kCarriageReturn{
+    "carriage-return",
+    "The file holds carriage returns.",
+    "save with LF line ends",
+    "Files are opened as text, where CR LF ends a line as LF does. A CR elsewhere is part of its line, "
+    "and of a text value that ends there.",
+    {"# text\r\n", 1, 7,
+     "1 line ends in CR LF; where the host's opener does not remove the CR, it becomes part of text values",
+     "# text\n"}};
+
+const CheckRule kNulByte{"nul-byte",
+                         "A NUL ends its line for the reader.",
+                         "remove the NUL",
+                         "What stands behind it in its line is lost.",
+                         {"# a\000b\n"sv, 1, 4, "a NUL: the reader ignores the rest of the line", "# ab\n"}};
+
+const CheckRule kNoFinalNewline{
+    "no-final-newline",
+    "The last line has no line end.",
+    "end the file with a line end",
+    "The last line is read all the same; but it may be the rest of a file whose end was lost on the way.",
+    {"[ShortShot]\n[/ShortShot]", 2, 13, "the last line has no line end", "[ShortShot]\n[/ShortShot]\n"}};
+
+const CheckRule kByteOrderMark{
+    "byte-order-mark",
+    "The file begins with a byte-order mark.",
+    "save without one",
+    "The three bytes belong to the first line; other programs that read the file may stumble.",
+    {"\357\273\277[ShortShot]\n[/ShortShot]\n", 1, 1, "the file begins with a byte-order mark",
+     "[ShortShot]\nTimeLimit = 2\n[/ShortShot]\n"}};
+
+const CheckRule kNotUtf8{
+    "not-utf8",
+    "Bytes are not UTF-8.",
+    "save as UTF-8",
+    "Names are handed on byte by byte; a name that is not UTF-8 may not be found on another system.",
+    {"# \374\n", 1, 3, "bytes that are not UTF-8", "# \303\274\n"}};
 
 namespace {
 
@@ -59,13 +126,13 @@ class RawFile {
 
   void finish() {
     if (m_length > 0) {
-      m_found.add(CheckRule::kNoFinalNewline, m_line, m_text, m_text.size(), "the last line has no line end");
+      m_found.add(kNoFinalNewline, m_line, m_text, m_text.size(), "the last line has no line end");
       if (m_heldCr && m_loneCr == kNone) m_loneCr = m_length - 1;
       m_heldCr = false;
       endLine();
     }
     if (m_crLines > 0) {
-      m_found.add(CheckRule::kCarriageReturn, m_firstCr,
+      m_found.add(kCarriageReturn, m_firstCr,
                   std::to_string(m_crLines) +
                       (m_crLines == 1 ? " line ends in CR LF" : " lines end in CR LF, this is the first") +
                       "; where the host's opener does not remove the CR, it becomes part of text values");
@@ -75,11 +142,11 @@ class RawFile {
  private:
   static constexpr std::size_t kNone = ~std::size_t{0};
   static constexpr std::size_t kKept = 400;
-  static constexpr std::size_t kLongest = ZEBLINE_MAX - 1;
+  static constexpr std::size_t kMostBytes = ZEBLINE_MAX - 1;
 
   void endLine() {
     if (m_line == 1 && m_text.starts_with("\xEF\xBB\xBF")) {
-      m_found.add(CheckRule::kByteOrderMark, 1, m_text, 0, "the file begins with a byte-order mark");
+      m_found.add(kByteOrderMark, 1, m_text, 0, "the file begins with a byte-order mark");
     }
     if (m_notUtf8 == kNone && !m_utf8.ends()) m_notUtf8 = m_length;
     m_utf8 = Utf8Check();
@@ -89,18 +156,18 @@ class RawFile {
       if (m_crLines++ == 0) m_firstCr = placeIn(m_line, m_text, m_text.size());
     }
     if (m_loneCr != kNone) {
-      m_found.add(CheckRule::kCarriageReturn, m_line, m_text, m_loneCr, "a carriage return inside the line");
+      m_found.add(kCarriageReturn, m_line, m_text, m_loneCr, "a carriage return inside the line");
     }
     if (m_nul != kNone) {
-      m_found.add(CheckRule::kNulByte, m_line, m_text, m_nul, "a NUL: the reader ignores the rest of the line");
+      m_found.add(kNulByte, m_line, m_text, m_nul, "a NUL: the reader ignores the rest of the line");
     }
     if (m_notUtf8 != kNone) {
-      m_found.add(CheckRule::kNotUtf8, m_line, m_text, m_notUtf8, "bytes that are not UTF-8");
+      m_found.add(kNotUtf8, m_line, m_text, m_notUtf8, "bytes that are not UTF-8");
     }
-    if (m_length > kLongest) {
-      m_found.add(CheckRule::kLineTooLong, m_line, m_text, kLongest,
+    if (m_length > kMostBytes) {
+      m_found.add(kLineTooLong, m_line, m_text, kMostBytes,
                   "the line has " + std::to_string(m_length) + " bytes; in parallel it is cut here, behind the first " +
-                      std::to_string(kLongest));
+                      std::to_string(kMostBytes));
     }
     m_text.clear();
     m_length = 0;

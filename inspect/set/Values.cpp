@@ -1,0 +1,50 @@
+#include "inspect/set/Values.hpp"
+
+#include <charconv>
+
+namespace zeb {
+
+namespace {
+
+struct ValueText {
+  std::string operator()(int value) const { return exact(value); }
+  std::string operator()(double value) const { return exact(value); }
+  std::string operator()(bool value) const { return value ? "true" : "false"; }
+  // Copies are asked, as a block keeps for good what it has handed out itself.
+  std::string operator()(OwnedText text) const {
+    return text.get() == nullptr ? "none" : '"' + std::string(text.get()) + '"';
+  }
+  // Entry 0 of the library's arrays is never used, but for the dispenser points, whose rows of three start with entry
+  // 0.
+  template <class Element>
+  std::string operator()(SharedArray<Element> array) const {
+    if (array.get() == nullptr) return "none";
+    std::string text = "[";
+    for (std::size_t i = 1; i < array.size(); ++i) text += (i > 1 ? ", " : "") + exact(array.get()[i]);
+    return text + "]";
+  }
+};
+
+}  // namespace
+
+std::string exact(double value) {
+  char text[40];
+  return {text, std::to_chars(text, text + sizeof text, value).ptr};
+}
+
+std::string exact(int value) { return std::to_string(value); }
+
+std::string valueOf(const Row& row, void* block) { return visit(row.field, block, ValueText()); }
+
+std::string describe(const Row& row) {
+  if (!row.rule.isBounded()) return std::string(row.doc);
+  const double limit = row.rule.takenAbove;
+  const auto fileUnit = row.unit.find("file: ");
+  const bool hasUnit = limit != 0.0 && fileUnit != row.unit.npos;
+  const std::string unit =
+      hasUnit ? " " + std::string(row.unit.substr(fileUnit + 6, row.unit.size() - fileUnit - 7)) : "";
+  return std::string(row.doc.substr(0, row.doc.size() - 1)) + "; only a value above " + exact(limit) + unit +
+         " is taken.";
+}
+
+}  // namespace zeb

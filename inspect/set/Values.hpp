@@ -1,0 +1,21 @@
+// Members as texts, exactly.
+#pragma once
+
+#include <string>
+
+#include "engine/ParameterTable.hpp"
+
+namespace zeb {
+
+/// The shortest text that reads back as the value.
+std::string exact(double value);
+std::string exact(int value);
+
+/// A member's value: texts stand in quotation marks, arrays as "[0.2, 0.5]" (their used entries), a null one as "none",
+/// doubles with as many digits as it takes to read them back unchanged.
+std::string valueOf(const Row& row, void* block);
+
+/// What the member means, and the limit of its value in a head.
+std::string describe(const Row& row);
+
+}  // namespace zeb
