@@ -9,9 +9,9 @@
 
 #include "frame/AllBlocks.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
-#include "standalone/RecordingCommunicator.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/blocks/ChangedLines.hpp"
+#include "tests/support/RecordingCommunicator.h"
 #include "tests/support/TemporaryFile.hpp"
 
 namespace {

@@ -12,8 +12,8 @@
 #include "inspect/set/OutputCapture.hpp"
 #include "inspect/set/Settings.hpp"
 #include "tests/blocks/ReadBlock.hpp"
-#include "tests/frame/PlainDefinition.hpp"
-#include "tests/frame/RandomText.hpp"
+#include "tests/support/PlainDefinition.hpp"
+#include "tests/support/RandomText.hpp"
 #include "tests/support/Tsv.hpp"
 
 namespace {

@@ -15,8 +15,8 @@
 #include <vector>
 
 #include "engine/SectionDispatch.hpp"
-#include "standalone/RecordingCommunicator.h"
-#include "tests/standalone/TestFolder.h"
+#include "tests/support/RecordingCommunicator.h"
+#include "tests/support/TestFolder.hpp"
 
 namespace zebtest {
 

@@ -9,8 +9,8 @@
 #include "frame/CZEBKNCMPCompParm.h"
 #include "frame/MoldingTypes.hpp"
 #include "inspect/set/OutputCapture.hpp"
-#include "standalone/RecordingCommunicator.h"
-#include "tests/frame/ReadSet.hpp"
+#include "tests/support/ReadSet.hpp"
+#include "tests/support/RecordingCommunicator.h"
 #include "tests/support/TemporaryFile.hpp"
 #include "tests/support/Tsv.hpp"
 

@@ -10,10 +10,10 @@
 #include "frame/CZEBCMPInternalTool.hpp"
 #include "frame/KeyLookup.h"
 #include "inspect/set/OutputCapture.hpp"
-#include "standalone/RecordingCommunicator.h"
 #include "tests/blocks/ReadBlock.hpp"
-#include "tests/frame/ReadSet.hpp"
 #include "tests/ranks/RankReading.hpp"
+#include "tests/support/ReadSet.hpp"
+#include "tests/support/RecordingCommunicator.h"
 #include "tests/support/Tsv.hpp"
 
 namespace {

@@ -5,7 +5,7 @@
 
 #include "engine/KeyFilter.hpp"
 #include "frame/CZEBCMPInternalTool.hpp"
-#include "tests/frame/RandomText.hpp"
+#include "tests/support/RandomText.hpp"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <cstdint>
 
 #include "frame/KeyLookup.h"
-#include "tests/frame/PlainDefinition.hpp"
-#include "tests/frame/RandomText.hpp"
+#include "tests/support/PlainDefinition.hpp"
+#include "tests/support/RandomText.hpp"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include "engine/LineSource.hpp"
 #include "frame/MoldingTypes.hpp"
 #include "inspect/set/OutputCapture.hpp"
-#include "standalone/RecordingCommunicator.h"
 #include "standalone/ThreadCommunicator.h"
+#include "tests/support/RecordingCommunicator.h"
 #include "tests/support/TemporaryFile.hpp"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <limits>
 
 #include "engine/ValueText.hpp"
-#include "tests/frame/RandomText.hpp"
+#include "tests/support/RandomText.hpp"
 
 namespace {
 

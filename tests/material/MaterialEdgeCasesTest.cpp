@@ -12,12 +12,12 @@
 
 #include "material/CZEBKNMaterialParam.h"
 #include "material/CZEBKNProcessParam.h"
-#include "standalone/RecordingCommunicator.h"
 #include "tests/material/FakeEngine.h"
 #include "tests/material/FakeProcess.h"
 #include "tests/material/MaterialExamples.h"
 #include "tests/material/RecordText.hpp"
 #include "tests/material/WatchedRank.h"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace {
 

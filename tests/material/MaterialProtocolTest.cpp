@@ -6,11 +6,11 @@
 #include <vector>
 
 #include "material/CZEBKNMaterialParam.h"
-#include "standalone/RecordingCommunicator.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/material/FakeEngine.h"
 #include "tests/material/MaterialExamples.h"
 #include "tests/material/RecordText.hpp"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace {
 

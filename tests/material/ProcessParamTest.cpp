@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "material/CZEBKNProcessParam.h"
-#include "standalone/RecordingCommunicator.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/material/FakeProcess.h"
 #include "tests/material/WatchedRank.h"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace {
 

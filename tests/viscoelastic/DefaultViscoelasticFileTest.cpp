@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "engine/ReadObserver.hpp"
-#include "standalone/RecordingCommunicator.h"
-#include "tests/standalone/TestFolder.h"
+#include "tests/support/RecordingCommunicator.h"
+#include "tests/support/TestFolder.hpp"
 #include "tests/viscoelastic/ViscoelasticSupport.hpp"
 
 namespace {

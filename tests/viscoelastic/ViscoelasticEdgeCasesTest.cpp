@@ -11,8 +11,8 @@
 #include <thread>
 #include <vector>
 
-#include "standalone/RecordingCommunicator.h"
-#include "tests/standalone/TestFolder.h"
+#include "tests/support/RecordingCommunicator.h"
+#include "tests/support/TestFolder.hpp"
 #include "tests/viscoelastic/ViscoelasticSupport.hpp"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "platform/ZEBCom.h"
-#include "standalone/CallLog.h"
+#include "tests/support/CallLog.h"
 
 namespace zeb {
 

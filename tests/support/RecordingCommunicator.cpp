@@ -1,5 +1,5 @@
 // Recording rank 0's calls and playing them to the other ranks.
-#include "standalone/RecordingCommunicator.h"
+#include "tests/support/RecordingCommunicator.h"
 
 #include <cstdio>
 #include <cstdlib>

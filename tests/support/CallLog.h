@@ -5,15 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "standalone/CallKind.hpp"
+
 namespace zeb {
-
-enum class CallKind : unsigned char { kBarrier, kBroadi, kBroadd, kBroadc };
-
-/// The communicator's name of the call, for example "Broadi".
-const char* callName(CallKind kind);
-
-/// The characters of one Broadc.
-constexpr std::size_t kCallTextSize = 255;
 
 /// Collective calls with their values, in order. Two logs are equal if every call and every byte sent is.
 class CallLog {

@@ -1,5 +1,5 @@
 // How calls are packed into a log, and how they are printed.
-#include "standalone/CallLog.h"
+#include "tests/support/CallLog.h"
 
 #include <charconv>
 #include <cstring>
@@ -49,20 +49,6 @@ std::string quoted(const char* text) {
 }
 
 }  // namespace
-
-const char* callName(CallKind kind) {
-  switch (kind) {
-    case CallKind::kBarrier:
-      return "Barrier";
-    case CallKind::kBroadi:
-      return "Broadi";
-    case CallKind::kBroadd:
-      return "Broadd";
-    case CallKind::kBroadc:
-      return "Broadc";
-  }
-  return "unknown call";
-}
 
 void CallLog::addCall(CallKind kind, const void* value, std::size_t size) {
   bytes_ += static_cast<char>(kind);
