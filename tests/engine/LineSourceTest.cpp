@@ -3,10 +3,13 @@
 
 #include <filesystem>
 #include <sstream>
+#include <stdexcept>
+#include <streambuf>
 #include <vector>
 
 #include "engine/LineSource.hpp"
-#include "frame/MoldingTypes.hpp"
+#include "frame/CZEBKNCMPCompParm.h"
+#include "inspect/set/Inspection.hpp"
 #include "inspect/set/OutputCapture.hpp"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/support/RecordingCommunicator.h"
@@ -105,6 +108,16 @@ TEST(LineSourceCalls, TheEndReachesEveryRankInTheSameCall) {
     }
   });
   EXPECT_EQ(results, std::vector<std::vector<int>>(8, {1, 1, 0, 0, 0}));
+}
+
+TEST(LineSourceCalls, ACommunicatorOfOneRankIsCollectiveAndLimitsTheLine) {
+  zeb::RecordingCommunicator com(1);
+  const zeb::LineSource source{.com = &com};
+  std::istringstream stream(std::string(300, 'x') + "\n");
+  std::string line;
+  EXPECT_EQ(source.getLine(stream, line), 1);
+  EXPECT_EQ(line, std::string(254, 'x'));
+  EXPECT_EQ(com.log().calls(), (Lines{"Barrier", "Broadi 0", "Broadc \"" + line + "\""}));
 }
 
 // --- Length -----------------------------------------------------------------------------------------------------
@@ -288,8 +301,38 @@ TEST(LineSourceEnd, FixedNumbersOfLinesGoOnWithEmptyOnesOnEveryRank) {
   EXPECT_EQ(line, "");
 }
 
+// Delivers "abc", a line end and half a line; then the device fails.
+class FailingDevice final : public std::streambuf {
+ protected:
+  int_type underflow() override {
+    if (gptr() != nullptr) throw std::runtime_error("device");
+    setg(m_text, m_text, m_text + sizeof m_text - 1);
+    return traits_type::to_int_type(m_text[0]);
+  }
+
+ private:
+  char m_text[7] = "abc\nde";
+};
+
+TEST(LineSourceEnd, ALineThatAReadErrorCutsIsNotDelivered) {
+  FailingDevice serialDevice, device;
+  std::istream serial(&serialDevice), shared(&device);
+  std::string line;
+  EXPECT_EQ(zeb::LineSource{}.getLine(serial, line), 1);
+  EXPECT_EQ(line, "abc");
+  EXPECT_EQ(zeb::LineSource{}.getLine(serial, line), 0);
+  EXPECT_EQ(line, "");
+
+  zeb::RecordingCommunicator com(2);
+  const zeb::LineSource source{.com = &com};
+  EXPECT_EQ(source.getLine(shared, line), 1);
+  EXPECT_EQ(source.getLine(shared, line), 0);
+  EXPECT_EQ(com.log().calls(), (Lines{"Barrier", "Broadi 0", "Broadc \"abc\"", "Barrier", "Broadi -1"}));
+}
+
 TEST(LineSource, IsTheToolsOwn) {
-  CZEBCMPIM tool;
+  const CZEBKNCMPCompParm set(0, 0);
+  CZEBCMPInternalTool& tool = *zeb::Inspection::tool(set);
   zeb::RecordingCommunicator com(2);
   tool.m_pCom = &com;
   std::istringstream stream(std::string(300, 'x') + "\n");
