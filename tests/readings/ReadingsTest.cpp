@@ -200,5 +200,8 @@ std::string nameOf(const testing::TestParamInfo<Case>& test) {
 }
 
 INSTANTIATE_TEST_SUITE_P(CMP, Reading, testing::ValuesIn(casesOf(kCMP, "cmp_readings.tsv")), nameOf);
+INSTANTIATE_TEST_SUITE_P(CMX, Reading, testing::ValuesIn(casesOf(kCMX, "cmx_readings.tsv")), nameOf);
+INSTANTIATE_TEST_SUITE_P(Standard, Reading, testing::ValuesIn(casesOf(kStandard, "std_readings.tsv")), nameOf);
+INSTANTIATE_TEST_SUITE_P(Viscoelastic, Reading, testing::ValuesIn(casesOf(kViscoelastic, "ve_readings.tsv")), nameOf);
 
 }  // namespace

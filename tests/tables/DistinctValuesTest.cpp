@@ -48,7 +48,9 @@ const char kCompanion[] =
     "1006\n150 2.5 0\n11 0.25 12.5\n12.25 0.5 0\n3 20000.5\n-10 500 0\n1.5 0.75 3.5\n4 0.4 2\n0\n"
     "<VE_Solver>\nVE_Para1 = 0.65\n</VE_Solver>\n"
     "<WhiteMetzner_Gai>\nWM_Switch = 6\nWM_Para1 = 0.125\nWM_Para2 = 0.875\n</WhiteMetzner_Gai>\n"
-    "<Complete_PTT>\nPTT_Xi = 0.375\n</Complete_PTT>\n";
+    "<Complete_PTT>\nPTT_Xi = 0.375\n</Complete_PTT>\n"
+    "<PLOT_MATERIAL>\nFlagIsPlotShearVis = 2\nRefTemperature = 17\n</PLOT_MATERIAL>\n"
+    "<PLOT_TRANSIENT_EXTENSION_MATERIAL>\nRefTemperature = 18\nTotalSetofInputSRate = 1\nStrainRate = 19\n";
 
 // The files, and what the definition of the format makes of the first.
 class DistinctValues : public testing::Test {
@@ -58,6 +60,7 @@ class DistinctValues : public testing::Test {
     addSections();
     m_folder.write("distinct.vecmp", kCompanion);
     set.getVEParm()->setIstoCalcRS(true);
+    set.getVEParm()->setTgPoint(90.0);
     read();
     set.getGeneralParm()->SetCouple_VE(77);
     expected["CZEBCMPGeneralParm"]["iCouple_VE"] = "77";
