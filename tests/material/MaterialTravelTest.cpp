@@ -1,4 +1,4 @@
-// Material and process data at their limits: order of steps, odd senders, reuse, extreme values and counts.
+// A material on its way to the other ranks: order of steps, extreme values and counts, odd senders, objects used again.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,13 +7,10 @@
 #include <cstdint>
 #include <limits>
 #include <string>
-#include <type_traits>
 #include <vector>
 
 #include "material/CZEBKNMaterialParam.h"
-#include "material/CZEBKNProcessParam.h"
 #include "tests/material/FakeEngine.h"
-#include "tests/material/FakeProcess.h"
 #include "tests/material/MaterialExamples.h"
 #include "tests/material/RecordText.hpp"
 #include "tests/material/WatchedRank.h"
@@ -25,16 +22,6 @@ using zebtest::curvesOf;
 using zebtest::recordText;
 
 constexpr const char* kNoSuchCurve = "icount is exceed the maximum number of m_nMtcCount.\n";
-
-template <class Operation, class Signature>
-constexpr bool kIs = std::is_same_v<Operation, Signature>;
-
-static_assert(kIs<decltype(&CZEBKNMaterialParam::SetInput), int (CZEBKNMaterialParam::*)(std::string, CZEBCom*)>);
-static_assert(kIs<decltype(&CZEBKNMaterialParam::GetMtcData), const ZEB_MTC* (CZEBKNMaterialParam::*)(int) const>);
-static_assert(kIs<decltype(&CZEBKNMaterialParam::GetZebMaterial), ZebMaterial* (CZEBKNMaterialParam::*)() const>);
-static_assert(kIs<decltype(&CZEBKNProcessParam::SetInput), int (CZEBKNProcessParam::*)(std::string, CZEBCom*)>);
-static_assert(
-    kIs<decltype(&CZEBKNProcessParam::GetZebProcess), ZEBG_SimulatorProcess* (CZEBKNProcessParam::*)() const>);
 
 // Rank 0 with one other rank, which repeats each input and must end with the same record.
 class TwoRanks {
@@ -89,20 +76,6 @@ TEST(MaterialSteps, OtherRanksMeetWithoutTheEngine) {
     ASSERT_EQ(engine.calls.size(), 1u + 6 + 6 + 17 * 3 + 4 + 1 + 1);
     EXPECT_EQ(engine.calls[0], "barrier");
     EXPECT_EQ(std::count(engine.calls.begin(), engine.calls.end(), "Broadc"), 6);
-  }
-}
-
-TEST(MaterialSteps, CommunicatorWithoutOtherRanksOnlyMeets) {
-  for (const int ranks : {1, 0, -1}) {
-    FakeEngine engine;
-    makeFiveCoefficientMaterial(engine);
-    Events events;
-    WatchedRank com(0, ranks, events);
-    CZEBKNMaterialParam param;
-    EXPECT_EQ(param.SetInput("EP", &com), 1);
-    EXPECT_EQ(events, Events{"barrier"}) << ranks;
-    EXPECT_STREQ(param.GetZebMaterial()->szText[0], "EP \"thermoset\"");
-    EXPECT_EQ(curvesOf(param).size(), 2u);
   }
 }
 
@@ -331,80 +304,6 @@ TEST(MaterialReuse, SerialInputAfterAParallelOneMakesNoCall) {
   events.clear();
   param.SetInput("EP", nullptr);
   EXPECT_TRUE(events.empty());
-}
-
-TEST(MaterialReuse, CopyKeepsItsMaterialWhenTheOriginalLoadsAnother) {
-  CZEBKNMaterialParam original;
-  {
-    FakeEngine engine;
-    makeFiveCoefficientMaterial(engine);
-    original.SetInput("EP", nullptr);
-  }
-  const CZEBKNMaterialParam copy(original);
-  const std::string before = recordText(copy);
-  {
-    FakeEngine engine;
-    makeOneCoefficientMaterial(engine);
-    original.SetInput("PP", nullptr);
-  }
-  EXPECT_EQ(recordText(copy), before);
-  EXPECT_NE(recordText(original), before);
-  const CZEBKNMaterialParam& itself = original;
-  original = itself;
-  EXPECT_STREQ(original.GetZebMaterial()->szText[0], "PP crystalline");
-}
-
-// --- The process object ------------------------------------------------------------------------------------------
-
-class ProcessReuse : public testing::Test {
- protected:
-  void SetUp() override { FakeProcess::reset(); }
-};
-
-TEST_F(ProcessReuse, TeamWithoutATurnForThisRankKeepsTheEarlierObject) {
-  const struct {
-    int rank, ranks;
-    Events expected;
-  } cases[] = {{0, 0, {}}, {0, -1, {}}, {2, 2, {"barrier", "barrier"}}, {-1, 1, {"barrier"}}};
-  for (const auto& c : cases) {
-    CZEBKNProcessParam param;
-    param.SetInput("", nullptr);
-    const ZEBG_SimulatorProcess* const first = param.GetZebProcess();
-    Events events;
-    WatchedRank com(c.rank, c.ranks, events);
-    EXPECT_EQ(param.SetInput("", &com), 1);
-    EXPECT_EQ(events, c.expected);
-    EXPECT_EQ(param.GetZebProcess(), first);
-  }
-  EXPECT_EQ(FakeProcess::created, 4);
-  EXPECT_EQ(FakeProcess::destroyed, 4);
-}
-
-TEST_F(ProcessReuse, NameOfTheFileMakesNoDifference) {
-  for (const std::string& name : {std::string(), std::string("no/such/file"), std::string(100'000, 'n')}) {
-    Events events;
-    FakeProcess::onCreate = [&events] { events.emplace_back("create"); };
-    WatchedRank com(0, 1, events);
-    CZEBKNProcessParam param;
-    EXPECT_EQ(param.SetInput(name, &com), 1);
-    EXPECT_EQ(events, (Events{"create", "barrier"}));
-  }
-}
-
-TEST_F(ProcessReuse, SerialInputAfterAParallelOneMakesNoCall) {
-  Events events;
-  WatchedRank com(1, 2, events);
-  CZEBKNProcessParam param;
-  param.SetInput("", &com);
-  const ZEBG_SimulatorProcess* const first = param.GetZebProcess();
-  events.clear();
-  param.SetInput("", nullptr);
-  EXPECT_TRUE(events.empty());
-  EXPECT_NE(param.GetZebProcess(), first);
-  const CZEBKNProcessParam& itself = param;
-  param = itself;
-  EXPECT_NE(param.GetZebProcess(), nullptr);
-  EXPECT_EQ(FakeProcess::destroyed, 0);
 }
 
 }  // namespace
