@@ -8,7 +8,7 @@
 
 #include "frame/CMPReader.hpp"
 #include "frame/MoldingTypes.hpp"
-#include "tests/frame/PlainDefinition.hpp"
+#include "tests/support/PlainDefinition.hpp"
 
 namespace zebbench {
 

@@ -7,7 +7,7 @@
 #include "frame/CZEBKNCMPCompParm.h"
 #include "fuzz/FuzzSupport.hpp"
 #include "inspect/set/Inspection.hpp"
-#include "standalone/RecordingCommunicator.h"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include "cmx/CZEBKNCMXCompParm.h"
 #include "engine/TableBuilder.hpp"
 #include "fuzz/FuzzSupport.hpp"
-#include "standalone/RecordingCommunicator.h"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace {
 

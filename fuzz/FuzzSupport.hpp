@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "engine/ParameterTable.hpp"
-#include "standalone/CallLog.h"
+#include "tests/support/CallLog.h"
 
 namespace zebfuzz {
 

@@ -14,7 +14,7 @@
 #include "frame/CZEBCMPInternalTool.hpp"
 #include "frame/KeyLookup.h"
 #include "fuzz/FuzzSupport.hpp"
-#include "tests/frame/PlainDefinition.hpp"
+#include "tests/support/PlainDefinition.hpp"
 
 namespace {
 

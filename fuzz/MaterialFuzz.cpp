@@ -8,7 +8,7 @@
 #include "fuzz/FuzzSupport.hpp"
 #include "material/CZEBKNMaterialParam.h"
 #include "standalone/MaterialRecord.hpp"
-#include "standalone/RecordingCommunicator.h"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace {
 

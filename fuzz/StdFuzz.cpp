@@ -9,9 +9,9 @@
 #include <string>
 
 #include "fuzz/FuzzSupport.hpp"
-#include "standalone/RecordingCommunicator.h"
 #include "standalone/SerialCommunicator.h"
 #include "stdcmp/CZEBKNstdCMPCompParm.h"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 #include <utility>
 #include <vector>
 
-#include "standalone/CallLog.h"
+#include "standalone/CallKind.hpp"
 
 namespace zeb {
 namespace {

@@ -13,8 +13,8 @@
 #include "inspect/set/Silence.hpp"
 #include "material/CZEBKNMaterialParam.h"
 #include "standalone/MaterialEngine.h"
-#include "standalone/RecordingCommunicator.h"
 #include "standalone/mpi/MpiCommunicator.h"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace {
 

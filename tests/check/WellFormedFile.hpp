@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/frame/RandomText.hpp"
+#include "tests/support/RandomText.hpp"
 #include "tests/support/Tsv.hpp"
 
 namespace zebtest {

@@ -1,4 +1,4 @@
-// The lines that a key announces: coefficients of the fiber diffusion, gates of the hot runner, output moments.
+// The lists that a key announces: who keeps what was handed out, and counts that a file cannot mean.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -18,133 +18,21 @@ class CMXLists : public testing::Test {
   void readGates(const std::string& lines) {
     read("<FILL_ADVANCED_HRSteady>\n" + lines + "</FILL_ADVANCED_HRSteady>\n");
   }
-  void readFiber(const std::string& lines) {
-    read("<FILL_ADVANCED_LONGFIBER>\n" + lines + "</FILL_ADVANCED_LONGFIBER>\n");
-  }
-  std::vector<double> gates() const { return {m_gates.pHRGateBC() + 1, m_gates.pHRGateBC() + 1 + m_gates.iNHRGate()}; }
-  std::vector<double> coefficients() const {
-    return {m_fiber.dARD_b1(), m_fiber.dARD_b2(), m_fiber.dARD_b3(), m_fiber.dARD_b4(),
-            m_fiber.dARD_b5(), m_fiber.dARD_Cf(), m_fiber.dARD_Cm(), m_fiber.dFiber_CI()};
-  }
 
   CZEBCMXInternalTool m_tool;
   const CZEBCMX_FILL_ADVANCED_HRSteady& m_gates = m_tool.block<CZEBCMX_FILL_ADVANCED_HRSteady>();
-  const CZEBCMX_FILL_ADVANCED_LONGFIBER& m_fiber = m_tool.block<CZEBCMX_FILL_ADVANCED_LONGFIBER>();
   const CZEBCMX_FILL_OUTPUT_TIMES& m_fill = m_tool.block<CZEBCMX_FILL_OUTPUT_TIMES>();
-  const CZEBCMX_PACK_OUTPUT_TIMES& m_pack = m_tool.block<CZEBCMX_PACK_OUTPUT_TIMES>();
 };
 
 using Doubles = std::vector<double>;
-
-TEST_F(CMXLists, DiffusionModel2TakesFiveLines) {
-  readFiber("DiffusionModelType = 2\nb1 = 1\nb2 = 2\nb3 = 3\nb4 = 4\nb5 = 5\nWeight = 30\n");
-  EXPECT_EQ(coefficients(), (Doubles{1, 2, 3, 4, 5, 0.01, 0.0, 0.01}));
-  EXPECT_EQ(m_fiber.dWeightPercent(), 30.0);
-}
-
-TEST_F(CMXLists, DiffusionModel1TakesTwoLines) {
-  readFiber("DiffusionModelType = 1\nCf = 0.5\nCm = 0.25\nWeight = 30\n");
-  EXPECT_EQ(coefficients(), (Doubles{0, 0, 0, 0, 0, 0.5, 0.25, 0.01}));
-  EXPECT_EQ(m_fiber.dWeightPercent(), 30.0);
-}
-
-TEST_F(CMXLists, DiffusionModel0TakesOneLine) {
-  readFiber("DiffusionModelType = 0\nCI = 0.5\nWeight = 30\n");
-  EXPECT_EQ(coefficients(), (Doubles{0, 0, 0, 0, 0, 0.01, 0.0, 0.5}));
-  EXPECT_EQ(m_fiber.dWeightPercent(), 30.0);
-}
-
-TEST_F(CMXLists, OtherDiffusionModelsTakeNoLine) {
-  for (const int model : {-1, 3, 2147483647}) {
-    CZEBCMXInternalTool tool;
-    std::istringstream file("<FILL_ADVANCED_LONGFIBER>\nDiffusionModelType = " + std::to_string(model) +
-                            "\nWeight = 30\n</FILL_ADVANCED_LONGFIBER>\n");
-    tool.readBlocks(file);
-    EXPECT_EQ(tool.block<CZEBCMX_FILL_ADVANCED_LONGFIBER>().iDiffusionModelType(), model);
-    EXPECT_EQ(tool.block<CZEBCMX_FILL_ADVANCED_LONGFIBER>().dWeightPercent(), 30.0);
-  }
-}
-
-TEST_F(CMXLists, DiffusionModelThatDoesNotParseTakesNoLine) {
-  readFiber("DiffusionModelType = none\nWeight = 30\n");
-  EXPECT_EQ(m_fiber.dWeightPercent(), 30.0);
-}
-
-TEST_F(CMXLists, CoefficientIsTheThirdWordOfItsLineWhateverTheFirstTwoAre) {
-  readFiber("DiffusionModelType = 2\nb5 : 1\nx=1 2\nb3=3\nb4 = 0x10\n= = nonsense\n");
-  // "x=1" and "2" are the first two words, "b3=3" has none behind it; hexadecimal is a number here.
-  EXPECT_EQ(coefficients(), (Doubles{1, 0, 0, 16, 0, 0.01, 0.0, 0.01}));
-}
-
-TEST_F(CMXLists, CoefficientLinesAreNoKeysAndNoEndTag) {
-  readFiber("DiffusionModelType = 1\nWeight = 30\n</FILL_ADVANCED_LONGFIBER> = 0.75\nAspectRatio = 5\n");
-  EXPECT_EQ(m_fiber.dARD_Cf(), 30.0);
-  EXPECT_EQ(m_fiber.dARD_Cm(), 0.75);
-  EXPECT_EQ(m_fiber.dWeightPercent(), 10.0);
-  EXPECT_EQ(m_fiber.dAspectRatio(), 5.0);
-}
-
-TEST_F(CMXLists, KeysOfTheAnnouncingLineAreStillTestedBehindTheList) {
-  readFiber("DiffusionModelType FlagConcertration = 1\nCf = 0.5\nCm = 0.25\n");
-  EXPECT_EQ(m_fiber.iFiberConcen(), 1);
-  EXPECT_EQ(m_fiber.dARD_Cm(), 0.25);
-}
-
-TEST_F(CMXLists, GatesFollowTheirType) {
-  readGates("ValueNoHRGate = 3\nValueHRGateType = 2\nG1 = 1.5\nG2 =   2.5 cc\nG3=3.5\nValueFlowRate = 9\n");
-  EXPECT_EQ(m_gates.iNHRGate(), 3);
-  EXPECT_EQ(m_gates.iHRGateType(), 2);
-  EXPECT_EQ(gates(), (Doubles{1.5, 2.5, 3.5}));
-  EXPECT_EQ(m_gates.dHRFlowRate(), 9.0);
-}
-
-TEST_F(CMXLists, GateLineWithoutValueLeavesItsEntryAndTheNextLineIsTheNextGates) {
-  readGates("ValueNoHRGate = 3\nValueHRGateType = 0\nG1 1.5\nG2 = none\nG3 = 3.5\n");
-  EXPECT_EQ(gates(), (Doubles{0, 0, 3.5}));
-}
-
-TEST_F(CMXLists, GateTypeBeforeTheCountReadsNoGates) {
-  readGates("ValueHRGateType = 1\nValueNoHRGate = 1\nG1 = 4\n");
-  EXPECT_EQ(m_gates.iHRGateType(), 1);
-  ASSERT_EQ(m_gates.iNHRGate(), 1);
-  EXPECT_EQ(gates(), Doubles{0});
-}
-
-TEST_F(CMXLists, CountOfZeroGatesMakesAnArrayAndReadsNoGates) {
-  EXPECT_EQ(m_gates.pHRGateBC(), nullptr);
-  readGates("ValueNoHRGate = 0\nValueHRGateType = 1\nValueFlowRate = 9\n");
-  EXPECT_NE(m_gates.pHRGateBC(), nullptr);
-  EXPECT_EQ(m_gates.dHRFlowRate(), 9.0);
-}
-
-TEST_F(CMXLists, GateLinesAreNoKeysAndNoEndTag) {
-  readGates("ValueNoHRGate = 2\nValueHRGateType = 1\nValueFlowRate = 9\n</FILL_ADVANCED_HRSteady> = 8\n");
-  EXPECT_EQ(m_gates.dHRFlowRate(), 0.0);
-  EXPECT_EQ(gates(), (Doubles{9, 8}));
-}
 
 TEST_F(CMXLists, RepeatedGateCountMakesANewArray) {
   readGates("ValueNoHRGate = 2\nValueHRGateType = 1\nG1 = 1\nG2 = 2\n");
   const double* const first = m_gates.pHRGateBC();
   readGates("ValueNoHRGate = 3\n");
   EXPECT_NE(m_gates.pHRGateBC(), first);
-  EXPECT_EQ(gates(), (Doubles{0, 0, 0}));
+  EXPECT_EQ(Doubles(m_gates.pHRGateBC(), m_gates.pHRGateBC() + 4), (Doubles{0, 0, 0, 0}));
   EXPECT_EQ(first[2], 2.0) << "an array once handed out stays";
-}
-
-TEST_F(CMXLists, MomentLinesAreTakenInOrderWhateverTheirIds) {
-  read(
-      "<FILL_OUTPUT_TIMES>\nValueNoFillOutputTime = 3\n7 = 0.5\n7 = 1.5\n-1 = 1e-3\n</FILL_OUTPUT_TIMES>\n"
-      "<PACK_OUTPUT_TIMES>\nValueNoPackOutputTime = 2\n2 = 4\n1 = 5\n</PACK_OUTPUT_TIMES>\n");
-  EXPECT_EQ(Doubles(m_fill.pOutTimeStep(), m_fill.pOutTimeStep() + 4), (Doubles{0, 0.5, 1.5, 0.001}));
-  EXPECT_EQ(m_pack.iNoOutTimeStep(), 2);
-  EXPECT_EQ(Doubles(m_pack.pOutTimeStep(), m_pack.pOutTimeStep() + 3), (Doubles{0, 4, 5}));
-}
-
-TEST_F(CMXLists, MomentLineThatDoesNotScanLeavesItsEntryZero) {
-  // No id; no blank behind '='; no moment; the last is complete without blank before '='.
-  read("<PACK_OUTPUT_TIMES>\nValueNoPackOutputTime = 4\nx = 4\n2 =5\n3 =\n4= 6\n</PACK_OUTPUT_TIMES>\n");
-  EXPECT_EQ(Doubles(m_pack.pOutTimeStep(), m_pack.pOutTimeStep() + 5), (Doubles{0, 0, 0, 0, 6}));
 }
 
 TEST_F(CMXLists, NoMomentsMakeAnArrayWithTheZeroAlone) {
@@ -152,14 +40,6 @@ TEST_F(CMXLists, NoMomentsMakeAnArrayWithTheZeroAlone) {
   read("<FILL_OUTPUT_TIMES>\nValueNoFillOutputTime = 0\n</FILL_OUTPUT_TIMES>\n");
   ASSERT_NE(m_fill.pOutTimeStep(), nullptr);
   EXPECT_EQ(m_fill.pOutTimeStep()[0], 0.0);
-}
-
-TEST_F(CMXLists, CountAboveTheLinesThatFollowTakesLaterTags) {
-  read(
-      "<FILL_OUTPUT_TIMES>\nValueNoFillOutputTime = 3\n1 = 0.5\n</FILL_OUTPUT_TIMES>\n<SOLID_COOL>\nIDSolver = 5\n"
-      "</SOLID_COOL>\n");
-  EXPECT_EQ(Doubles(m_fill.pOutTimeStep(), m_fill.pOutTimeStep() + 4), (Doubles{0, 0.5, 0, 0}));
-  EXPECT_EQ(m_tool.block<CZEBCMX_SOLID_COOL>().iTransientCoolType(), 1) << "its opening was a line of the list";
 }
 
 TEST_F(CMXLists, ReadingAgainAllocatesFromTheNewCount) {
@@ -253,18 +133,6 @@ TEST(CMXHostileCounts, CountAboveTheFilesLinesEndsWithTheFileOnAllRanks) {
     const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
     EXPECT_EQ(log.size(), 2 * lines + 3) << list.tag;
   }
-}
-
-TEST(CMXHostileCounts, CoefficientsCutByTheEndOfTheFileKeepTheirValuesOnAllRanks) {
-  const std::string text = "<FILL_ADVANCED_LONGFIBER>\nDiffusionModelType = 2\nb1 = 1\nb2 = 2";
-  CZEBCMXInternalTool tool;
-  std::istringstream stream(text);
-  tool.readBlocks(stream);
-  const CZEBCMX_FILL_ADVANCED_LONGFIBER& block = tool.block<CZEBCMX_FILL_ADVANCED_LONGFIBER>();
-  EXPECT_EQ(block.dARD_b2(), 2.0);
-  EXPECT_EQ(block.dARD_b3(), 0.0);
-  EXPECT_EQ(zebtest::readOnRanks(4, [&](CZEBCom& com) { return readText(text, &com); }),
-            zebtest::exactValues(tool.sections()));
 }
 
 }  // namespace

@@ -2,8 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "cmx/CZEBCMXInternalTool.hpp"
+#include "cmx/CZEBKNCMXCompParm.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/cmx/Expectations.hpp"
+#include "tests/cmx/ReadIntoTool.hpp"
 
 namespace {
 
@@ -100,6 +102,61 @@ TEST_F(CMXRanks, RaisedPrintLevelTracesNameAndLinesOnRank0) {
   const auto traced = [this](CZEBCom& com) { return read(&com, 1); };
   EXPECT_EQ(zebtest::outputOf([&] { zebtest::readOnRanks(3, traced); }),
             nameLine + " - CPUID:0 string: <SOLID_COOL>\n - CPUID:0 string:  IDSolver = 5\n");
+}
+
+TEST_F(CMXRanks, LineOf254CharactersIsReadWholeOnRanks) {
+  const auto valueOnRanks = [](std::size_t length) {
+    // "25" ends the line.
+    const std::string key = "IDSolver =";
+    const std::string text = "<SOLID_COOL>\n" + key + std::string(length - key.size() - 2, ' ') + "25\n";
+    zeb::RecordingCommunicator com(2);
+    CZEBCMXInternalTool tool;
+    tool.setZEBCom(&com);
+    zebtest::readIntoTool(tool, text);
+    return tool.block<CZEBCMX_SOLID_COOL>().iTransientCoolType();
+  };
+  EXPECT_EQ(valueOnRanks(254), 25);
+  EXPECT_EQ(valueOnRanks(255), 2);
+  EXPECT_EQ(valueOnRanks(256), 1) << "no value is left";
+}
+
+// --- Communicators
+
+class CMXCommunicators : public testing::Test {
+ protected:
+  zeb::test::TestFolder m_folder;
+  std::string m_file = m_folder.write("run.cmx", "<SOLID_COOL>\nIDSolver = 5\n</SOLID_COOL>\n");
+};
+
+TEST_F(CMXCommunicators, SingleRanksCommunicatorIsUsedAndNullDoesNotTakeItAway) {
+  zeb::RecordingCommunicator single(1);
+  CZEBKNCMXCompParm set(0);
+  EXPECT_EQ(set.setZEBCom(&single), 1);
+  EXPECT_EQ(set.setZEBCom(nullptr), -1);
+  EXPECT_EQ(set.setSolidFillBlock(m_file), 1);
+  EXPECT_EQ(single.log().size(), 7u) << "two calls for a line, one for the end";
+}
+
+TEST_F(CMXCommunicators, CopiesShareTheCommunicator) {
+  zeb::RecordingCommunicator com(2);
+  CZEBKNCMXCompParm set(0);
+  CZEBKNCMXCompParm copy(set);
+  EXPECT_EQ(copy.setZEBCom(&com), 1);
+  set.setSolidFillBlock(m_file);
+  EXPECT_FALSE(com.log().empty());
+}
+
+TEST_F(CMXCommunicators, OtherRanksOpenNothingAndTakeRank0sLines) {
+  zeb::RecordingCommunicator first(2);
+  CZEBKNCMXCompParm rank0(0);
+  rank0.setZEBCom(&first);
+  rank0.setSolidFillBlock(m_file);
+  zeb::ReplayingCommunicator second(first.log(), 1, 2);
+  CZEBKNCMXCompParm rank1(0);
+  rank1.setZEBCom(&second);
+  EXPECT_EQ(rank1.setSolidFillBlock(m_folder.write("other.cmx", "<SOLID_COOL>\nIDSolver = 8\n")), 1);
+  EXPECT_TRUE(second.finished());
+  EXPECT_EQ(rank1.getSOLID_COOL()->iTransientCoolType(), 5);
 }
 
 }  // namespace

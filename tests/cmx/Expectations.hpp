@@ -6,49 +6,21 @@
 
 #include <bit>
 #include <cstdint>
-#include <fstream>
 #include <functional>
-#include <map>
 #include <span>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "engine/SectionDispatch.hpp"
-#include "standalone/RecordingCommunicator.h"
-#include "tests/standalone/TestFolder.h"
+#include "tests/support/RecordingCommunicator.h"
+#include "tests/support/TestFolder.hpp"
+#include "tests/support/Tsv.hpp"
 
 namespace zebtest {
 
-/// A line of an expectation table, by column name.
-using Expected = std::map<std::string, std::string>;
+using Expected = TsvRow;
 
-inline std::vector<std::string> cellsOf(const std::string& line) {
-  std::vector<std::string> cells;
-  std::istringstream stream(line);
-  for (std::string cell; std::getline(stream, cell, '\t');) cells.push_back(cell);
-  return cells;
-}
-
-/// All lines of a table in tests/data.
-inline std::vector<Expected> expectations(const std::string& fileName) {
-  std::ifstream file(std::string(ZEB_TEST_DATA_DIR) + "/" + fileName);
-  std::string line;
-  EXPECT_TRUE(std::getline(file, line)) << fileName;
-  const std::vector<std::string> names = cellsOf(line.substr(1));
-  std::vector<Expected> rows;
-  while (std::getline(file, line)) {
-    const std::vector<std::string> cells = cellsOf(line);
-    EXPECT_EQ(cells.size(), names.size()) << fileName << ": " << line;
-    Expected row;
-    for (std::size_t c = 0; c < names.size() && c < cells.size(); ++c) row[names[c]] = cells[c];
-    rows.push_back(row);
-  }
-  EXPECT_FALSE(rows.empty()) << fileName;
-  return rows;
-}
-
-inline std::string unquoted(const std::string& text) { return text.substr(1, text.size() - 2); }
+inline std::vector<Expected> expectations(const std::string& fileName) { return readTsv(fileName); }
 
 inline const zeb::Row* rowOfGetter(std::span<const zeb::Row> rows, const std::string& getter) {
   for (const zeb::Row& row : rows) {

@@ -9,7 +9,7 @@
 #include "blocks/CZEBCMPGeneralParm.h"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "platform/ZEB3DTool.h"
-#include "standalone/RecordingCommunicator.h"
+#include "tests/support/RecordingCommunicator.h"
 #include "tests/support/TemporaryFile.hpp"
 
 namespace {

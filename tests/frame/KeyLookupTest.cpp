@@ -6,8 +6,8 @@
 #include <cstdint>
 
 #include "frame/KeyLookup.h"
-#include "tests/frame/PlainDefinition.hpp"
-#include "tests/frame/RandomText.hpp"
+#include "tests/support/PlainDefinition.hpp"
+#include "tests/support/RandomText.hpp"
 
 namespace {
 
@@ -94,6 +94,35 @@ TEST(TextLookup, AnAbsentKeyLeavesTheTextUntouched) {
   EXPECT_EQ(GetKeyValueString("Other = x", "Name", text), 0);
   EXPECT_EQ(GetKeyValueWord("Other = x", "Name", text), 0);
   EXPECT_EQ(text, "before");
+}
+
+TEST(KeyLookup, AnEmptyKeyIsInEveryLine) {
+  for (const std::string& key : {std::string(), std::string("\0N", 2)}) {
+    int value = -7;
+    EXPECT_EQ(GetKeyValueInt("", key, value), 1);
+    EXPECT_EQ(value, -7);
+    EXPECT_EQ(GetKeyValueInt("N = 3", key, value), 1);
+    EXPECT_EQ(value, 3);
+  }
+}
+
+TEST(TextLookup, AStringLosesOnlyItsLeadingSpaces) {
+  const struct {
+    const char* line;
+    const char* string;
+    const char* word;
+  } cases[] = {
+      {"Name =\tmy part", "\tmy part", "my"},          {"Name =  \t my part", "\t my part", "my"},
+      {"Name = a = b // c", "a = b // c", "a"},        {"x = b Name = a", "b Name = a", "b"},
+      {"Name = part.m3f\r", "part.m3f\r", "part.m3f"}, {"Name == part", "= part", "="},
+  };
+  for (const auto& [line, expectedString, expectedWord] : cases) {
+    std::string string = "before", word = "before";
+    EXPECT_EQ(GetKeyValueString(line, "Name", string), 1) << line;
+    EXPECT_EQ(string, expectedString) << line;
+    EXPECT_EQ(GetKeyValueWord(line, "Name", word), 1) << line;
+    EXPECT_EQ(word, expectedWord) << line;
+  }
 }
 
 std::string randomLine(RandomText& random) {

@@ -8,11 +8,11 @@
 #include <sstream>
 #include <vector>
 
-#include "tests/frame/RandomText.hpp"
 #include "tests/ranks/Examples.hpp"
 #include "tests/ranks/RankReading.hpp"
-#include "tests/standalone/TestFolder.h"
+#include "tests/support/RandomText.hpp"
 #include "tests/support/TemporaryFile.hpp"
+#include "tests/support/TestFolder.hpp"
 #include "tests/support/Tsv.hpp"
 
 namespace {

@@ -5,13 +5,17 @@
 #include <climits>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "material/CZEBKNMaterialParam.h"
 #include "tests/material/FakeEngine.h"
 #include "tests/material/MaterialExamples.h"
+#include "tests/material/RecordText.hpp"
 
 namespace {
+
+using zebtest::recordText;
 
 template <class Action>
 std::string printedBy(Action action) {
@@ -19,6 +23,13 @@ std::string printedBy(Action action) {
   action();
   return testing::internal::GetCapturedStdout();
 }
+
+template <class Operation, class Signature>
+constexpr bool kIs = std::is_same_v<Operation, Signature>;
+
+static_assert(kIs<decltype(&CZEBKNMaterialParam::SetInput), int (CZEBKNMaterialParam::*)(std::string, CZEBCom*)>);
+static_assert(kIs<decltype(&CZEBKNMaterialParam::GetMtcData), const ZEB_MTC* (CZEBKNMaterialParam::*)(int) const>);
+static_assert(kIs<decltype(&CZEBKNMaterialParam::GetZebMaterial), ZebMaterial* (CZEBKNMaterialParam::*)() const>);
 
 TEST(MaterialParam, IsEmptyBeforeItsInput) {
   const CZEBKNMaterialParam param;
@@ -209,6 +220,27 @@ TEST(MaterialParam, AssignmentKeepsWhatWasHandedOut) {
   param = CZEBKNMaterialParam();
   EXPECT_EQ(param.GetZebMaterial(), nullptr);
   EXPECT_EQ(handedOut->dLast, 42.5);
+}
+
+TEST(MaterialParam, CopyKeepsItsMaterialWhenTheOriginalLoadsAnother) {
+  CZEBKNMaterialParam original;
+  {
+    FakeEngine engine;
+    makeFiveCoefficientMaterial(engine);
+    original.SetInput("EP", nullptr);
+  }
+  const CZEBKNMaterialParam copy(original);
+  const std::string before = recordText(copy);
+  {
+    FakeEngine engine;
+    makeOneCoefficientMaterial(engine);
+    original.SetInput("PP", nullptr);
+  }
+  EXPECT_EQ(recordText(copy), before);
+  EXPECT_NE(recordText(original), before);
+  const CZEBKNMaterialParam& itself = original;
+  original = itself;
+  EXPECT_STREQ(original.GetZebMaterial()->szText[0], "PP crystalline");
 }
 
 }  // namespace

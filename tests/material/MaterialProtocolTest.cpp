@@ -6,30 +6,38 @@
 #include <vector>
 
 #include "material/CZEBKNMaterialParam.h"
-#include "standalone/RecordingCommunicator.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/material/FakeEngine.h"
 #include "tests/material/MaterialExamples.h"
 #include "tests/material/RecordText.hpp"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace {
 
 using zebtest::curvesOf;
 using zebtest::recordText;
 
-// One call for each value: "i 1 2" are two Broadi, "d 0.5" is a Broadd, "c TEXT" a Broadc of the rest of the line; '#'
-// opens a comment.
+// One call for each value: "i 1 2" are two Broadi, "d 0.5" is a Broadd, "c TEXT" a Broadc of the rest of the line; "6x"
+// in front repeats a line's calls, '#' opens a comment.
 std::vector<std::string> callsOf(const std::string& script) {
   std::vector<std::string> calls;
   std::istringstream lines(script);
   for (std::string line; std::getline(lines, line);) {
-    std::istringstream words(line.substr(0, line.find('#')));
-    std::string kind;
-    if (!(words >> kind)) continue;
-    if (kind == "Barrier") calls.push_back(kind);
-    if (kind == "c") calls.push_back("Broadc " + line.substr(2));
-    if (kind == "i" || kind == "d") {
-      for (std::string value; words >> value;) calls.push_back((kind == "i" ? "Broadi " : "Broadd ") + value);
+    const std::size_t repeat = line.find("x ");
+    int times = 1;
+    if (repeat != line.npos && line.find_first_not_of("0123456789") == repeat) {
+      times = std::stoi(line);
+      line.erase(0, repeat + 2);
+    }
+    for (; times > 0; --times) {
+      std::istringstream words(line.substr(0, line.find('#')));
+      std::string kind;
+      if (!(words >> kind)) continue;
+      if (kind == "Barrier") calls.push_back(kind);
+      if (kind == "c") calls.push_back("Broadc " + line.substr(2));
+      if (kind == "i" || kind == "d") {
+        for (std::string value; words >> value;) calls.push_back((kind == "i" ? "Broadi " : "Broadd ") + value);
+      }
     }
   }
   return calls;
@@ -38,30 +46,13 @@ std::vector<std::string> callsOf(const std::string& script) {
 const char* const kOneCoefficientCalls = R"(
 Barrier
 i 101 102 103 104 105 106
-c "PP crystalline"
-c "PP crystalline"
-c "PP crystalline"
-c "PP crystalline"
-c "PP crystalline"
-c "PP crystalline"
+6x c "PP crystalline"
 i 2 11 12         # table 1: count, A, B
 d 0.5 1.5
 i 0 0 0           # table 2
 i 1 31 32         # table 3
 d -2.25
-i 0 0 0           # table 4
-i 0 0 0           # table 5
-i 0 0 0           # table 6
-i 0 0 0           # table 7
-i 0 0 0           # table 8
-i 0 0 0           # table 9
-i 0 0 0           # table 10
-i 0 0 0           # table 11
-i 0 0 0           # table 12
-i 0 0 0           # table 13
-i 0 0 0           # table 14
-i 0 0 0           # table 15
-i 0 0 0           # table 16
+13x i 0 0 0  # tables 4 to 16
 i 3 171 172       # table 17
 d 1e+30 2e-30 3
 i 7 8 1 9         # model values
@@ -73,30 +64,11 @@ i 0               # test curves
 const char* const kFiveCoefficientCalls = R"(
 Barrier
 i -1 0 0 0 0 6
-c "EP \"thermoset\""
-c "EP \"thermoset\""
-c "EP \"thermoset\""
-c "EP \"thermoset\""
-c "EP \"thermoset\""
-c "EP \"thermoset\""
+6x c "EP \"thermoset\""
 i 0 0 0           # table 1
 i 1 21 22         # table 2
 d 20.5
-i 0 0 0           # table 3
-i 0 0 0           # table 4
-i 0 0 0           # table 5
-i 0 0 0           # table 6
-i 0 0 0           # table 7
-i 0 0 0           # table 8
-i 0 0 0           # table 9
-i 0 0 0           # table 10
-i 0 0 0           # table 11
-i 0 0 0           # table 12
-i 0 0 0           # table 13
-i 0 0 0           # table 14
-i 0 0 0           # table 15
-i 0 0 0           # table 16
-i 0 0 0           # table 17
+15x i 0 0 0  # tables 3 to 17
 i 1 2 3 4
 d -1
 d 0.1 0.2 0.3 0.4 0.5
@@ -112,29 +84,10 @@ i 62 61 0         # curve 2
 const char* const kTwoCoefficientCalls = R"(
 Barrier
 i 0 0 0 0 0 0
-c ""
-c ""
-c ""
-c ""
-c ""
-c ""
-i 0 0 0           # table 1
-i 0 0 0           # table 2
-i 0 0 0           # table 3
-i 0 0 0           # table 4
-i 0 0 0           # table 5
-i 0 0 0           # table 6
-i 0 0 0           # table 7
-i 0 0 0           # table 8
+6x c ""
+8x i 0 0 0  # tables 1 to 8
 i 0 91 92         # table 9
-i 0 0 0           # table 10
-i 0 0 0           # table 11
-i 0 0 0           # table 12
-i 0 0 0           # table 13
-i 0 0 0           # table 14
-i 0 0 0           # table 15
-i 0 0 0           # table 16
-i 0 0 0           # table 17
+8x i 0 0 0  # tables 10 to 17
 i 0 0 2 0
 d 0
 d 1.25 2.25

@@ -3,15 +3,21 @@
 
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "material/CZEBKNProcessParam.h"
-#include "standalone/RecordingCommunicator.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/material/FakeProcess.h"
 #include "tests/material/WatchedRank.h"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace {
+
+static_assert(
+    std::is_same_v<decltype(&CZEBKNProcessParam::SetInput), int (CZEBKNProcessParam::*)(std::string, CZEBCom*)>);
+static_assert(std::is_same_v<decltype(&CZEBKNProcessParam::GetZebProcess),
+                             ZEBG_SimulatorProcess* (CZEBKNProcessParam::*)() const>);
 
 class ProcessParam : public testing::Test {
  protected:
@@ -110,6 +116,52 @@ TEST_F(ProcessParam, CopiesShareTheObjectAndMayAllBeDestroyed) {
   }
   EXPECT_EQ(FakeProcess::created, 2);
   EXPECT_EQ(FakeProcess::destroyed, 2);
+}
+
+TEST_F(ProcessParam, TeamWithoutATurnForThisRankKeepsTheEarlierObject) {
+  const struct {
+    int rank, ranks;
+    Events expected;
+  } cases[] = {{0, 0, {}}, {0, -1, {}}, {2, 2, {"barrier", "barrier"}}, {-1, 1, {"barrier"}}};
+  for (const auto& c : cases) {
+    CZEBKNProcessParam param;
+    param.SetInput("", nullptr);
+    const ZEBG_SimulatorProcess* const first = param.GetZebProcess();
+    Events events;
+    WatchedRank com(c.rank, c.ranks, events);
+    EXPECT_EQ(param.SetInput("", &com), 1);
+    EXPECT_EQ(events, c.expected);
+    EXPECT_EQ(param.GetZebProcess(), first);
+  }
+  EXPECT_EQ(FakeProcess::created, 4);
+  EXPECT_EQ(FakeProcess::destroyed, 4);
+}
+
+TEST_F(ProcessParam, NameOfTheFileMakesNoDifference) {
+  for (const std::string& name : {std::string(), std::string("no/such/file"), std::string(100'000, 'n')}) {
+    Events events;
+    FakeProcess::onCreate = [&events] { events.emplace_back("create"); };
+    WatchedRank com(0, 1, events);
+    CZEBKNProcessParam param;
+    EXPECT_EQ(param.SetInput(name, &com), 1);
+    EXPECT_EQ(events, (Events{"create", "barrier"}));
+  }
+}
+
+TEST_F(ProcessParam, SerialInputAfterAParallelOneMakesNoCall) {
+  Events events;
+  WatchedRank com(1, 2, events);
+  CZEBKNProcessParam param;
+  param.SetInput("", &com);
+  const ZEBG_SimulatorProcess* const first = param.GetZebProcess();
+  events.clear();
+  param.SetInput("", nullptr);
+  EXPECT_TRUE(events.empty());
+  EXPECT_NE(param.GetZebProcess(), first);
+  const CZEBKNProcessParam& itself = param;
+  param = itself;
+  EXPECT_NE(param.GetZebProcess(), nullptr);
+  EXPECT_EQ(FakeProcess::destroyed, 0);
 }
 
 }  // namespace

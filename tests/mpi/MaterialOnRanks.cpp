@@ -11,11 +11,11 @@
 #include "material/CZEBKNProcessParam.h"
 #include "platform/ZEBG.h"
 #include "standalone/MaterialEngine.h"
-#include "standalone/RecordingCommunicator.h"
 #include "tests/material/RecordText.hpp"
 #include "tests/mpi/Verdict.hpp"
 #include "tests/ranks/Examples.hpp"
-#include "tests/standalone/TestFolder.h"
+#include "tests/support/RecordingCommunicator.h"
+#include "tests/support/TestFolder.hpp"
 
 namespace {
 

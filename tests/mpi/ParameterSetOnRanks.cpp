@@ -16,8 +16,8 @@
 #include "tests/mpi/Verdict.hpp"
 #include "tests/ranks/Examples.hpp"
 #include "tests/ranks/RankReading.hpp"
-#include "tests/standalone/TestFolder.h"
 #include "tests/stdcmp/PublicValues.hpp"
+#include "tests/support/TestFolder.hpp"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include "inspect/set/Inspection.hpp"
 #include "inspect/set/OutputCapture.hpp"
 #include "inspect/set/Settings.hpp"
-#include "standalone/RecordingCommunicator.h"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace zebtest {
 

@@ -9,8 +9,8 @@
 #include "tests/ranks/Examples.hpp"
 #include "tests/ranks/RandomFile.hpp"
 #include "tests/ranks/RankReading.hpp"
-#include "tests/standalone/TestFolder.h"
 #include "tests/support/TemporaryFile.hpp"
+#include "tests/support/TestFolder.hpp"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include "standalone/ThreadCommunicator.h"
 #include "tests/ranks/Examples.hpp"
 #include "tests/ranks/RankReading.hpp"
-#include "tests/standalone/TestFolder.h"
+#include "tests/support/TestFolder.hpp"
 
 namespace {
 

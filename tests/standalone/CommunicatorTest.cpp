@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "standalone/RecordingCommunicator.h"
 #include "standalone/SerialCommunicator.h"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace zeb::test {
 namespace {

@@ -8,7 +8,7 @@
 
 #include "platform/ZEBMatrEngine.h"
 #include "standalone/MaterialEngine.h"
-#include "tests/standalone/TestFolder.h"
+#include "tests/support/TestFolder.hpp"
 
 namespace zeb::test {
 namespace {

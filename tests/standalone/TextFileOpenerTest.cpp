@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "platform/ZEB3DTool.h"
-#include "tests/standalone/TestFolder.h"
 #include "tests/support/TemporaryFile.hpp"
+#include "tests/support/TestFolder.hpp"
 #include "tests/support/WithoutPrivileges.hpp"
 
 namespace zeb::test {

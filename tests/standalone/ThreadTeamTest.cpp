@@ -9,8 +9,8 @@
 #include <thread>
 #include <vector>
 
-#include "standalone/RecordingCommunicator.h"
 #include "standalone/ThreadCommunicator.h"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace zeb::test {
 namespace {

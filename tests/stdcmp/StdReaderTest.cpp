@@ -10,6 +10,7 @@
 #include "tests/cmx/Expectations.hpp"
 #include "tests/stdcmp/PublicValues.hpp"
 #include "tests/stdcmp/StdReading.hpp"
+#include "tests/support/HeadLines.hpp"
 
 namespace {
 
@@ -19,146 +20,36 @@ using zebtest::publicValues;
 
 class StdReader : public zebtest::StdReading {};
 
-// --- Gating by line order
-
-TEST_F(StdReader, KeyAboveTheGateMethodIsIgnoredAndBelowItTaken) {
-  read("[MultiGate]\nTolInletQ = 0.5\nMultipleGateMethod = 1\n[/MultiGate]\n");
-  EXPECT_EQ(m_set.iMultipleGateMethod(), 1);
-  EXPECT_EQ(m_set.dMultipleGateTolInletQ(), 0.05);
-  CZEBKNstdCMPCompParm below;
-  read(below, "[MultiGate]\nMultipleGateMethod = 1\nTolInletQ = 0.5\n[/MultiGate]\n");
-  EXPECT_EQ(below.dMultipleGateTolInletQ(), 0.5);
-}
-
-TEST_F(StdReader, GateMethodBelowOneShutsTheOtherKeysOut) {
-  for (const std::string method : {"-1", "0"}) {
-    read("[MultiGate]\nMultipleGateMethod = " + method + "\nTolInletQ = 0.5\nDebug = 7\n[/MultiGate]\n");
-    EXPECT_EQ(m_set.dMultipleGateTolInletQ(), 0.05);
-    EXPECT_EQ(m_set.iMultipleGateDebug(), 0);
-  }
-}
-
-TEST_F(StdReader, GateShutsAgainWhenTheMethodFalls) {
-  read("[MultiGate]\nMultipleGateMethod = 2\nDebug = 7\nMultipleGateMethod = 0\nDebug = 8\n[/MultiGate]\n");
-  EXPECT_EQ(m_set.iMultipleGateDebug(), 7);
-}
-
-TEST_F(StdReader, GateMethodOfAnEarlierSectionCounts) {
-  read("[MultiGate]\nMultipleGateMethod = 1\n[/MultiGate]\n[MultiGate]\nTolInletQ = 0.5\n[/MultiGate]\n");
-  EXPECT_EQ(m_set.dMultipleGateTolInletQ(), 0.5);
-}
-
 // --- The head
-
-TEST_F(StdReader, Version1013IsFollowedByTheHead) {
-  read("[VER] 1013\n" + kHead);
-  EXPECT_EQ(m_set.ilsolvU(), 1);
-  EXPECT_EQ(m_set.ilsolvT(), 6);
-  EXPECT_EQ(m_set.iNRestartIP(), 14);
-  EXPECT_EQ(m_set.iPreCond(), 21);
-  EXPECT_EQ(m_set.ddt(), 0.043);
-  EXPECT_EQ(m_set.dtoler(), 0.05);
-  EXPECT_EQ(m_set.drelaxIT(), 0.96);
-  EXPECT_EQ(m_set.ilCmpChk(), 1);
-  EXPECT_EQ(m_set.dVisRelax(), 1.42);
-  EXPECT_EQ(m_set.iCouple_Type(), 161);
-  EXPECT_EQ(m_set.dnonOrthLimitFactor(), 1.63);
-}
-
-TEST_F(StdReader, OtherVersionsHaveNoHead) {
-  const auto defaults = publicValues(m_set);
-  for (const std::string line : {"[VER] 1014", "[VER] 1023", "[VER] -1013", "[VER]", "[VER] x", "[VER]1013",
-                                 "[VER] v 1013", "[ver] 1013", "[VER] 10 13"}) {
-    read(line + "\n" + kHead);
-    EXPECT_EQ(publicValues(m_set), defaults) << line;
-  }
-}
-
-TEST_F(StdReader, VersionIsTheSecondWordOfALineThatHoldsTheTag) {
-  read("a[VER]b +1013 more\n" + kHead);
-  EXPECT_EQ(m_set.ilsolvU(), 1);
-}
-
-TEST_F(StdReader, ShortHeadConsumesTheSectionsThatFollow) {
-  read("[VER] 1013\n1 2 3 4 5 6\n[General]\nAutoHTC = 5\n[/General]\n");
-  EXPECT_EQ(m_set.ilsolvU(), 1);
-  EXPECT_EQ(m_set.iAutoHTC(), 0);
-  EXPECT_EQ(m_set.iNRestartIU(), 1) << "a line that does not parse keeps the values";
-}
-
-TEST_F(StdReader, FieldsBehindTheFirstThatDoesNotParseKeepTheirValues) {
-  read("[VER] 1013\n1 2 x 4 5 6\n");
-  EXPECT_EQ(m_set.ilsolvV(), 2);
-  EXPECT_EQ(m_set.ilsolvW(), 2);
-  EXPECT_EQ(m_set.ilsolvP(), 2);
-}
-
-TEST_F(StdReader, ThirdFieldOfLine16NeedsTheDiscardedSecond) {
-  std::string lines;
-  for (int line = 1; line <= 15; ++line) lines += "\n";
-  read("[VER] 1013\n" + lines + "3 x 0.25\n\n");
-  EXPECT_EQ(m_set.iCouple_Type(), 3);
-  EXPECT_EQ(m_set.dnonOrthLimitFactor(), 0.5);
-}
 
 TEST_F(StdReader, LinesOfTheHeadAreHandedOutOneByOne) {
   read("[VER] 1013\n" + kHead);
-  int a = 0, b = 0, c = 0, d = 0, e = 0, f = 0;
-  double p = 0, q = 0, r = 0, s = 0, t = 0, u = 0;
-  const auto ints = [&] { return std::vector<int>{a, b, c, d, e, f}; };
-  const auto doubles = [&] { return std::vector<double>{p, q, r, s, t, u}; };
-  EXPECT_EQ(m_set.getLine1(a, b, c, d, e, f), 1);
-  EXPECT_EQ(ints(), (std::vector<int>{1, 2, 3, 4, 5, 6}));
-  EXPECT_EQ(m_set.getLine2(a, b, c, d), 1);
-  EXPECT_EQ(ints(), (std::vector<int>{11, 12, 13, 14, 5, 6}));
-  EXPECT_EQ(m_set.getLine3(a), 1);
-  EXPECT_EQ(a, 21);
-  EXPECT_EQ(m_set.getLine4(a, b, c, d, e, f), 1);
-  EXPECT_EQ(ints(), (std::vector<int>{31, 32, 33, 34, 35, 36}));
-  EXPECT_EQ(m_set.getLine5(a, b, p, q), 1);
-  EXPECT_EQ(ints(), (std::vector<int>{41, 42, 33, 34, 35, 36}));
-  EXPECT_EQ(doubles(), (std::vector<double>{0.043, 0.044, 0, 0, 0, 0}));
-  EXPECT_EQ(m_set.getLine6(p), 1);
-  EXPECT_EQ(p, 0.05);
-  EXPECT_EQ(m_set.getLine7(p, q, r, s, t, u), 1);
-  EXPECT_EQ(doubles(), (std::vector<double>{0.61, 0.62, 0.63, 0.64, 0.65, 0.66}));
-  EXPECT_EQ(m_set.getLine8(a, b, c, d, e, f), 1);
-  EXPECT_EQ(ints(), (std::vector<int>{71, 72, 73, 74, 75, 76}));
-  EXPECT_EQ(m_set.getLine9(p, q, r, s, t, u), 1);
-  EXPECT_EQ(doubles(), (std::vector<double>{0.81, 0.82, 0.83, 0.84, 0.85, 0.86}));
-  EXPECT_EQ(m_set.getLine10(p, q, r, s, t, u), 1);
-  EXPECT_EQ(doubles(), (std::vector<double>{0.91, 0.92, 0.93, 0.94, 0.95, 0.96}));
-  EXPECT_EQ(m_set.getLine12(a), 1);
-  EXPECT_EQ(a, 1);
-  EXPECT_EQ(m_set.getLine14(p, q), 1);
-  EXPECT_EQ(p, 1.41);
-  EXPECT_EQ(q, 1.42);
-  EXPECT_EQ(m_set.getLine16(a, p), 1);
-  EXPECT_EQ(a, 161);
-  EXPECT_EQ(p, 1.63);
+  using Set = CZEBKNstdCMPCompParm;
+  using zebtest::HeadLine;
+  using zebtest::headLine;
+  EXPECT_EQ(headLine(m_set, &Set::getLine1), (HeadLine{1, {1, 2, 3, 4, 5, 6}}));
+  EXPECT_EQ(headLine(m_set, &Set::getLine2), (HeadLine{1, {11, 12, 13, 14}}));
+  EXPECT_EQ(headLine(m_set, &Set::getLine3), (HeadLine{1, {21}}));
+  EXPECT_EQ(headLine(m_set, &Set::getLine4), (HeadLine{1, {31, 32, 33, 34, 35, 36}}));
+  EXPECT_EQ(headLine(m_set, &Set::getLine5), (HeadLine{1, {41, 42, 0.043, 0.044}}));
+  EXPECT_EQ(headLine(m_set, &Set::getLine6), (HeadLine{1, {0.05}}));
+  EXPECT_EQ(headLine(m_set, &Set::getLine7), (HeadLine{1, {0.61, 0.62, 0.63, 0.64, 0.65, 0.66}}));
+  EXPECT_EQ(headLine(m_set, &Set::getLine8), (HeadLine{1, {71, 72, 73, 74, 75, 76}}));
+  EXPECT_EQ(headLine(m_set, &Set::getLine9), (HeadLine{1, {0.81, 0.82, 0.83, 0.84, 0.85, 0.86}}));
+  EXPECT_EQ(headLine(m_set, &Set::getLine10), (HeadLine{1, {0.91, 0.92, 0.93, 0.94, 0.95, 0.96}}));
+  EXPECT_EQ(headLine(m_set, &Set::getLine12), (HeadLine{1, {1}}));
+  EXPECT_EQ(headLine(m_set, &Set::getLine14), (HeadLine{1, {1.41, 1.42}}));
+  EXPECT_EQ(headLine(m_set, &Set::getLine16), (HeadLine{1, {161, 1.63}}));
 }
 
 // --- Sections
 
-TEST_F(StdReader, SectionWithoutEndTagRunsToTheEndOfTheFile) {
-  read("[General]\nAutoHTC = 5\n[StableFlag]\nnSmooth_dP = 3\nKeepCCF = 1");
-  EXPECT_EQ(m_set.iAutoHTC(), 5);
-  EXPECT_EQ(m_set.iKeepCCF(), 1);
-  EXPECT_EQ(m_set.nSmooth_dP(), 0);
-}
-
-TEST_F(StdReader, KeysOfOneSectionAreUnknownInAnother) {
-  const auto defaults = publicValues(m_set);
-  read(
-      "AutoHTC = 5\n[Outlet]\nAutoHTC = 5\n[/Outlet]\n[StableFlag]\nAutoHTC = 5\n[/StableFlag]\n[general]\nAutoHTC = "
-      "5\n");
-  EXPECT_EQ(publicValues(m_set), defaults);
-}
-
-TEST_F(StdReader, VersionAndSectionOnOneLineAreBothRead) {
-  read("[VER] 1013 [General]\n" + kHead + "AutoHTC = 5\n[/General]\n");
-  EXPECT_EQ(m_set.ilsolvU(), 1);
-  EXPECT_EQ(m_set.iAutoHTC(), 5);
+TEST_F(StdReader, SecondFileIsReadOverTheFirst) {
+  read("[VER] 1013\n" + kHead + "[General]\nAutoHTC = 5\nKeepCCF = 1\n[/General]\n");
+  auto expected = publicValues(m_set);
+  expected["iAutoHTC"] = 6;
+  read("[General]\nAutoHTC = 6\n[/General]\n");
+  EXPECT_EQ(publicValues(m_set), expected);
 }
 
 TEST_F(StdReader, MissingFileKeepsTheDefaults) {
@@ -227,6 +118,31 @@ TEST_F(StdReader, ConformalCoolingMode1SetsToleranceAndPressureIterationsSilentl
   EXPECT_EQ(other.iNiterInIP(), 100);
 }
 
+TEST_F(StdReader, ConformalCoolingMode1RepairsTheDefaultsToo) {
+  EXPECT_EQ(zebtest::outputOf([this] { EXPECT_EQ(m_set.modifyParm_ConformalCooling(1), 1); }), "");
+  EXPECT_EQ(m_set.dtoler(), 0.1);
+  EXPECT_EQ(m_set.dBlendIT(), 0.0);
+  EXPECT_EQ(m_set.drelaxIP(), 0.6);
+  EXPECT_EQ(m_set.iNiterInIP(), 20);
+}
+
+TEST_F(StdReader, ConformalCoolingTellsItsRepairsForAnyCheckThatIsNot0) {
+  read(headWith("0.01", "0.8", "0.6", "-3", "1"));
+  EXPECT_EQ(zebtest::outputOf([this] { m_set.modifyParm_ConformalCooling(1); }),
+            "\n>>> tol restored from 0.01 to 0.1\n\n"
+            "\n>>> bT restored from 0.8 to 0.0\n\n"
+            "\n>>> rp restored from 0.6 to 0.2\n\n");
+  EXPECT_EQ(m_set.iNiterInIP(), 20);
+}
+
+TEST_F(StdReader, ConformalCoolingRepairsThePressureForCoupling1Only) {
+  for (const std::string coupling : {"0", "-1", "2", "11"}) {
+    read(headWith("0.5", "0.3", "0.6", "1", coupling));
+    EXPECT_EQ(zebtest::outputOf([this] { m_set.modifyParm_ConformalCooling(0); }), "") << coupling;
+    EXPECT_EQ(m_set.drelaxIP(), 0.6) << coupling;
+  }
+}
+
 // --- Communicator and copies
 
 TEST_F(StdReader, SingleProcessCommunicatorIsRefusedAndTheReaderStaysSerial) {
@@ -269,6 +185,25 @@ TEST_F(StdReader, CommunicatorSetOnACopyStaysWithTheCopy) {
   CZEBKNstdCMPCompParm copyOfCopy(copy);
   read(copyOfCopy, "x\n");
   EXPECT_FALSE(two.log().empty());
+}
+
+TEST_F(StdReader, CommunicatorWithoutRanksIsRefused) {
+  for (const int ranks : {0, -1}) {
+    zeb::RecordingCommunicator com(ranks);
+    EXPECT_EQ(m_set.setZEBCom(&com), -2) << ranks;
+  }
+}
+
+TEST_F(StdReader, OtherRanksOpenAndPrintNothingAndTakeRank0sLines) {
+  zeb::RecordingCommunicator first(2);
+  CZEBKNstdCMPCompParm rank0;
+  EXPECT_EQ(rank0.setZEBCom(&first), 1);
+  read(rank0, "[General]\nAutoHTC = 5\n[/General]\n");
+  zeb::ReplayingCommunicator second(first.log(), 1, 2);
+  EXPECT_EQ(m_set.setZEBCom(&second), 1);
+  EXPECT_EQ(read("[General]\nAutoHTC = 8\n[/General]\n"), "");
+  EXPECT_TRUE(second.finished());
+  EXPECT_EQ(m_set.iAutoHTC(), 5);
 }
 
 // --- Line source
@@ -321,6 +256,30 @@ TEST_F(StdReader, PublicLineSourceDeliversLineByLine) {
   EXPECT_EQ(m_set.ZEB_getline_Parallel(stream, line), 1);
   EXPECT_EQ(line, "last");
   EXPECT_EQ(m_set.ZEB_getline_Parallel(stream, line), 0);
+}
+
+TEST_F(StdReader, LineSourceCutsOnEveryRankAndEndsOnAllInTheSameCall) {
+  const std::string longest(254, 'x');
+  std::string line;
+
+  zeb::RecordingCommunicator first(2);
+  EXPECT_EQ(m_set.setZEBCom(&first), 1);
+  std::istringstream stream(longest + "yz\n");
+  const std::string echo = zebtest::outputOf([&] { EXPECT_EQ(m_set.ZEB_getline_Parallel(stream, line), 1); });
+  EXPECT_EQ(echo, " - CPUID:0 string: " + longest + "yz\n") << "the line as it stands in the file";
+  EXPECT_EQ(line, longest);
+  EXPECT_EQ(zebtest::outputOf([&] { EXPECT_EQ(m_set.ZEB_getline_Parallel(stream, line), 0); }), "");
+  EXPECT_EQ(line, "");
+  EXPECT_EQ(first.log().calls(),
+            (std::vector<std::string>{"Barrier", "Broadi 0", "Broadc \"" + longest + "\"", "Barrier", "Broadi -1"}));
+
+  zeb::ReplayingCommunicator second(first.log(), 1, 2);
+  EXPECT_EQ(m_set.setZEBCom(&second), 1);
+  std::istringstream none;
+  EXPECT_EQ(m_set.ZEB_getline_Parallel(none, line), 1);
+  EXPECT_EQ(line, longest);
+  EXPECT_EQ(m_set.ZEB_getline_Parallel(none, line), 0);
+  EXPECT_EQ(line, longest) << "a rank that does not read keeps its line";
 }
 
 TEST_F(StdReader, AllRanksHoldWhatASerialRunReads) {

@@ -21,8 +21,9 @@ inline std::string unquoted(const std::string& cell) {
       text += cell[i];
       continue;
     }
-    ++i;
-    text += cell[i] == 't' ? '\t' : cell[i] == 'n' ? '\n' : cell[i];
+    static const std::string kLetters = "tnrvf0", kMeanings("\t\n\r\v\f\0", 6);
+    const std::size_t letter = kLetters.find(cell[++i]);
+    text += letter == std::string::npos ? cell[i] : kMeanings[letter];
   }
   return text;
 }

@@ -15,6 +15,9 @@ namespace zebtest {
 using Timing = COutput_F2C_MultiTiming;
 using Entries = std::vector<std::pair<double, int>>;
 
+/// The output moments of ten seconds in four steps.
+inline const Entries kGridOf10{{2.5, 0}, {5.0, 0}, {7.5, 0}};
+
 struct Result {
   int status;
   Entries entries;

@@ -205,16 +205,59 @@ std::string lineDifferences(const std::string& expected, const std::string& actu
   return differences.str();
 }
 
-void expectGolden(const std::string& name, const std::string& actual) {
-  const auto path = std::filesystem::path(ZEB_TEST_DATA_DIR).parent_path() / "tool" / "golden" / name;
+std::filesystem::path goldenPath(const std::string& name) {
+  return std::filesystem::path(ZEB_TEST_DATA_DIR).parent_path() / "tool" / "golden" / name;
+}
+
+bool updatesGoldens() {
   const char* update = std::getenv("UPDATE_GOLDEN");
-  if (update != nullptr && std::string(update) == "1") {
+  return update != nullptr && std::string(update) == "1";
+}
+
+void expectText(const std::string& name, const std::string& expected, const std::string& actual) {
+  EXPECT_TRUE(expected == actual) << name << " (UPDATE_GOLDEN=1 rewrites it)\n" << lineDifferences(expected, actual);
+}
+
+void expectGolden(const std::string& name, const std::string& actual) {
+  const auto path = goldenPath(name);
+  if (updatesGoldens()) {
     std::ofstream(path, std::ios::binary) << actual;
     return;
   }
   ASSERT_TRUE(std::filesystem::exists(path)) << path << "; UPDATE_GOLDEN=1 writes it";
-  const std::string expected = zebtest::contentOf(path.string());
-  EXPECT_TRUE(expected == actual) << name << " (UPDATE_GOLDEN=1 rewrites it)\n" << lineDifferences(expected, actual);
+  expectText(name, zebtest::contentOf(path.string()), actual);
+}
+
+// A golden that holds only the lines that another one has otherwise, each behind its number: "12: m_iPIM = 1".
+const char* const kWholeDump = "standard-flow.raw.txt";
+
+std::map<std::size_t, std::string> numbered(const std::string& text) {
+  std::map<std::size_t, std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines[lines.size() + 1] = line;
+  return lines;
+}
+
+void expectDifferences(const std::string& name, const std::string& actual) {
+  std::map<std::size_t, std::string> expected = numbered(zebtest::contentOf(goldenPath(kWholeDump).string()));
+  const auto path = goldenPath(name);
+  if (updatesGoldens()) {
+    std::ofstream stream(path, std::ios::binary);
+    for (const auto& [number, line] : numbered(actual)) {
+      if (expected[number] != line) stream << number << ": " << line << '\n';
+    }
+    return;
+  }
+  ASSERT_TRUE(std::filesystem::exists(path)) << path << "; UPDATE_GOLDEN=1 writes it";
+  std::istringstream differences(zebtest::contentOf(path.string()));
+  for (std::string line; std::getline(differences, line);) {
+    const std::size_t colon = line.find(": ");
+    ASSERT_NE(colon, std::string::npos) << name << ": " << line;
+    expected[std::stoul(line)] = line.substr(colon + 2);
+  }
+  std::string text;
+  for (const auto& [number, line] : expected) text += line + '\n';
+  expectText(name, text, actual);
 }
 
 class ShowExample : public testing::TestWithParam<const char*> {
@@ -237,7 +280,9 @@ TEST_P(ShowExample, RawDumpIsTheGolden) {
   const ToolRun run = show({"--raw"});
   ASSERT_EQ(run.exitCode, 0) << run.err;
   // The dump shows two arrays by their address.
-  expectGolden(std::string(GetParam()) + ".raw.txt", std::regex_replace(run.out, std::regex("0x[0-9a-f]+"), "ADDRESS"));
+  const std::string name = GetParam(), dump = std::regex_replace(run.out, std::regex("0x[0-9a-f]+"), "ADDRESS");
+  if (name + ".raw.txt" == kWholeDump) return expectGolden(kWholeDump, dump);
+  expectDifferences(name + ".raw.diff.txt", dump);
 }
 
 INSTANTIATE_TEST_SUITE_P(Examples, ShowExample,

@@ -5,15 +5,18 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "engine/ReadObserver.hpp"
-#include "standalone/RecordingCommunicator.h"
-#include "tests/standalone/TestFolder.h"
+#include "tests/support/RecordingCommunicator.h"
+#include "tests/support/TestFolder.hpp"
 #include "tests/viscoelastic/ViscoelasticSupport.hpp"
 
 namespace {
@@ -121,6 +124,111 @@ TEST(DefaultViscoelasticFile, ReadBackLeavesEveryMemberAsItWas) {
   EXPECT_EQ(zebtest::stateOf(block), before);
   EXPECT_EQ(block.getCtrlParam_TLowBond(), 105.0);
   EXPECT_EQ(contentOf(name), kDefaultFile);
+}
+
+// Everything behind the head is the same for all models.
+std::string defaultFileOf(const std::string& head) {
+  const std::string text = kDefaultFile;
+  return head + text.substr(text.find("-1\n"));
+}
+
+TEST(DefaultViscoelasticFile, HasTheBoundsOfItsModel) {
+  const char* const kModel2Head =
+      "1006\n"
+      "0.000000 1.000000 0.000000\n"
+      "1000.000000 1.000000 5000.000000\n"
+      "20.000000 0.010000 20.000000\n"
+      "1000.000000 1000000.000000\n"
+      "0.000000 10000.000000 0.000000\n"
+      "10.000000 1.000000 50.000000\n"
+      "2 0.000000 0\n";
+  const std::string kModel3Head =
+      "1006\n"
+      "0.000000 1.000000 0.000000\n"
+      "1000.000000 1.000000 5000.000000\n"
+      "20.000000 1.000000 20.000000\n"
+      "1000.000000 1000000.000000\n"
+      "0.000000 10000.000000 0.000000\n"
+      "10.000000 1.000000 50.000000\n";
+  const std::pair<int, std::string> heads[] = {
+      {2, kModel2Head}, {3, kModel3Head + "3 0.000000 0\n"}, {19, kModel3Head + "19 0.000000 0\n"}};
+  for (const auto& [model, head] : heads) {
+    const TestFolder folder;
+    const std::string name = folder.path("thing.vecmp");
+    CZEBCMPVEParm block;
+    block.setVEModel(model);
+    block.setTgPoint(120.0);
+    EXPECT_EQ(zeb::readViscoelasticFile(name, block, zeb::LineSource{}, nullptr), -1);
+    EXPECT_EQ(contentOf(name), defaultFileOf(head)) << model;
+    const auto before = zebtest::stateOf(block);
+    EXPECT_EQ(printedBy([&] { EXPECT_EQ(zeb::readViscoelasticFile(name, block, zeb::LineSource{}, nullptr), 1); }), "");
+    EXPECT_EQ(block.getCtrlParam_TLowBond(), 120.0);
+    EXPECT_EQ(zebtest::stateOf(block).size(), before.size());
+  }
+}
+
+TEST(DefaultViscoelasticFile, TakesThePlaceOfAnInvalidOneWithTheModelThatWasSet) {
+  const TestFolder folder;
+  const std::string name = folder.write("thing.vecmp", fileWith({{8, "4 0.5 0"}, {9, "-1"}}));
+  CZEBCMPVEParm block;
+  block.setVEModel(2);
+  EXPECT_EQ(zeb::readViscoelasticFile(name, block, zeb::LineSource{}, nullptr), -1);
+  EXPECT_EQ(block.getVEModel(), 2);
+  EXPECT_NE(contentOf(name).find("\n2 0.000000 0\n-1\n"), std::string::npos);
+}
+
+TEST(DefaultViscoelasticFile, NewerInvalidFileTakesThePlaceOfAnOlderBackup) {
+  const TestFolder folder;
+  const std::string name = folder.write("thing.vecmp", "newer\n");
+  folder.write("thing.vecmp.bak", "older\n");
+  EXPECT_EQ(zeb::writeDefaultViscoelasticFile(name, CZEBCMPVEParm()), 1);
+  EXPECT_EQ(contentOf(name), kDefaultFile);
+  EXPECT_EQ(contentOf(name + ".bak"), "newer\n");
+}
+
+TEST(DefaultViscoelasticFile, BackupIsTheFileItself) {
+  const TestFolder folder;
+  const std::string name = folder.write("thing.vecmp", "nonsense\n");
+  const auto written = std::filesystem::last_write_time(name) - std::chrono::hours(5);
+  std::filesystem::last_write_time(name, written);
+  EXPECT_EQ(zeb::writeDefaultViscoelasticFile(name, CZEBCMPVEParm()), 1);
+  EXPECT_EQ(std::filesystem::last_write_time(name + ".bak"), written);
+}
+
+TEST(DefaultViscoelasticFile, UntouchedDefaultOfAnotherModelDoesNotPushTheUsersFileOut) {
+  const TestFolder folder;
+  const std::string name = folder.write("thing.vecmp", "nonsense\n");
+  for (const int model : {1, 3, 2}) {
+    CZEBCMPVEParm block;
+    block.setVEModel(model);
+    EXPECT_EQ(zeb::readViscoelasticFile(name, block, zeb::LineSource{}, nullptr), -1);
+    EXPECT_NE(contentOf(name).find("\n" + std::to_string(model) + " 0.000000 0\n"), std::string::npos);
+    EXPECT_EQ(contentOf(name + ".bak"), "nonsense\n") << model;
+  }
+}
+
+TEST(DefaultViscoelasticFile, JobsThatWriteAtTheSameTimeKeepTheUsersFile) {
+  constexpr int kRounds = 50, kJobs = 4;
+  for (int round = 0; round < kRounds; ++round) {
+    const TestFolder folder;
+    const std::string name = folder.write("thing.vecmp", "nonsense\n");
+    std::vector<int> results(kJobs);
+    std::vector<std::thread> jobs;
+    for (int job = 0; job < kJobs; ++job) {
+      jobs.emplace_back([&, job] {
+        CZEBCMPVEParm block;
+        block.setVEModel(job % 2 + 1);
+        block.InitBoundingParameters();
+        results[static_cast<std::size_t>(job)] = zeb::writeDefaultViscoelasticFile(name, block);
+      });
+    }
+    for (std::thread& job : jobs) job.join();
+    ASSERT_EQ(results, (std::vector<int>(kJobs, 1)));
+    ASSERT_EQ(contentOf(name + ".bak"), "nonsense\n") << "round " << round;
+    ASSERT_EQ(contentOf(name).substr(0, 5), "1006\n");
+    const auto files = std::filesystem::directory_iterator(folder.path());
+    ASSERT_EQ(std::distance(begin(files), end(files)), 2) << "no temporary is left";
+  }
 }
 
 // --- The user's file --------------------------------------------------------------------------------------------

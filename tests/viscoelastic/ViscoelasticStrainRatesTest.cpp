@@ -20,85 +20,11 @@ std::string transient(const std::string& lines) {
   return fileWith({}, "<PLOT_TRANSIENT_EXTENSION_MATERIAL>\n" + lines);
 }
 
-TEST(ViscoelasticStrainRates, OnlyAsManyAsAnnouncedAreTaken) {
-  CZEBCMPVEParm block;
-  readText(block, transient("TotalSetofInputSRate = 2\nStrainRate = 0.5\nStrainRate = 1.5\nStrainRate = 2.5\n"
-                            "</PLOT_TRANSIENT_EXTENSION_MATERIAL>\n"));
-  EXPECT_EQ(block.getMatFunPlotParam_Transient_NSetofInput_StrainRate(), 2);
-  const double* rates = block.getMatFunPlotParam_Transient_InputStrainRate();
-  ASSERT_NE(rates, nullptr);
-  EXPECT_EQ(rates[0], 0.0);
-  EXPECT_EQ(rates[1], 0.5);
-  EXPECT_EQ(rates[2], 1.5);
-}
-
-TEST(ViscoelasticStrainRates, MissingOnesStayZero) {
-  CZEBCMPVEParm block;
-  readText(block, transient("TotalSetofInputSRate = 3\nother\nStrainRate = 0.5\n"));
-  const double* rates = block.getMatFunPlotParam_Transient_InputStrainRate();
-  ASSERT_NE(rates, nullptr);
-  EXPECT_EQ(rates[1], 0.5);
-  EXPECT_EQ(rates[2], 0.0);
-  EXPECT_EQ(rates[3], 0.0);
-}
-
-TEST(ViscoelasticStrainRates, RateThatIsNoNumberStoresNothing) {
-  CZEBCMPVEParm block;
-  readText(block, transient("TotalSetofInputSRate = 2\nStrainRate = x\nStrainRate 4\nStrainRate = 7\n"));
-  const double* rates = block.getMatFunPlotParam_Transient_InputStrainRate();
-  ASSERT_NE(rates, nullptr);
-  EXPECT_EQ(rates[1], 7.0);
-  EXPECT_EQ(rates[2], 0.0);
-}
-
-TEST(ViscoelasticStrainRates, ListReadsPastItsClosingTagToTheEndOfTheFile) {
-  CZEBCMPVEParm block;
-  readText(block, transient("TotalSetofInputSRate = 2\nRefTemperature = 1\n</PLOT_TRANSIENT_EXTENSION_MATERIAL>\n"
-                            "<VE_Solver>\nVE_Para1 = 0.2\nStrainRate = 4\n</VE_Solver>\n"));
-  ASSERT_NE(block.getMatFunPlotParam_Transient_InputStrainRate(), nullptr);
-  EXPECT_EQ(block.getMatFunPlotParam_Transient_InputStrainRate()[1], 4.0);
-  EXPECT_EQ(block.getRelaxationFactor_Tau(), 0.7);
-  EXPECT_EQ(block.getMatFunPlotParam_Transient_RefTem(), 200.0);
-}
-
-TEST(ViscoelasticStrainRates, NotPositiveCountIsStoredSilentlyAndOpensNoList) {
-  for (const int count : {0, -1, -7}) {
-    CZEBCMPVEParm block;
-    EXPECT_EQ(printedBy([&] {
-                readText(block, transient("TotalSetofInputSRate = " + std::to_string(count) +
-                                          "\nStrainRate = 1\nRefTemperature = 3\n"));
-              }),
-              "");
-    EXPECT_EQ(block.getMatFunPlotParam_Transient_NSetofInput_StrainRate(), count);
-    EXPECT_EQ(block.getMatFunPlotParam_Transient_InputStrainRate(), nullptr);
-    EXPECT_EQ(block.getMatFunPlotParam_Transient_RefTem(), 3.0) << "the lines after it are the block's own";
-  }
-}
-
-TEST(ViscoelasticStrainRates, CountTooLargeIsRefusedWithOneLine) {
-  CZEBCMPVEParm block;
-  const std::string printed =
-      printedBy([&] { readText(block, transient("TotalSetofInputSRate = 1000001\nStrainRate = 1\n")); });
-  EXPECT_EQ(block.getMatFunPlotParam_Transient_NSetofInput_StrainRate(), 0);
-  EXPECT_EQ(block.getMatFunPlotParam_Transient_InputStrainRate(), nullptr);
-  EXPECT_NE(printed.find("PLOT_TRANSIENT_EXTENSION_MATERIAL"), printed.npos);
-  EXPECT_NE(printed.find("TotalSetofInputSRate"), printed.npos);
-  EXPECT_NE(printed.find("1000001"), printed.npos);
-  EXPECT_EQ(printed.find('\n'), printed.size() - 1);
-}
-
 TEST(ViscoelasticStrainRates, LargestCountIsAccepted) {
   CZEBCMPVEParm block;
   EXPECT_EQ(printedBy([&] { readText(block, transient("TotalSetofInputSRate = 1000000\nStrainRate = 1\n")); }), "");
   EXPECT_EQ(block.getMatFunPlotParam_Transient_NSetofInput_StrainRate(), 1000000);
   EXPECT_EQ(block.getMatFunPlotParam_Transient_InputStrainRate()[1000000], 0.0);
-}
-
-TEST(ViscoelasticStrainRates, CountThatIsNoNumberOpensNoList) {
-  CZEBCMPVEParm block;
-  readText(block, transient("TotalSetofInputSRate = two\nStrainRate = 1\n"));
-  EXPECT_EQ(block.getMatFunPlotParam_Transient_NSetofInput_StrainRate(), -1);
-  EXPECT_EQ(block.getMatFunPlotParam_Transient_InputStrainRate(), nullptr);
 }
 
 TEST(ViscoelasticStrainRates, ArrayIsMadeOnlyOnce) {
@@ -131,32 +57,6 @@ TEST(ViscoelasticStrainRates, CopiesShareTheArray) {
   }
   EXPECT_EQ(assigned.getMatFunPlotParam_Transient_InputStrainRate(), rates);
   EXPECT_EQ(rates[1], 5.0);
-}
-
-TEST(ViscoelasticStrainRates, ElongationFlagOfOneSetsTheSwitchAndIsPrinted) {
-  CZEBCMPVEParm block;
-  const std::string printed = printedBy([&] {
-    readText(block, transient("FlagIsPlotElongVis_Transient = 1\nRefTemperature = 240\nDeltaTemperature = 15\n"
-                              "DeltaTime = 0.02\nTargetTime = 120\nSRateLowerBound = 0.02\nSRateUpperBound = 8\n"
-                              "TotalSetofInputSRate = 3\nStrainRate = 0.05\nStrainRate = 0.5\n"
-                              "</PLOT_TRANSIENT_EXTENSION_MATERIAL>\n"));
-  });
-  EXPECT_TRUE(block.getMatFunPlotParam_Transient_isPlotMaterialFun());
-  EXPECT_FALSE(block.getMatFunPlotParam_isPlotMaterialFun());
-  EXPECT_EQ(printed,
-            "\n*********************\n"
-            "FlagIsPlotElongVis_Transient = 1\n"
-            "RefTemperature               = 240\n"
-            "DeltaTemperature             = 15\n"
-            "DeltaTime                    = 0.02\n"
-            "TargetTime                   = 120\n"
-            "SRateLowerBound              = 0.02\n"
-            "SRateUpperBound              = 8\n"
-            "TotalSetofInputSRate         = 3\n"
-            "#1 StrainRate                = 0.05\n"
-            "#2 StrainRate                = 0.5\n"
-            "#3 StrainRate                = 0\n"
-            "*********************\n");
 }
 
 // --- What an observer learns ------------------------------------------------------------------------------------
