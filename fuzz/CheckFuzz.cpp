@@ -101,10 +101,10 @@ void requireParses(const std::vector<zeb::Diagnostic>& all) {
 void requireSound(zeb::DiagnosticList& found, const Input& input) {
   found.sort();
   const std::vector<std::string_view> lines = linesOf(input.content), companionLines = linesOf(input.companion);
-  std::map<std::pair<int, zeb::CheckRule>, int> counts;
+  std::map<std::pair<int, const zeb::CheckRule*>, int> counts;
   for (const zeb::Diagnostic& one : found.all()) {
     require(one.file == kFileName || one.file == kCompanionName, "a finding in no file");
-    require(one.rule != zeb::CheckRule::kEqualsDefault || input.tellsDefaults, "a rule that is off");
+    require(one.rule != &zeb::kEqualsDefault || input.tellsDefaults, "a rule that is off");
     requireInside(one, one.file == kFileName ? lines : companionLines);
     requireWorded(one);
     const int count = ++counts[{one.fileOrder, one.rule}];
@@ -118,7 +118,7 @@ std::string checkOnce(const Input& input, bool isFirst) {
   files.add(kFileName, input.content);
   if (input.hasCompanion) files.add(kCompanionName, input.companion);
   zeb::DiagnosticList found;
-  found.enable(zeb::CheckRule::kEqualsDefault, input.tellsDefaults);
+  found.enable(zeb::kEqualsDefault, input.tellsDefaults);
   zeb::checkFile(kFileName, input.kind, input.options, found);
   requireSound(found, input);
   std::string text;

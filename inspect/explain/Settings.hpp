@@ -32,7 +32,4 @@ struct BlockSettings {
 /// The settings of the blocks, in the order of declaration. `origins` may be null: then every origin is the default.
 std::vector<BlockSettings> settingsOf(const std::vector<BlockView>& blocks, const Origins* origins);
 
-/// Every value of every block on a line of its own: two sets are equal when these texts are.
-std::string fingerprint(const std::vector<BlockView>& blocks);
-
 }  // namespace zeb

@@ -47,4 +47,16 @@ std::string describe(const Row& row) {
          " is taken.";
 }
 
+std::string fingerprint(const std::vector<BlockView>& blocks) {
+  std::string text;
+  for (const BlockView& view : blocks) {
+    for (const Section& section : view.table->sections) {
+      for (const Row& row : section.rows) {
+        text += view.name + "." + std::string(row.field.member) + " = " + valueOf(row, view.block) + "\n";
+      }
+    }
+  }
+  return text;
+}
+
 }  // namespace zeb

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "engine/ParameterTable.hpp"
+#include "inspect/set/Inspection.hpp"
 
 namespace zeb {
 
@@ -17,5 +19,8 @@ std::string valueOf(const Row& row, void* block);
 
 /// What the member means, and the limit of its value in a head.
 std::string describe(const Row& row);
+
+/// Every value of every block on a line of its own: two sets are equal when these texts are.
+std::string fingerprint(const std::vector<BlockView>& blocks);
 
 }  // namespace zeb

@@ -381,7 +381,7 @@ std::vector<std::string> companionFindings(const std::string& content, const std
 // Line and text that the refusal of the companion points to.
 std::string companionExcerpt(const std::string& companion) {
   for (const auto& finding : findingsWith("", companion, 0)) {
-    if (finding.rule == zeb::CheckRule::kViscoelasticRefused) {
+    if (finding.rule == &zeb::kViscoelasticRefused) {
       return std::to_string(finding.place.line) + " " + finding.place.text;
     }
   }

@@ -29,7 +29,7 @@ inline std::vector<zeb::Diagnostic> findingsIn(const std::string& content, const
   return findingsOf(file.path(), checking);
 }
 
-inline std::string idOf(const zeb::Diagnostic& finding) { return std::string(zeb::info(finding.rule).id); }
+inline std::string idOf(const zeb::Diagnostic& finding) { return std::string(finding.rule->id); }
 
 /// One line per finding, for failures.
 inline std::string told(const std::vector<zeb::Diagnostic>& findings) {

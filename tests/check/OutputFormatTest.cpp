@@ -59,11 +59,11 @@ TEST(SarifOutput, DescribesEveryRuleOnce) {
   const Json& rules = driver.at("rules");
   ASSERT_EQ(rules.size(), zeb::checkRules().size());
   for (std::size_t i = 0; i < rules.size(); ++i) {
-    EXPECT_EQ(rules[i].at("id"), zeb::checkRules()[i].id);
+    EXPECT_EQ(rules[i].at("id"), zeb::checkRules()[i]->id);
     EXPECT_FALSE(rules[i].at("shortDescription").at("text").get<std::string>().empty());
     EXPECT_FALSE(rules[i].at("help").at("text").get<std::string>().empty());
     EXPECT_EQ(rules[i].at("defaultConfiguration").at("level"), "warning");
-    EXPECT_EQ(rules[i].at("defaultConfiguration").at("enabled"), zeb::checkRules()[i].byDefault);
+    EXPECT_EQ(rules[i].at("defaultConfiguration").at("enabled"), zeb::checkRules()[i]->byDefault);
   }
 }
 
@@ -90,7 +90,7 @@ TEST(SarifOutput, EachResultHasRuleLevelMessageAndPlace) {
 TEST(SarifOutput, UrisAreEscapedAndAFindingOfTheWholeFileHasNoRegion) {
   zeb::DiagnosticList found;
   found.startFile("/a b/c%d/\xC3\xBC.cmp");
-  found.add(zeb::CheckRule::kNoExtension, zeb::Place(), "message");
+  found.add(zeb::kNoExtension, zeb::Place(), "message");
   const Json log = zeb::diagnosticsAsSarif(found.all(), "warning");
   const Json place = log.at("runs")[0].at("results")[0].at("locations")[0].at("physicalLocation");
   EXPECT_EQ(place.at("artifactLocation").at("uri"), "file:///a%20b/c%25d/%C3%BC.cmp");

@@ -9,7 +9,6 @@
 
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "cmx/CZEBKNCMXCompParm.h"
-#include "engine/ReadObserver.hpp"
 #include "standalone/SerialCommunicator.h"
 #include "tests/cmx/Expectations.hpp"
 #include "tests/cmx/ReadIntoTool.hpp"
@@ -226,32 +225,6 @@ TEST(CMXBlocks, AssignmentCopiesEveryFieldOfEveryBlock) {
             tool.block<CZEBCMX_FILL_ADVANCED_HRSteady>().pHRGateBC());
   EXPECT_EQ(copy.block<CZEBCMX_FILL_OUTPUT_TIMES>().pOutTimeStep(),
             tool.block<CZEBCMX_FILL_OUTPUT_TIMES>().pOutTimeStep());
-}
-
-struct Watcher : zeb::ReadObserver {
-  std::vector<std::string> events;
-  void add(const std::string& what, int lineNumber) { events.push_back(what + " " + std::to_string(lineNumber)); }
-  void fileStarted(std::string_view) override { events.push_back("file"); }
-  void lineOutside(int number, std::string_view) override { add("outside", number); }
-  void sectionOpened(const zeb::Section&, int number) override { add("opened", number); }
-  void sectionClosed(const zeb::Section&, int number) override { add("closed", number); }
-  void keyFound(const zeb::KeyEvent& event) override { add(std::string(event.key), event.lineNumber); }
-  void lineOfList(const zeb::Section&, int number, std::string_view, bool used) override {
-    add(used ? "used" : "unused", number);
-  }
-};
-
-TEST_F(CMXReader, ObserverSeesEveryLineOfListsAndBlocks) {
-  CZEBCMXInternalTool tool;
-  Watcher watcher;
-  tool.observer = &watcher;
-  tool.setSolidFillBlock(m_folder.write("a.cmx",
-                                        "text\n<PACK_OUTPUT_TIMES>\nValueNoPackOutputTime = 2\n1 = 5\n2\n"
-                                        "</PACK_OUTPUT_TIMES>\n<FILL_ADVANCED_HRSteady>\nValueNoHRGate = 1\n"
-                                        "ValueHRGateType = 1\nG1 = x\n</FILL_ADVANCED_HRSteady>\n"));
-  EXPECT_EQ(watcher.events, (std::vector<std::string>{"file", "outside 1", "opened 2", "ValueNoPackOutputTime 3",
-                                                      "used 4", "unused 5", "closed 6", "opened 7", "ValueNoHRGate 8",
-                                                      "ValueHRGateType 9", "unused 10", "closed 11"}));
 }
 
 TEST(CMXBlocks, OnlyTheEntryPointAndItsToolAreVirtual) {

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/SectionDispatch.hpp"
+#include "engine/Format.hpp"
 #include "tests/support/RecordingCommunicator.h"
 #include "tests/support/TestFolder.hpp"
 #include "tests/support/Tsv.hpp"
@@ -40,7 +40,7 @@ inline std::string exactValues(std::span<const zeb::DispatchEntry> entries) {
       text += std::string(entry.section->name) + '.' + std::string(row.field.member) + ' ';
       if (row.field.type == zeb::FieldType::kInt) {
         text += std::to_string(*static_cast<int*>(member));
-        if (row.count) count = *static_cast<int*>(member);
+        if (row.count != zeb::Count::kNo) count = *static_cast<int*>(member);
       } else if (row.field.type == zeb::FieldType::kDouble) {
         addBits(*static_cast<double*>(member));
       } else if (row.field.type == zeb::FieldType::kText) {

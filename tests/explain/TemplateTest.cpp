@@ -5,43 +5,40 @@
 #include <sstream>
 
 #include "cmx/CZEBCMXInternalTool.hpp"
-#include "engine/ReadObserver.hpp"
 #include "frame/CMPReader.hpp"
 #include "frame/MoldingTypes.hpp"
 #include "inspect/catalogue/Catalogue.hpp"
 #include "inspect/catalogue/Template.hpp"
+#include "inspect/set/Inspection.hpp"
 #include "inspect/set/OutputCapture.hpp"
-#include "inspect/set/Settings.hpp"
+#include "inspect/set/Values.hpp"
+#include "inspect/trace/LineTrace.hpp"
 #include "tests/support/TemporaryFile.hpp"
 #include "tests/support/Tsv.hpp"
 
 namespace {
 
-struct Events final : zeb::ReadObserver {
+struct Events final : zeb::TraceReader {
   std::set<std::string_view> opened;
   int problems = 0;
-  void sectionOpened(const zeb::Section& section, int /*line*/) override {
-    if (!opened.insert(section.name).second) ++problems;
-  }
-  void sectionUnclosed(const zeb::Section& /*section*/, int /*line*/) override { ++problems; }
-  void sectionRefused(const zeb::Section& /*section*/, int /*line*/, int /*version*/) override { ++problems; }
-  void lineWithoutKey(const zeb::Section& section, int line, std::string_view text) override {
-    if (text.find(section.close) == text.npos) ADD_FAILURE() << "line " << line << ": " << text;
-  }
-  void keyFound(const zeb::KeyEvent& event) override {
-    // A shorter key inside another key's line takes what it can of that key's value; its own line follows.
-    const bool isOwnLine = event.key.empty() || event.line.starts_with(event.key);
-    if (event.outcome == zeb::KeyOutcome::kStored && isOwnLine && event.line[event.key.size()] == ' ') {
-      EXPECT_EQ(event.tail, "") << event.line;
+  void line(const zeb::ReadLine& line) override {
+    using Part = zeb::ReadLine::Part;
+    for (const zeb::Opening& opening : line.openings) {
+      if (!opened.insert(opening.section->name).second) ++problems;
     }
-    EXPECT_NE(event.outcome, zeb::KeyOutcome::kUnparsed) << event.line;
-    EXPECT_NE(event.outcome, zeb::KeyOutcome::kGated) << event.line;
-    EXPECT_NE(event.outcome, zeb::KeyOutcome::kNotStored) << event.line;
-    EXPECT_NE(event.outcome, zeb::KeyOutcome::kRefused) << event.line;
-  }
-  void linePositional(const zeb::Section& section, int line, int /*number*/, int converted, int expected,
-                      std::string_view /*tail*/) override {
-    EXPECT_EQ(converted, expected) << section.name << " line " << line;
+    if (line.end && *line.end != zeb::SectionEnd::kClosed && *line.end != zeb::SectionEnd::kComplete) ++problems;
+    if (line.part == Part::kKeyed && line.hits.empty() && !line.end) {
+      ADD_FAILURE() << "line " << line.number << ": " << line.text;
+    }
+    if (line.part == Part::kPositional && !line.hits.empty()) {
+      if (line.expected > 0) EXPECT_EQ(line.converted, line.expected) << "line " << line.number;
+    }
+    for (const zeb::Hit& hit : line.hits) {
+      // A shorter key inside another key's line takes what it can of that key's value; its own line follows.
+      const bool isOwnLine = hit.key.empty() || line.text.starts_with(hit.key);
+      if (hit.sets() && isOwnLine && line.text[hit.key.size()] == ' ') EXPECT_EQ(line.left(hit), "") << line.text;
+      EXPECT_TRUE(hit.outcome == zeb::KeyOutcome::kStored || hit.outcome == zeb::KeyOutcome::kConfirmed) << line.text;
+    }
   }
 };
 
@@ -59,19 +56,23 @@ void expectDefaults(const zeb::BlockTable& table, void* block) {
 void readCMP(const std::string& text, Events& events) {
   const zebtest::TemporaryFile file(text);
   const auto tool = zeb::moldingTypes()[0].create();
-  tool->m_observer = &events;
+  zeb::LineTrace trace(events);
+  tool->m_observer = &trace;
   {
     const zeb::OutputCapture quiet;
     zeb::readCMPFile(*tool, file.path());
+    trace.finish();
   }
   for (const zeb::BlockEntry& entry : zeb::allBlocks()) expectDefaults(entry.table(), entry.locate(*tool));
 }
 
 void readCMX(const std::string& text, Events& events) {
   CZEBCMXInternalTool tool;
-  tool.observer = &events;
+  zeb::LineTrace trace(events);
+  tool.observer = &trace;
   std::istringstream stream(text);
   tool.readBlocks(stream);
+  trace.finish();
   const auto tables = CZEBCMXInternalTool::tables();
   for (std::size_t i = 0; i < tables.size(); ++i) expectDefaults(*tables[i], tool.sections()[i].block);
 }

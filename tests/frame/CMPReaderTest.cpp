@@ -25,7 +25,9 @@ using zebtest::valuesOf;
 // --- Openings ---------------------------------------------------------------------------------------------------
 
 struct OpenedSections final : zeb::ReadObserver {
-  void sectionOpened(const zeb::Section& section, int) override { openings.emplace_back(section.open); }
+  void sectionOpened(const zeb::Section& section, void*, int, std::string_view) override {
+    openings.emplace_back(section.open);
+  }
   Lines openings;
 };
 

@@ -11,7 +11,7 @@
 
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "cmx/CZEBKNCMXCompParm.h"
-#include "inspect/set/Settings.hpp"
+#include "inspect/set/Values.hpp"
 #include "stdcmp/CZEBKNstdCMPCompParm.h"
 #include "tests/mpi/Verdict.hpp"
 #include "tests/ranks/Examples.hpp"

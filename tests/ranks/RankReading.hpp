@@ -10,7 +10,7 @@
 #include "frame/CZEBKNCMPCompParm.h"
 #include "inspect/set/Inspection.hpp"
 #include "inspect/set/OutputCapture.hpp"
-#include "inspect/set/Settings.hpp"
+#include "inspect/set/Values.hpp"
 #include "tests/support/RecordingCommunicator.h"
 
 namespace zebtest {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "inspect/set/Inspection.hpp"
-#include "inspect/set/Settings.hpp"
+#include "inspect/set/Values.hpp"
 
 namespace zebtest {
 
