@@ -3,6 +3,14 @@
 
 #include <type_traits>
 
+#include "blocks/CZEBCMPCompressibleFlowParm.h"
+#include "blocks/CZEBCMPFAIMParm.h"
+#include "blocks/CZEBCMPGeneralParm.h"
+#include "blocks/CZEBCMPPUChemFoamParm.h"
+#include "blocks/CZEBCMPShortShotParm.h"
+#include "blocks/CZEBCMPStableFlagParm.h"
+#include "blocks/CZEBCMPTimeStepSizeCtrlParm.h"
+#include "blocks/CZEBCMPViscositySetting2Parm.h"
 #include "engine/ReadObserver.hpp"
 
 namespace zeb {
