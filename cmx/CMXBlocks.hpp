@@ -1,6 +1,7 @@
 // The blocks of a CMX parameter set.
 #pragma once
 
+#include "cmx/CZEBKNCMXCompParm.h"
 #include "engine/BlockTypes.hpp"
 
 // One row per block, in the order in which a line is tested for their tags: its class, the parameter set's accessor.
@@ -19,10 +20,6 @@
   BLOCK(CZEBCMX_FILL_OUTPUT_TIMES, getFILL_OUTPUT_TIMES)             \
   BLOCK(CZEBCMX_PACK_OUTPUT_TIMES, getPACK_OUTPUT_TIMES)
 // clang-format on
-
-#define ZEB_DECLARE(Class, accessor) class Class;
-ZEB_CMX_BLOCKS(ZEB_DECLARE)
-#undef ZEB_DECLARE
 
 namespace zeb {
 

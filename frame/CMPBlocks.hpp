@@ -3,6 +3,7 @@
 #pragma once
 
 #include "engine/BlockTypes.hpp"
+#include "frame/CZEBKNCMPCompParm.h"
 
 // One row per block, in the order of construction: its class, the parameter set's accessor, its place in the dump.
 // clang-format off
@@ -50,10 +51,6 @@
   BLOCK(CZEBCool3DCoolingChannelParm, getCool_3DCoolingChannelParm, kNever)    \
   BLOCK(CZEBCoolBackDoorParm, getCool_BackDoorParm, kNever)
 // clang-format on
-
-#define ZEB_DECLARE(Class, accessor, place) class Class;
-ZEB_CMP_BLOCKS(ZEB_DECLARE)
-#undef ZEB_DECLARE
 
 namespace zeb {
 

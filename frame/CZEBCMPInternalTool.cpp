@@ -1,6 +1,7 @@
 #include "frame/CZEBCMPInternalTool.hpp"
 
 #include <algorithm>
+#include <array>
 #include <type_traits>
 
 CZEBCMPInternalTool::CZEBCMPInternalTool() : m_blocks(zeb::makeCMPBlocks()) {}

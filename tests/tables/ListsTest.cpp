@@ -2,7 +2,7 @@
 // the format, and with what the public headers tell.
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <map>
 #include <regex>
@@ -16,11 +16,23 @@
 
 namespace {
 
+const std::string kRoot = ZEB_TEST_DATA_DIR "/../../";
+
 std::string contentOf(const std::string& file) {
-  std::ifstream stream(std::string(ZEB_TEST_DATA_DIR) + "/../../" + file);
+  std::ifstream stream(kRoot + file);
   std::ostringstream text;
   text << stream.rdbuf();
   return text.str();
+}
+
+// The classes that the public headers of a folder are named after.
+std::set<std::string> headersIn(const std::string& folder, const std::string& prefix) {
+  std::set<std::string> names;
+  for (const auto& file : std::filesystem::directory_iterator(kRoot + folder)) {
+    const std::string name = file.path().stem().string();
+    if (file.path().extension() == ".h" && name.starts_with(prefix)) names.insert(name);
+  }
+  return names;
 }
 
 std::set<std::string> columnOf(const std::string& file, const std::string& column) {
@@ -35,6 +47,14 @@ TEST(BlockList, IsThatOfTheDefinition) {
   for (const zeb::BlockEntry& entry : zeb::allBlocks()) listed.emplace(entry.table().className);
   for (const std::string& name : listed) EXPECT_TRUE(defined.contains(name)) << "tests/data/blocks.tsv lacks " << name;
   for (const std::string& name : defined) EXPECT_TRUE(listed.contains(name)) << "ZEB_CMP_BLOCKS lacks " << name;
+}
+
+TEST(BlockList, HoldsEveryHeaderOfItsFolder) {
+  std::set<std::string> listed;
+  for (const zeb::BlockEntry& entry : zeb::allBlocks()) listed.emplace(entry.table().className);
+  for (const std::string& name : headersIn("blocks", "CZEB")) {
+    EXPECT_TRUE(listed.contains(name)) << "ZEB_CMP_BLOCKS lacks " << name;
+  }
 }
 
 TEST(BlockList, DumpsTheBlocksThatHaveAHeading) {
@@ -53,6 +73,14 @@ TEST(BlockList, HasNoOpeningTwice) {
   for (const zeb::DispatchEntry& entry : zeb::cmpSections(cmp)) ++openings[entry.section->open];
   for (const zeb::DispatchEntry& entry : cmx.sections()) ++openings[entry.section->open];
   for (const auto& [opening, times] : openings) EXPECT_EQ(times, 1) << opening;
+}
+
+TEST(CMXBlockList, HoldsEveryHeaderOfItsFolder) {
+  std::set<std::string> listed;
+  for (const zeb::BlockTable* table : CZEBCMXInternalTool::tables()) listed.emplace(table->className);
+  for (const std::string& name : headersIn("cmx", "CZEBCMX_")) {
+    EXPECT_TRUE(listed.contains(name)) << "ZEB_CMX_BLOCKS lacks " << name;
+  }
 }
 
 TEST(CMXBlockList, IsThatOfTheDefinition) {
