@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "ZEBKNCompParm.h"
 #include "engine/ReadObserver.hpp"
-#include "frame/AllBlocks.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/blocks/ReadBlock.hpp"

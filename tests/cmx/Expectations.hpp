@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/SectionDispatch.hpp"
+#include "engine/Format.hpp"
 #include "tests/support/RecordingCommunicator.h"
 #include "tests/support/TestFolder.hpp"
 #include "tests/support/Tsv.hpp"
