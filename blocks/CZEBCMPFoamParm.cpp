@@ -145,6 +145,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPFoamParm>() {
       keyedSection<"Foam_MuCell_Pro", kMuCellProRows>(),
       keyedSection<"Foam_FoamingComputeParas", kComputeRows>(),
   };
-  static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------Foam Parameters---------");
+  static constexpr Order<4> kDispatchOrder{"Foam_PLOT_DYNAMIC", "Foam_MuCell_Pro", "Mucell_DEBUG",
+                                           "Foam_FoamingComputeParas"};
+  static constexpr BlockTable kTable =
+      blockTable<T, kSections, kDeclarationOrder, kDispatchOrder>("\n---------Foam Parameters---------");
   return kTable;
 }

@@ -1,4 +1,4 @@
-# Shell functions that ./test, ./compparm and .ci/run share: the packages that the build needs, and how it is configured.
+# Shell functions that ./test, ./compparm and the scripts in .ci share: the packages that the build needs, and how it is configured.
 # To be sourced by bash.
 # shellcheck shell=bash disable=SC2034
 

@@ -7,17 +7,18 @@ namespace {
 constexpr zeb::Format kFormat{.name = "CMX", .nameLine = zeb::Format::NameLine::kIfTraced, .barrier = false};
 
 // The blocks behind <SUMMARY>, which is the tool's own.
+template <class Types>
+struct BehindSummary;
 template <class... Blocks>
-struct BlockList {
-  static constexpr std::size_t kCount = 1 + sizeof...(Blocks);
+struct BehindSummary<zeb::BlockTypes<Blocks...>> {
+  using Tables = std::array<const zeb::BlockTable*, 1 + sizeof...(Blocks)>;
 
-  static std::array<zeb::DispatchEntry, kCount> sections(CZEBCMXInternalTool& tool) {
-    return {entry(tool), entry(tool.block<Blocks>())...};
-  }
-  static const std::array<const zeb::BlockTable*, kCount>& tables() {
-    static const std::array<const zeb::BlockTable*, kCount> kTables{&zeb::tableOf<CZEBCMXInternalTool>(),
-                                                                    &zeb::tableOf<Blocks>()...};
+  static const Tables& tables() {
+    static const Tables kTables{&zeb::tableOf<CZEBCMXInternalTool>(), &zeb::tableOf<Blocks>()...};
     return kTables;
+  }
+  static std::array<zeb::DispatchEntry, std::tuple_size_v<Tables>> sections(CZEBCMXInternalTool& tool) {
+    return {entry(tool), entry(tool.block<Blocks>())...};
   }
 
  private:
@@ -27,18 +28,15 @@ struct BlockList {
   }
 };
 
-using TagOrder =
-    BlockList<CZEBCMX_SOLID_FILL, CZEBCMX_FILL_ADVANCED_SlipBC, CZEBCMX_SOLID_COOL, CZEBCMX_SOLID_VE,
-              CZEBCMX_SOLID_PACK, CZEBCMX_FILL_ADVANCED_LONGFIBER, CZEBCMX_FILL_ADVANCED_HRSteady, CZEBCMX_TASKMANAGER,
-              CZEBCMX_Dyna_Forming, CZEBCMX_FILL_ADVANCED_MCIM, CZEBCMX_FILL_OUTPUT_TIMES, CZEBCMX_PACK_OUTPUT_TIMES>;
+using AllBlocks = BehindSummary<zeb::CMXBlocks>;
 
 }  // namespace
 
-CZEBCMXInternalTool::CZEBCMXInternalTool() : m_sections(TagOrder::sections(*this)) {}
+CZEBCMXInternalTool::CZEBCMXInternalTool() : m_blocks(zeb::makeCMXBlocks()), m_sections(AllBlocks::sections(*this)) {}
 
 CZEBCMXInternalTool::~CZEBCMXInternalTool() = default;
 
-std::span<const zeb::BlockTable* const> CZEBCMXInternalTool::tables() { return TagOrder::tables(); }
+std::span<const zeb::BlockTable* const> CZEBCMXInternalTool::tables() { return AllBlocks::tables(); }
 
 int CZEBCMXInternalTool::setZEBCom(CZEBCom* com) {
   if (com == nullptr) return -1;

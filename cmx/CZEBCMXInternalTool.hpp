@@ -1,24 +1,13 @@
-// What stands behind the CMX parameter set: the twelve blocks and the reader that fills them.
+// What stands behind the CMX parameter set: the blocks and the reader that fills them.
 #pragma once
 
 #include <array>
 #include <istream>
 #include <span>
 #include <string>
-#include <tuple>
 
-#include "cmx/CZEBCMX_Dyna_Forming.h"
-#include "cmx/CZEBCMX_FILL_ADVANCED_HRSteady.h"
-#include "cmx/CZEBCMX_FILL_ADVANCED_LONGFIBER.h"
-#include "cmx/CZEBCMX_FILL_ADVANCED_MCIM.h"
-#include "cmx/CZEBCMX_FILL_ADVANCED_SlipBC.h"
-#include "cmx/CZEBCMX_FILL_OUTPUT_TIMES.h"
-#include "cmx/CZEBCMX_PACK_OUTPUT_TIMES.h"
-#include "cmx/CZEBCMX_SOLID_COOL.h"
-#include "cmx/CZEBCMX_SOLID_FILL.h"
-#include "cmx/CZEBCMX_SOLID_PACK.h"
-#include "cmx/CZEBCMX_SOLID_VE.h"
-#include "cmx/CZEBCMX_TASKMANAGER.h"
+#include "cmx/CMXBlocks.hpp"
+#include "engine/BlockAccess.h"
 #include "engine/Format.hpp"
 
 /// Shared by a CMX parameter set and its copies.
@@ -45,7 +34,7 @@ class CZEBCMXInternalTool {
 
   template <class Block>
   Block& block() {
-    return std::get<Block>(m_blocks);
+    return m_blocks.get<Block>();
   }
 
   /// The version in <SUMMARY>.
@@ -62,10 +51,6 @@ class CZEBCMXInternalTool {
   CZEBCom* m_pCom = nullptr;
   int m_nPrintLevel = 0;
   int m_nCMXVersion = 0;
-  std::tuple<CZEBCMX_SOLID_FILL, CZEBCMX_FILL_ADVANCED_SlipBC, CZEBCMX_FILL_ADVANCED_LONGFIBER,
-             CZEBCMX_FILL_ADVANCED_HRSteady, CZEBCMX_SOLID_COOL, CZEBCMX_SOLID_VE, CZEBCMX_SOLID_PACK,
-             CZEBCMX_TASKMANAGER, CZEBCMX_Dyna_Forming, CZEBCMX_FILL_ADVANCED_MCIM, CZEBCMX_FILL_OUTPUT_TIMES,
-             CZEBCMX_PACK_OUTPUT_TIMES>
-      m_blocks;
-  std::array<zeb::DispatchEntry, 1 + std::tuple_size_v<decltype(m_blocks)>> m_sections;
+  zeb::BlockSet<zeb::CMXBlocks> m_blocks;
+  std::array<zeb::DispatchEntry, 1 + zeb::CMXBlocks::kCount> m_sections;
 };

@@ -22,7 +22,7 @@ class CZEBCMX_SOLID_PACK;
 class CZEBCMX_SOLID_VE;
 class CZEBCMX_TASKMANAGER;
 
-/// The twelve blocks of a CMX file, with their defaults until setSolidFillBlock() reads a file.
+/// The blocks of a CMX file, with their defaults until setSolidFillBlock() reads a file.
 ///
 /// Order of calls: setZEBCom() on every rank of a parallel run, setSolidFillBlock() on every rank, then the getters.
 ///

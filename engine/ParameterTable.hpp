@@ -232,6 +232,7 @@ struct BlockTable {
   std::span<const Row* const> dumpOrder;
   void* (*create)();  // a block with its defaults, for the tools
   void (*destroy)(void* block);
+  std::span<const Section* const> dispatchOrder;  // those with an opening, as a line is tested for them
 };
 
 }  // namespace zeb

@@ -5,17 +5,10 @@
 #include <array>
 
 #include "engine/BlockAccess.h"
+#include "engine/FixedText.hpp"
 #include "engine/ParameterTable.hpp"
 
 namespace zeb {
-
-/// A text as a template argument.
-template <std::size_t Size>
-struct FixedText {
-  char text[Size] = {};
-  constexpr FixedText(const char (&source)[Size]) { std::copy_n(source, Size, text); }  // NOLINT: implicit on purpose
-  constexpr std::string_view view() const { return {text, Size - 1}; }
-};
 
 /// An order of keys or members that differs from the order of declaration.
 template <std::size_t Count>
@@ -196,6 +189,31 @@ struct Dump {
   static constexpr auto kRows = collect();
 };
 
+template <const auto& Sections, const auto& NameOrder>
+struct Dispatch {
+  static constexpr auto isOpened = [](const Section& section) { return !section.open.empty(); };
+
+  static constexpr auto collect() {
+    std::array<const Section*, std::ranges::count_if(Sections, isOpened)> sections{};
+    auto next = sections.begin();
+    for (const Section& section : Sections) {
+      if (isOpened(section)) *next++ = &section;
+    }
+    if constexpr (NameOrder.size() > 0) {
+      if (NameOrder.size() != sections.size()) throw "the dispatch order leaves a section out or names one twice";
+      next = sections.begin();
+      for (const std::string_view name : NameOrder) {
+        const auto isNamed = [&](const Section* section) { return section->name == name; };
+        const auto found = std::find_if(next, sections.end(), isNamed);
+        if (found == sections.end()) throw "the dispatch order names no section, or one twice";
+        std::rotate(next++, found, found + 1);
+      }
+    }
+    return sections;
+  }
+  static constexpr auto kSections = collect();
+};
+
 template <class Block>
 constexpr std::string_view className() {
   std::string_view text = __PRETTY_FUNCTION__;
@@ -254,16 +272,18 @@ constexpr Section unreadMembers() {
   return section;
 }
 
-/// The table of a block. `heading` is the whole first line of its dump; `MemberOrder` names the dumped members where
-/// the dump has an order of its own.
-template <class Block, const auto& Sections, const auto& MemberOrder = kDeclarationOrder>
+/// The table of a block. `heading` is the whole first line of its dump. `MemberOrder` names the dumped members, and
+/// `SectionOrder` the sections as a line is tested for their openings, where these have an order of their own.
+template <class Block, const auto& Sections, const auto& MemberOrder = kDeclarationOrder,
+          const auto& SectionOrder = kDeclarationOrder>
 constexpr BlockTable blockTable(std::string_view heading) {
   return {detail::className<Block>(),
           heading,
           Sections,
           detail::Dump<Sections, MemberOrder>::kRows,
           []() -> void* { return new Block; },
-          [](void* block) { delete static_cast<Block*>(block); }};
+          [](void* block) { delete static_cast<Block*>(block); },
+          detail::Dispatch<Sections, SectionOrder>::kSections};
 }
 
 }  // namespace zeb

@@ -1,9 +1,10 @@
 #include "frame/CZEBCMPInternalTool.hpp"
 
+#include <algorithm>
 #include <array>
-#include <utility>
+#include <type_traits>
 
-CZEBCMPInternalTool::CZEBCMPInternalTool() = default;
+CZEBCMPInternalTool::CZEBCMPInternalTool() : m_blocks(zeb::makeCMPBlocks()) {}
 CZEBCMPInternalTool::~CZEBCMPInternalTool() = default;
 
 int CZEBCMPInternalTool::ZEB_getline_Parallel(std::istream& stream, std::string& line) const {
@@ -14,35 +15,42 @@ namespace zeb {
 
 namespace {
 
-template <std::size_t... Numbers>
-constexpr auto entriesOfAll(std::index_sequence<Numbers...>) {
-  return std::array{blockEntry<std::tuple_element_t<Numbers, AllBlocks>>()...};
-}
-
+template <class Types>
+struct EntriesOf;
 template <class... Blocks>
-constexpr auto entriesOf() {
-  return std::array{blockEntry<Blocks>()...};
-}
+struct EntriesOf<BlockTypes<Blocks...>> {
+  static constexpr std::array<BlockEntry, sizeof...(Blocks)> kEntries{blockEntry<Blocks>()...};
+};
+
+template <class Block>
+struct Dispatched {
+  static constexpr bool kHasOwnFile = std::is_same_v<Block, CZEBCMPVEParm>;
+  static_assert(CMPDispatchOrder::kTimesListed<Block> == (kHasOwnFile ? 0 : 1),
+                "CMPDispatchOrder leaves this block out or names it twice");
+};
+#define ZEB_DISPATCHED(Class, accessor, place) template struct Dispatched<Class>;
+ZEB_CMP_BLOCKS(ZEB_DISPATCHED)
+#undef ZEB_DISPATCHED
+
+#define ZEB_PLACE(Class, accessor, place) DumpPlace::place,
+constexpr std::array<DumpPlace, CMPBlocks::kCount> kDumpPlaces{ZEB_CMP_BLOCKS(ZEB_PLACE)};
+#undef ZEB_PLACE
+
+constexpr auto kDumped = [] {
+  std::array<BlockEntry, CMPBlocks::kCount - std::ranges::count(kDumpPlaces, DumpPlace::kNever)> dumped{};
+  auto next = dumped.begin();
+  for (const DumpPlace place : {DumpPlace::kFirst, DumpPlace::kInTurn, DumpPlace::kSecondLast, DumpPlace::kLast}) {
+    for (const BlockEntry& entry : EntriesOf<CMPBlocks>::kEntries) {
+      if (kDumpPlaces[entry.number] == place) *next++ = entry;
+    }
+  }
+  return dumped;
+}();
 
 }  // namespace
 
-std::span<const BlockEntry> allBlocks() {
-  static constexpr auto kEntries = entriesOfAll(std::make_index_sequence<std::tuple_size_v<AllBlocks>>());
-  return kEntries;
-}
-
-std::span<const BlockEntry> dumpedBlocks() {
-  static constexpr auto kEntries =
-      entriesOf<CZEBCMPIteratParm, CZEBCMPAutoVPCtrlParm, CZEBCMPBiIMParm, CZEBCMPCompressibleFlowParm,
-                CZEBCMPCompressionParm, CZEBCMPCtrlHRSystemParm, CZEBCMPFAIMParm, CZEBCMPFEMParm, CZEBCMPGeneralParm,
-                CZEBCMPHRSchemesParm, CZEBCMPIBMParm, CZEBCMPInletVelocitySettingParm, CZEBCMPMAFVMParm,
-                CZEBCMPMicroMoldingParm, CZEBCMPMuCellParm, CZEBCMPMultiGateParm, CZEBCMPOutletParm,
-                CZEBCMPProcessModifyParm, CZEBCMPPUChemFoamParm, CZEBCMPPVTcParm, CZEBCMPRegionVersionParm,
-                CZEBCMPRTMParm, CZEBCMPShortShotParm, CZEBCMPStableFlagParm, CZEBCMPTimeStepSizeCtrlParm,
-                CZEBCMPUNFSettingParm, CZEBCMPViscositySetting2Parm, CZEBCMPCrystallineParm, CZEBCMP_FaceRBF_Parm,
-                CZEBCMP_IBRBF_Parm, CZEBCMP_BaseRBF_Parm, CZEBCMPPIMParm, CZEBCMPSAMGCtrlParm, CZEBCMPFiberParm,
-                CZEBCMPFoamParm, CZEBCMPElongationParm, CZEBCMPVEParm, CZEBCMPEpoxyVEParm>();
-  return kEntries;
-}
+std::span<const BlockEntry> allBlocks() { return EntriesOf<CMPBlocks>::kEntries; }
+std::span<const BlockEntry> dumpedBlocks() { return kDumped; }
+std::span<const BlockEntry> dispatchedBlocks() { return EntriesOf<CMPDispatchOrder>::kEntries; }
 
 }  // namespace zeb

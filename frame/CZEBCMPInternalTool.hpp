@@ -1,13 +1,13 @@
-// The tool behind a CMP parameter set: owner of the 42 blocks, base of the fifteen molding types.
+// The tool behind a CMP parameter set: owner of the blocks, base of the molding types' tools.
 #pragma once
 
 #include <span>
 #include <string>
-#include <tuple>
 
+#include "engine/BlockAccess.h"
 #include "engine/LineSource.hpp"
 #include "engine/ParameterTable.hpp"
-#include "frame/AllBlocks.hpp"
+#include "frame/CMPBlocks.hpp"
 
 class CZEBCMPInternalTool {
  public:
@@ -25,15 +25,17 @@ class CZEBCMPInternalTool {
 
   template <class Block>
   Block& block() {
-    return std::get<Block>(m_blocks);
+    return m_blocks.get<Block>();
   }
   template <class Block>
   const Block& block() const {
-    return std::get<Block>(m_blocks);
+    return m_blocks.get<Block>();
   }
+  /// By its number in the order of construction.
+  void* block(std::size_t number) { return m_blocks.at(number); }
 
  private:
-  zeb::AllBlocks m_blocks;
+  zeb::BlockSet<zeb::CMPBlocks> m_blocks;
 
  public:
   CZEBCom* m_pCom = nullptr;  ///< Not owned; null means serial.
@@ -50,17 +52,21 @@ namespace zeb {
 /// A block of every tool, for those who treat all blocks alike.
 struct BlockEntry {
   const BlockTable& (*table)();
-  void* (*locate)(CZEBCMPInternalTool& tool);
+  std::size_t number;
+
+  void* locate(CZEBCMPInternalTool& tool) const { return tool.block(number); }
 };
 
 template <class Block>
 constexpr BlockEntry blockEntry() {
-  return {&tableOf<Block>, [](CZEBCMPInternalTool& tool) -> void* { return &tool.block<Block>(); }};
+  return {&tableOf<Block>, CMPBlocks::numberOf<Block>()};
 }
 
-/// The 42 blocks in the order of their construction.
+/// All blocks, in the order of their construction.
 std::span<const BlockEntry> allBlocks();
-/// The 38 dumped blocks in the order of OutputParameters.
+/// The dumped blocks, in the order of OutputParameters.
 std::span<const BlockEntry> dumpedBlocks();
+/// The blocks of a CMP file, in the order in which a line is tested for their openings.
+std::span<const BlockEntry> dispatchedBlocks();
 
 }  // namespace zeb

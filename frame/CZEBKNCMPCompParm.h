@@ -52,7 +52,7 @@ class CZEBCoolStdCoolParm;
 class CZEBCool3DCoolingChannelParm;
 class CZEBCoolBackDoorParm;
 
-/// Reads a CMP file (and, when asked for, its viscoelastic companion) into 42 parameter blocks, repairs them for the
+/// Reads a CMP file (and, when asked for, its viscoelastic companion) into parameter blocks, repairs them for the
 /// molding and the material type, dumps them and hands them out.
 ///
 /// Order of use, the same on every rank: construct, setZEBCom (parallel runs), setIsWaxMat and setMaterialType where
@@ -62,9 +62,9 @@ class CZEBCoolBackDoorParm;
 /// throws, but see setSolidFillBlock. Not for use from several threads at once.
 class CZEBKNCMPCompParm {
  public:
-  /// `moldingType` 0 to 14: IM, FAIM, RIM, ICPackage, ICM, UNF, GAIM, WAIM, COIM, MCIM, CM, BIIM, PIM, RTM, CFM. Any
-  /// other code prints "Undefined Molding Type: " and the code, and leaves the object without a tool: then every block
-  /// accessor returns null. `materialType` 1 is a thermoset; 0 any other material.
+  /// `moldingType`, counted from 0: IM, FAIM, RIM, ICPackage, ICM, UNF, GAIM, WAIM, COIM, MCIM, CM, BIIM, PIM, RTM,
+  /// CFM. Any other code prints "Undefined Molding Type: " and the code, and leaves the object without a tool: then
+  /// every block accessor returns null. `materialType` 1 is a thermoset; 0 any other material.
   CZEBKNCMPCompParm(int moldingType, int materialType);
   /// Copies share the source's blocks; either may be destroyed first.
   CZEBKNCMPCompParm(const CZEBKNCMPCompParm& other);
@@ -163,8 +163,6 @@ class CZEBKNCMPCompParm {
   friend struct zeb::Inspection;
 
   int setMoldingType(int moldingType);
-  template <class Block>
-  Block* block() const;
 
   std::shared_ptr<CZEBCMPInternalTool> m_tool;
   std::vector<std::shared_ptr<CZEBCMPInternalTool>> m_earlierTools;

@@ -3,14 +3,20 @@
 
 #include <type_traits>
 
+#include "blocks/CZEBCMPCompressibleFlowParm.h"
+#include "blocks/CZEBCMPFAIMParm.h"
+#include "blocks/CZEBCMPGeneralParm.h"
+#include "blocks/CZEBCMPPUChemFoamParm.h"
+#include "blocks/CZEBCMPShortShotParm.h"
+#include "blocks/CZEBCMPStableFlagParm.h"
+#include "blocks/CZEBCMPTimeStepSizeCtrlParm.h"
+#include "blocks/CZEBCMPViscositySetting2Parm.h"
 #include "engine/ReadObserver.hpp"
+#include "frame/MoldingTypes.hpp"
 
 namespace zeb {
 
 namespace {
-
-constexpr int kUnderfill = 5;
-constexpr int kResinTransfer = 13;
 
 constexpr Rule to(double value) { return {.replace = {always(value)}}; }
 constexpr Rule times(double factor) {
@@ -19,10 +25,30 @@ constexpr Rule times(double factor) {
   return rule;
 }
 
-bool isThermoset(const CZEBCMPInternalTool& tool) { return tool.m_iMaterialType == 1; }
-bool isThermosetIn(const CZEBCMPInternalTool& tool, int molding) {
-  return isThermoset(tool) && tool.m_iMoldingType == molding;
+template <auto Member>
+constexpr Repair change(Rule rule) {
+  using Block = typename detail::MemberOf<decltype(Member)>::Block;
+  return {blockEntry<Block>(), field<Member>(), rule};
 }
+
+// A molding type: its tool and the lists of what it changes.
+template <class Tool, const auto&... Changes>
+struct Molding {
+  static constexpr FixedText kCondition = FixedText("molding type ") + Tool::kName;
+  static constexpr std::array<RepairStep, sizeof...(Changes)> kSteps{
+      RepairStep{kCondition.view(), nullptr, Changes}...};
+  static constexpr MoldingType kType{
+      Tool::kName.view(), []() -> std::shared_ptr<CZEBCMPInternalTool> { return std::make_shared<Tool>(); }, kSteps};
+};
+
+constexpr int codeOf(std::span<const MoldingType> types, std::string_view name) {
+  for (std::size_t code = 0; code < types.size(); ++code) {
+    if (types[code].name == name) return static_cast<int>(code);
+  }
+  throw "this molding type is not in the table";
+}
+
+bool isThermoset(const CZEBCMPInternalTool& tool) { return tool.m_iMaterialType == 1; }
 
 }  // namespace
 
@@ -36,17 +62,8 @@ struct Repairs {
   using Compressible = CZEBCMPCompressibleFlowParm;
   using Viscosity = CZEBCMPViscositySetting2Parm;
 
-  template <auto Member>
-  static constexpr Repair change(Rule rule) {
-    using Block = typename detail::MemberOf<decltype(Member)>::Block;
-    return {blockEntry<Block>(), field<Member>(), rule};
-  }
+  // --- What the molding types change ----------------------------------------------------------------------------
 
-  static std::span<const RepairStep> ofMolding(int code);
-  static std::span<const RepairStep> common();
-};
-
-std::span<const RepairStep> Repairs::ofMolding(int code) {
   static constexpr Repair kFluid[] = {
       change<&FluidAssisted::m_dSecondFactor>(to(1.0)),
       change<&FluidAssisted::m_dFluidVisFactor>(to(1.0)),
@@ -57,7 +74,7 @@ std::span<const RepairStep> Repairs::ofMolding(int code) {
   static constexpr Repair kLongerLimit[] = {change<&ShortShot::m_dTimeLimit>(times(4.0))};
   static constexpr Repair kWeighted[] = {change<&General::m_iIsWeightedFlowRate>(to(1))};
   static constexpr Repair kBiInjectionLimit[] = {change<&ShortShot::m_dTimeLimit>(to(1.0))};
-  static constexpr Repair kResinTransferRepairs[] = {
+  static constexpr Repair kResinTransfer[] = {
       change<&General::m_ddtNorLowerBound>(times(0.02)),
       change<&General::m_iMFTScheme>(to(0)),
   };
@@ -67,39 +84,28 @@ std::span<const RepairStep> Repairs::ofMolding(int code) {
       change<&TimeStep::m_iNewMethod>({.replace = {equal(1, 0)}}),
       change<&Stable::m_iGradType>({.replace = {equal(0, 3)}}),
   };
-  static constexpr RepairStep kFAIM[] = {{"molding type FAIM", nullptr, kFluid}};
-  static constexpr RepairStep kGAIM[] = {{"molding type GAIM", nullptr, kFluid},
-                                         {"molding type GAIM", nullptr, kLongerLimit}};
-  static constexpr RepairStep kWAIM[] = {{"molding type WAIM", nullptr, kFluid},
-                                         {"molding type WAIM", nullptr, kWater},
-                                         {"molding type WAIM", nullptr, kLongerLimit}};
-  static constexpr RepairStep kMCIM[] = {{"molding type MCIM", nullptr, kWeighted}};
-  static constexpr RepairStep kBIIM[] = {{"molding type BIIM", nullptr, kWeighted},
-                                         {"molding type BIIM", nullptr, kBiInjectionLimit}};
-  static constexpr RepairStep kRTM[] = {{"molding type RTM", nullptr, kResinTransferRepairs}};
-  static constexpr RepairStep kCFM[] = {{"molding type CFM", nullptr, kWeighted},
-                                        {"molding type CFM", nullptr, kCompressionFlow}};
-  switch (code) {
-    case 1:
-      return kFAIM;
-    case 6:
-      return kGAIM;
-    case 7:
-      return kWAIM;
-    case 9:
-      return kMCIM;
-    case 11:
-      return kBIIM;
-    case kResinTransfer:
-      return kRTM;
-    case 14:
-      return kCFM;
-    default:
-      return {};
-  }
-}
 
-std::span<const RepairStep> Repairs::common() {
+  // The place of a row is the molding type's code.
+  static constexpr MoldingType kMoldingTypes[] = {
+      Molding<CZEBCMPIM>::kType,
+      Molding<CZEBCMPFAIM, kFluid>::kType,
+      Molding<CZEBCMPRIM>::kType,
+      Molding<CZEBCMPICPackage>::kType,
+      Molding<CZEBCMPICM>::kType,
+      Molding<CZEBCMPUNF>::kType,
+      Molding<CZEBCMPGAIM, kFluid, kLongerLimit>::kType,
+      Molding<CZEBCMPWAIM, kFluid, kWater, kLongerLimit>::kType,
+      Molding<CZEBCMPCOIM>::kType,
+      Molding<CZEBCMPMCIM, kWeighted>::kType,
+      Molding<CZEBCMPCM>::kType,
+      Molding<CZEBCMPBIIM, kWeighted, kBiInjectionLimit>::kType,
+      Molding<CZEBCMPPIM>::kType,
+      Molding<CZEBCMPRTM, kResinTransfer>::kType,
+      Molding<CZEBCMPCFM, kWeighted, kCompressionFlow>::kType,
+  };
+
+  // --- What follows, whatever the molding type ------------------------------------------------------------------
+
   static constexpr Repair kThermoset[] = {
       change<&TimeStep::m_iHRVof>(to(1)),
       change<&General::m_iVentMode>(to(1)),
@@ -121,7 +127,19 @@ std::span<const RepairStep> Repairs::common() {
   static constexpr Repair kMinVisResinTransfer[] = {change<&Viscosity::m_dMinVis>(times(0.0001))};
   static constexpr Repair kMinVisOther[] = {change<&Viscosity::m_dMinVis>(times(0.1))};
 
-  static constexpr RepairStep kSteps[] = {
+  using Underfill = CZEBCMPUNF;
+  using ResinTransfer = CZEBCMPRTM;
+  template <class Tool>
+  static bool isThermosetIn(const CZEBCMPInternalTool& tool) {
+    constexpr int kCode = codeOf(kMoldingTypes, Tool::kName.view());
+    return isThermoset(tool) && tool.m_iMoldingType == kCode;
+  }
+  static constexpr FixedText kInUnderfill = FixedText("material type 1, molding type ") + Underfill::kName;
+  static constexpr FixedText kInResinTransfer = FixedText("material type 1, molding type ") + ResinTransfer::kName;
+  static constexpr FixedText kInNeither =
+      FixedText("material type 1, neither ") + Underfill::kName + FixedText(" nor ") + ResinTransfer::kName;
+
+  static constexpr RepairStep kCommon[] = {
       {"material type 1", isThermoset, kThermoset},
       {"wax material", [](const CZEBCMPInternalTool& tool) { return tool.m_iIsWaxMat == 1; }, kWax},
       {"EnhancedVenting is 1",
@@ -130,18 +148,15 @@ std::span<const RepairStep> Repairs::common() {
       {"IsPUChemFoam is 1",
        [](const CZEBCMPInternalTool& tool) { return tool.block<CZEBCMPPUChemFoamParm>().iIsPUChemFoam() == 1; },
        kPolyurethane},
-      {"material type 1, molding type UNF",
-       [](const CZEBCMPInternalTool& tool) { return isThermosetIn(tool, kUnderfill); }, kMinVisUnderfill},
-      {"material type 1, molding type RTM",
-       [](const CZEBCMPInternalTool& tool) { return isThermosetIn(tool, kResinTransfer); }, kMinVisResinTransfer},
-      {"material type 1, neither UNF nor RTM",
+      {kInUnderfill.view(), isThermosetIn<Underfill>, kMinVisUnderfill},
+      {kInResinTransfer.view(), isThermosetIn<ResinTransfer>, kMinVisResinTransfer},
+      {kInNeither.view(),
        [](const CZEBCMPInternalTool& tool) {
-         return isThermoset(tool) && !isThermosetIn(tool, kUnderfill) && !isThermosetIn(tool, kResinTransfer);
+         return isThermoset(tool) && !isThermosetIn<Underfill>(tool) && !isThermosetIn<ResinTransfer>(tool);
        },
        kMinVisOther},
   };
-  return kSteps;
-}
+};
 
 namespace {
 
@@ -175,11 +190,12 @@ void apply(CZEBCMPInternalTool& tool, std::span<const RepairStep> steps) {
 
 }  // namespace
 
-std::span<const RepairStep> moldingRepairs(int code) { return Repairs::ofMolding(code); }
-std::span<const RepairStep> commonRepairs() { return Repairs::common(); }
+std::span<const MoldingType> moldingTypes() { return Repairs::kMoldingTypes; }
+std::span<const RepairStep> moldingRepairs(int code) { return moldingTypes()[static_cast<std::size_t>(code)].repairs; }
+std::span<const RepairStep> commonRepairs() { return Repairs::kCommon; }
 
-int repairForMolding(CZEBCMPInternalTool& tool, int code) {
-  apply(tool, moldingRepairs(code));
+int repairForMolding(CZEBCMPInternalTool& tool, std::string_view name) {
+  apply(tool, moldingRepairs(codeOf(Repairs::kMoldingTypes, name)));
   return 1;
 }
 

@@ -22,13 +22,13 @@ struct RepairStep {
   std::span<const Repair> repairs;
 };
 
-/// The changes of a molding type (code 0 to 14), made first; empty for most.
+/// The changes of a molding type, made first; empty for most.
 std::span<const RepairStep> moldingRepairs(int code);
 /// The changes that follow, in order, whatever the molding type.
 std::span<const RepairStep> commonRepairs();
 
-/// Applies the changes of a molding type. Returns 1.
-int repairForMolding(CZEBCMPInternalTool& tool, int code);
+/// Applies the changes of the molding type of this name. Returns 1.
+int repairForMolding(CZEBCMPInternalTool& tool, std::string_view name);
 /// The molding type's own changes, then the common ones. Not idempotent: some changes multiply. Returns 1.
 int modifyParameters(CZEBCMPInternalTool& tool);
 

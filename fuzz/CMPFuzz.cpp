@@ -1,10 +1,13 @@
 // CMP content, with or without a viscoelastic companion: read on rank 0, replayed on rank 1, repaired and dumped.
 //
-// Byte 1: the low four bits are the molding type (15 is none); the high four choose one of the checks that take much of
-// a run's time. Byte 2: the switches below. Then the CMP file; behind the first byte 0x1E the viscoelastic file.
+// Byte 1: the low four bits are the molding type (none where there is no such code); the high four choose one of the
+// checks that take much of a run's time. Byte 2: the switches below. Then the CMP file; behind the first byte 0x1E the
+// viscoelastic file.
 #include <algorithm>
 
+#include "blocks/CZEBCMPVEParm.h"
 #include "frame/CZEBKNCMPCompParm.h"
+#include "frame/MoldingTypes.hpp"
 #include "fuzz/FuzzSupport.hpp"
 #include "inspect/set/Inspection.hpp"
 #include "tests/support/RecordingCommunicator.h"
@@ -94,7 +97,7 @@ std::string dumpOf(CZEBKNCMPCompParm& set) {
 
 // Without a tool every operation does nothing.
 void checkUndefinedMolding(const Input& input) {
-  CZEBKNCMPCompParm set(15, input.material);
+  CZEBKNCMPCompParm set(input.molding, input.material);
   require(set.setSolidFillBlock(kFileName) == -1 && set.modifyParameters() == -1 && set.OutputParameters() == -1,
           "an undefined molding type has a tool");
 }
@@ -112,7 +115,7 @@ void check(const Input& input) {
   Files files;
   files.add(kFileName, input.cmp);
   if (input.hasCompanion) files.add(kCompanionName, input.vecmp);
-  if (input.molding == 15) return checkUndefinedMolding(input);
+  if (input.molding >= std::ssize(zeb::moldingTypes())) return checkUndefinedMolding(input);
 
   CZEBKNCMPCompParm rank0(input.molding, input.material);
   zeb::RecordingCommunicator recorder(2);

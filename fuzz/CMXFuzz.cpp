@@ -1,6 +1,7 @@
 // CMX content: read on rank 0, replayed on rank 1, read again, copied.
 //
 // Byte 1: the switches below; then the file.
+#include "ZEBKNCompParm.h"
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "cmx/CZEBKNCMXCompParm.h"
 #include "engine/TableBuilder.hpp"

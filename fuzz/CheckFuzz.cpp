@@ -1,13 +1,14 @@
 // The checker over hostile files of every kind, with or without a viscoelastic companion, repaired or not.
 //
-// Byte 1: the switches below. Byte 2: molding type (modulo 15). Then the file; for a CMP file behind the first byte
-// 0x1E the viscoelastic file.
+// Byte 1: the switches below. Byte 2: molding type (modulo their number). Then the file; for a CMP file behind the
+// first byte 0x1E the viscoelastic file.
 #include <algorithm>
 #include <functional>
 #include <map>
 #include <sstream>
 #include <string>
 
+#include "frame/MoldingTypes.hpp"
 #include "fuzz/FuzzSupport.hpp"
 #include "inspect/check/Check.hpp"
 #include "inspect/check/CheckRawFile.hpp"
@@ -34,7 +35,7 @@ struct Input {
     tellsDefaults = (switches & 32u) != 0;
     isThorough = (switches & 64u) != 0 && std::hash<std::string_view>()(bytes.rest()) % 256 == 0;
     options.viscoelastic = (switches & 128u) != 0;
-    options.molding = static_cast<int>(bytes.byte() % 15);
+    options.molding = static_cast<int>(bytes.byte() % zeb::moldingTypes().size());
     const std::size_t separator = kind == zeb::FileKind::kCmp ? bytes.rest().find(kSeparator) : std::string_view::npos;
     content = bytes.rest().substr(0, separator);
     if (separator == bytes.rest().npos) return;

@@ -1,22 +1,20 @@
 #include "stdcmp/StdParameters.hpp"
 
+#include <type_traits>
+
 namespace zeb {
 
-namespace {
-
-template <class Block>
-DispatchEntry entryOf(Block& block) {
-  return {&tableOf<Block>().sections.front(), &block};
-}
-
-}  // namespace
-
 StdParameters::StdParameters()
-    : m_sections{entryOf(solver), entryOf(general), entryOf(stableFlag), entryOf(multiGate)} {}
+    : m_sections(std::apply(
+          [](auto&... blocks) {
+            return std::array{DispatchEntry{&tableOf<std::decay_t<decltype(blocks)>>().sections.front(), &blocks}...};
+          },
+          m_blocks)) {}
 
 std::span<const BlockTable* const> StdParameters::tables() {
-  static const BlockTable* const kTables[] = {&tableOf<StdSolverSettings>(), &tableOf<StdGeneral>(),
-                                              &tableOf<StdStableFlag>(), &tableOf<StdMultiGate>()};
+  static const auto kTables = []<class... Listed>(std::type_identity<std::tuple<Listed...>>) {
+    return std::array{&tableOf<Listed>()...};
+  }(std::type_identity<Blocks>());
   return kTables;
 }
 

@@ -1,9 +1,10 @@
-// What stands behind the standard solver's parameters: the four blocks and the reader that fills them.
+// What stands behind the standard solver's parameters: the blocks and the reader that fills them.
 #pragma once
 
 #include <array>
 #include <span>
 #include <string>
+#include <tuple>
 
 #include "engine/Format.hpp"
 #include "stdcmp/StdBlocks.hpp"
@@ -15,6 +16,10 @@ inline constexpr Format kStdFormat{.name = "CMP", .nameLine = Format::NameLine::
 
 /// Shared by a CZEBKNstdCMPCompParm and its copies.
 class StdParameters {
+  // The head, then the sections in the order in which a line is tested for them.
+  using Blocks = std::tuple<StdSolverSettings, StdGeneral, StdStableFlag, StdMultiGate>;
+  Blocks m_blocks;
+
  public:
   StdParameters();
   StdParameters(const StdParameters&) = delete;
@@ -28,15 +33,15 @@ class StdParameters {
   /// Their tables, in the same order.
   static std::span<const BlockTable* const> tables();
 
-  StdSolverSettings solver;
-  StdGeneral general;
-  StdStableFlag stableFlag;
-  StdMultiGate multiGate;
+  StdSolverSettings& solver = std::get<StdSolverSettings>(m_blocks);
+  StdGeneral& general = std::get<StdGeneral>(m_blocks);
+  StdStableFlag& stableFlag = std::get<StdStableFlag>(m_blocks);
+  StdMultiGate& multiGate = std::get<StdMultiGate>(m_blocks);
   /// Watches every reading; not owned, null in a solver.
   ReadObserver* observer = nullptr;
 
  private:
-  std::array<DispatchEntry, 4> m_sections;
+  std::array<DispatchEntry, std::tuple_size_v<Blocks>> m_sections;
 };
 
 }  // namespace zeb

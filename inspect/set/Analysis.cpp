@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "blocks/CZEBCMPVEParm.h"
 #include "frame/MoldingTypes.hpp"
 
 namespace zeb {

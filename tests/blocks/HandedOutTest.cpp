@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "ZEBKNCompParm.h"
 #include "engine/ReadObserver.hpp"
-#include "frame/AllBlocks.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/blocks/ReadBlock.hpp"
@@ -225,9 +225,11 @@ TEST(LargestCount, IsTakenWhateverTheFileHolds) {
 class UsedLines : public zeb::ReadObserver {
  public:
   std::vector<std::pair<int, bool>> lines;
-  void lineOfList(const zeb::Section&, int number, std::string_view, bool used) override {
-    lines.emplace_back(number, used);
-  }
+  void lineRead(int number, std::string_view) override { m_number = number; }
+  void lineOfList(const zeb::EntryEvent& entry) override { lines.emplace_back(m_number, entry.used); }
+
+ private:
+  int m_number = 0;
 };
 
 template <class Block>

@@ -9,6 +9,7 @@
 
 #include "inspect/check/Manual.hpp"
 #include "tests/check/CheckSupport.hpp"
+#include "tests/support/WrittenFile.hpp"
 
 namespace {
 
@@ -70,13 +71,7 @@ TEST(Rules, EachIsWordedAndHasAnIdentifierOfItsOwn) {
   }
 }
 
-TEST(Rules, ManualInTheRepositoryIsCurrent) {
-  std::ifstream file(ZEB_EXAMPLES_DIR "/../docs/rules.md");
-  ASSERT_TRUE(file) << "docs/rules.md is missing";
-  std::ostringstream text;
-  text << file.rdbuf();
-  EXPECT_TRUE(text.str() == zeb::rulesMarkdown()) << "docs/rules.md is stale: ./compparm check --rules > docs/rules.md";
-}
+TEST(Rules, ManualInTheRepositoryIsCurrent) { zebtest::expectCurrent("docs/rules.md", zeb::rulesMarkdown()); }
 
 // --- The examples of the repository -------------------------------------------------------------------------------
 

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "cmx/CZEBCMXInternalTool.hpp"
+#include "cmx/CZEBCMX_SOLID_COOL.h"
 #include "cmx/CZEBKNCMXCompParm.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/cmx/Expectations.hpp"

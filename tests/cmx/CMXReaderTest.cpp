@@ -7,6 +7,7 @@
 #include <sstream>
 #include <type_traits>
 
+#include "ZEBKNCompParm.h"
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "cmx/CZEBKNCMXCompParm.h"
 #include "standalone/SerialCommunicator.h"

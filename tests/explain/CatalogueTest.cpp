@@ -9,6 +9,7 @@
 #include "inspect/catalogue/Catalogue.hpp"
 #include "inspect/catalogue/NearestNames.hpp"
 #include "tests/support/Tsv.hpp"
+#include "tests/support/WrittenFile.hpp"
 
 namespace {
 
@@ -111,12 +112,7 @@ TEST(Catalogue, SearchNeedsEveryWord) {
 }
 
 TEST(Catalogue, ManualInTheRepositoryIsCurrent) {
-  std::ifstream file(ZEB_EXAMPLES_DIR "/../docs/parameters.md");
-  ASSERT_TRUE(file) << "docs/parameters.md is missing";
-  std::ostringstream text;
-  text << file.rdbuf();
-  EXPECT_TRUE(text.str() == zeb::catalogueMarkdown())
-      << "docs/parameters.md is stale: ./compparm list --format markdown > docs/parameters.md";
+  zebtest::expectCurrent("docs/parameters.md", zeb::catalogueMarkdown());
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include <fstream>
 #include <map>
 
+#include "blocks/CZEBCMPTimeStepSizeCtrlParm.h"
+#include "blocks/CZEBCMPVEParm.h"
 #include "inspect/catalogue/Catalogue.hpp"
 #include "inspect/explain/Difference.hpp"
 #include "inspect/explain/History.hpp"

@@ -104,7 +104,7 @@ TEST(CMPTemplate, EachSectionAloneReadsBackToTheDefaults) {
 }
 
 TEST(CMPTemplate, MoldingTypesOnlyAddComments) {
-  for (int molding = 0; molding <= 14; ++molding) {
+  for (int molding = 0; molding < std::ssize(zeb::moldingTypes()); ++molding) {
     Events events;
     readCMP(zeb::templateText({.molding = molding, .sections = {}, .cmx = false}), events);
     EXPECT_EQ(events.problems, 0) << molding;

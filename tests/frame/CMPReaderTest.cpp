@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "blocks/CZEBCMPIteratParm.h"
 #include "engine/ReadObserver.hpp"
 #include "frame/CMPReader.hpp"
 #include "frame/CZEBKNCMPCompParm.h"

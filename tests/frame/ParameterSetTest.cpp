@@ -7,6 +7,10 @@
 #include <memory>
 #include <stdexcept>
 
+#include "blocks/CZEBCMPGeneralParm.h"
+#include "blocks/CZEBCMPOutletParm.h"
+#include "blocks/CZEBCMPVEParm.h"
+#include "blocks/CZEBCoolBackDoorParm.h"
 #include "frame/CZEBCMPInternalTool.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "inspect/set/Inspection.hpp"

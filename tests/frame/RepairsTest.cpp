@@ -3,7 +3,11 @@
 
 #include <map>
 
-#include "frame/AllBlocks.hpp"
+#include "blocks/CZEBCMPCompressibleFlowParm.h"
+#include "blocks/CZEBCMPGeneralParm.h"
+#include "blocks/CZEBCMPPUChemFoamParm.h"
+#include "blocks/CZEBCMPTimeStepSizeCtrlParm.h"
+#include "blocks/CZEBCMPViscositySetting2Parm.h"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "inspect/set/OutputCapture.hpp"
 #include "tests/support/ReadSet.hpp"

@@ -12,6 +12,10 @@
 #include <sstream>
 #include <vector>
 
+#include "blocks/CZEBCMPGeneralParm.h"
+#include "blocks/CZEBCMPIteratParm.h"
+#include "blocks/CZEBCMPShortShotParm.h"
+#include "blocks/CZEBCoolFastCoolParm.h"
 #include "tests/ranks/Examples.hpp"
 #include "tests/ranks/RankReading.hpp"
 #include "tests/support/TemporaryFile.hpp"

@@ -3,6 +3,10 @@
 
 #include <algorithm>
 
+#include "blocks/CZEBCMPGeneralParm.h"
+#include "blocks/CZEBCMPMultiGateParm.h"
+#include "blocks/CZEBCMPRTMParm.h"
+#include "blocks/CZEBCMPUNFSettingParm.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/ranks/RankReading.hpp"
 #include "tests/support/TemporaryFile.hpp"

@@ -8,6 +8,7 @@
 #include <sstream>
 #include <vector>
 
+#include "blocks/CZEBCMPGeneralParm.h"
 #include "tests/ranks/Examples.hpp"
 #include "tests/ranks/RankReading.hpp"
 #include "tests/support/RandomText.hpp"

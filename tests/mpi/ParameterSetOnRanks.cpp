@@ -9,8 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "ZEBKNCompParm.h"
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "cmx/CZEBKNCMXCompParm.h"
+#include "frame/MoldingTypes.hpp"
 #include "inspect/set/Values.hpp"
 #include "stdcmp/CZEBKNstdCMPCompParm.h"
 #include "tests/mpi/Verdict.hpp"
@@ -86,7 +88,7 @@ void compareAll(Verdict& verdict) {
     compare(verdict, "molding type 0", file, cmpReader(0));
     compare(verdict, "standard solver", file, readStd);
   }
-  for (int molding = 1; molding < 15; ++molding) {
+  for (int molding = 1; molding < std::ssize(zeb::moldingTypes()); ++molding) {
     compare(verdict, "molding type " + std::to_string(molding), cover, cmpReader(molding));
   }
   // In a copy: an invalid viscoelastic file would be replaced.

@@ -7,6 +7,7 @@
 #include <sstream>
 #include <string>
 
+#include "blocks/CZEBCMPVEParm.h"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "inspect/set/Inspection.hpp"
 #include "inspect/set/OutputCapture.hpp"

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/AllBlocks.hpp"
+#include "ZEBKNCompParm.h"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "inspect/set/OutputCapture.hpp"
 #include "tests/support/SetValues.hpp"
@@ -269,21 +269,19 @@ TEST_F(DistinctValues, AreDistinct) {
   }
 }
 
-template <std::size_t... kIndex>
-void assignAll(const CZEBKNCMPCompParm& from, const CZEBKNCMPCompParm& to, std::index_sequence<kIndex...>) {
-  const auto source = zeb::blocksOf(from), target = zeb::blocksOf(to);
+template <class... Blocks>
+void assignAll(const CZEBKNCMPCompParm& from, const CZEBKNCMPCompParm& to, zeb::BlockTypes<Blocks...> /*all*/) {
   const auto assign = [](auto& block, const auto& other) {
     const auto copy(other);
     EXPECT_EQ(&(block = copy), &block);
   };
-  (assign(*static_cast<std::tuple_element_t<kIndex, zeb::AllBlocks>*>(target[kIndex].block),
-          *static_cast<const std::tuple_element_t<kIndex, zeb::AllBlocks>*>(source[kIndex].block)),
-   ...);
+  CZEBCMPInternalTool &source = *zeb::Inspection::tool(from), &target = *zeb::Inspection::tool(to);
+  (assign(target.block<Blocks>(), source.block<Blocks>()), ...);
 }
 
 TEST_F(DistinctValues, AreAllTakenByACopyAndAnAssignmentOfEachBlock) {
   const CZEBKNCMPCompParm other(0, 0);
-  assignAll(set, other, std::make_index_sequence<std::tuple_size_v<zeb::AllBlocks>>());
+  assignAll(set, other, zeb::CMPBlocks());
   EXPECT_EQ(zebtest::valuesOf(zeb::blocksOf(other)), zebtest::valuesOf(zeb::blocksOf(set)));
 }
 

@@ -7,7 +7,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "frame/AllBlocks.hpp"
+#include "ZEBKNCompParm.h"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "tests/support/SetValues.hpp"
 #include "tests/support/Tsv.hpp"

@@ -8,6 +8,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "blocks/CZEBCMPGeneralParm.h"
 #include "engine/SectionEngine.hpp"
 #include "frame/CMPReader.hpp"
 #include "frame/CZEBKNCMPCompParm.h"

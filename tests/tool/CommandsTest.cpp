@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 #include <regex>
 
+#include "frame/MoldingTypes.hpp"
 #include "tests/support/WithoutPrivileges.hpp"
 #include "tests/tool/RunTool.hpp"
 
@@ -78,6 +79,8 @@ TEST(RanksOption, IsRefusedWhereMpirunHasStartedRanks) {
   EXPECT_THAT(run.err, HasSubstr("--ranks: mpirun has started ranks of its own"));
 }
 
+const std::string kCodes = "or a code 0 to " + std::to_string(zeb::moldingTypes().size() - 1);
+
 INSTANTIATE_TEST_SUITE_P(
     Tool, Refused,
     testing::Values(
@@ -111,8 +114,10 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"Device", {"show", "/dev/null"}, "/dev/null: is not a regular file"},
         Refusal{"UnknownBlock", {"show", "FILE", "--block", "Nope"}, "no block or section is named Nope"},
         Refusal{"UnknownMolding", {"show", "FILE", "--molding", "NOPE"}, "--molding: expects one of IM, FAIM"},
-        Refusal{"MoldingCodeTooHigh", {"show", "FILE", "--molding", "15"}, "or a code 0 to 14"},
-        Refusal{"MoldingCodeNegative", {"show", "FILE", "--molding=-1"}, "or a code 0 to 14"},
+        Refusal{"MoldingCodeTooHigh",
+                {"show", "FILE", "--molding", std::to_string(zeb::moldingTypes().size())},
+                kCodes.c_str()},
+        Refusal{"MoldingCodeNegative", {"show", "FILE", "--molding=-1"}, kCodes.c_str()},
         Refusal{"NoRanks", {"show", "FILE", "--ranks", "0"}, "--ranks"},
         Refusal{"UnknownKind", {"show", "FILE", "--as", "nope"}, "--as"},
         Refusal{"RawWithFormat", {"show", "FILE", "--raw", "--format", "json"}, "--raw excludes --format"},
@@ -404,7 +409,7 @@ TEST(Template, ReadsBackAsTheDefaults) {
 }
 
 TEST(Template, OfEveryMoldingTypeChecksClean) {
-  for (int molding = 0; molding <= 14; ++molding) {
+  for (int molding = 0; molding < std::ssize(zeb::moldingTypes()); ++molding) {
     const std::string code = std::to_string(molding);
     const TemporaryFile file(runTool({"template", "--molding", code}).out);
     const ToolRun checked = runTool({"check", file.path(), "--molding", code});

@@ -18,6 +18,8 @@ bool isBinary(const std::string& fileName) {
   return std::memchr(bytes, 0, static_cast<std::size_t>(stream.gcount())) != nullptr;
 }
 
+std::string moldingCodes() { return "0 to " + std::to_string(zeb::moldingTypes().size() - 1); }
+
 }  // namespace
 
 void addMolding(CLI::App& command, const std::string& name, std::function<void(int)> store, const std::string& about) {
@@ -27,8 +29,8 @@ void addMolding(CLI::App& command, const std::string& name, std::function<void(i
           [name, store = std::move(store)](const std::string& text) {
             const auto code = zeb::moldingCode(text);
             if (!code) {
-              throw CLI::ValidationError(name, "expects one of " + zeb::moldingNames() + " or a code 0 to 14" +
-                                                   didYouMean(text, moldingTypeNames()));
+              throw CLI::ValidationError(name, "expects one of " + zeb::moldingNames() + " or a code " +
+                                                   moldingCodes() + didYouMean(text, moldingTypeNames()));
             }
             store(*code);
           },
@@ -47,7 +49,8 @@ void AnalysisArguments::addTo(CLI::App& command) {
   command.add_option("FILE", file, "The parameter file")->required()->type_name("");
   addMolding(
       command, "--molding", [this](int code) { options.molding = code; },
-      "Molding type: " + zeb::moldingNames() + ", or its code 0 to 14 (default IM)");
+      "Molding type: " + zeb::moldingNames() + ", or its code " + moldingCodes() + " (default " +
+          std::string(zeb::moldingTypes().front().name) + ")");
   command.add_option("--material", options.material, "Material type: 0, or 1 for a thermoset (default 0)")
       ->check(CLI::Range(0, 1).description(""))
       ->type_name("0|1");

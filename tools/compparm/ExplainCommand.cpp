@@ -3,6 +3,7 @@
 #include <iostream>
 #include <memory>
 
+#include "blocks/CZEBCMPVEParm.h"
 #include "inspect/catalogue/Catalogue.hpp"
 #include "inspect/explain/History.hpp"
 #include "inspect/explain/Settings.hpp"

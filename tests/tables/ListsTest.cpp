@@ -1,0 +1,117 @@
+// What no compiler can compare: the lists of blocks and molding types with the blocks' tables, with the definition of
+// the format, and with what the public headers tell.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+#include <sstream>
+
+#include "cmx/CZEBCMXInternalTool.hpp"
+#include "frame/CMPReader.hpp"
+#include "frame/MoldingTypes.hpp"
+#include "tests/support/Tsv.hpp"
+
+namespace {
+
+const std::string kRoot = ZEB_TEST_DATA_DIR "/../../";
+
+std::string contentOf(const std::string& file) {
+  std::ifstream stream(kRoot + file);
+  std::ostringstream text;
+  text << stream.rdbuf();
+  return text.str();
+}
+
+// The classes that the public headers of a folder are named after.
+std::set<std::string> headersIn(const std::string& folder, const std::string& prefix) {
+  std::set<std::string> names;
+  for (const auto& file : std::filesystem::directory_iterator(kRoot + folder)) {
+    const std::string name = file.path().stem().string();
+    if (file.path().extension() == ".h" && name.starts_with(prefix)) names.insert(name);
+  }
+  return names;
+}
+
+std::set<std::string> columnOf(const std::string& file, const std::string& column) {
+  std::set<std::string> values;
+  for (const zebtest::TsvRow& row : zebtest::readTsv(file)) values.insert(row.at(column));
+  return values;
+}
+
+TEST(BlockList, IsThatOfTheDefinition) {
+  const std::set<std::string> defined = columnOf("blocks.tsv", "class");
+  std::set<std::string> listed;
+  for (const zeb::BlockEntry& entry : zeb::allBlocks()) listed.emplace(entry.table().className);
+  for (const std::string& name : listed) EXPECT_TRUE(defined.contains(name)) << "tests/data/blocks.tsv lacks " << name;
+  for (const std::string& name : defined) EXPECT_TRUE(listed.contains(name)) << "ZEB_CMP_BLOCKS lacks " << name;
+}
+
+TEST(BlockList, HoldsEveryHeaderOfItsFolder) {
+  std::set<std::string> listed;
+  for (const zeb::BlockEntry& entry : zeb::allBlocks()) listed.emplace(entry.table().className);
+  for (const std::string& name : headersIn("blocks", "CZEB")) {
+    EXPECT_TRUE(listed.contains(name)) << "ZEB_CMP_BLOCKS lacks " << name;
+  }
+}
+
+TEST(BlockList, DumpsTheBlocksThatHaveAHeading) {
+  std::set<std::string_view> dumped;
+  for (const zeb::BlockEntry& entry : zeb::dumpedBlocks()) dumped.insert(entry.table().className);
+  for (const zeb::BlockEntry& entry : zeb::allBlocks()) {
+    const zeb::BlockTable& table = entry.table();
+    EXPECT_EQ(dumped.contains(table.className), !table.heading.empty()) << table.className;
+  }
+}
+
+TEST(BlockList, HasNoOpeningTwice) {
+  CZEBCMPIM cmp;
+  CZEBCMXInternalTool cmx;
+  std::map<std::string_view, int> openings;
+  for (const zeb::DispatchEntry& entry : zeb::cmpSections(cmp)) ++openings[entry.section->open];
+  for (const zeb::DispatchEntry& entry : cmx.sections()) ++openings[entry.section->open];
+  for (const auto& [opening, times] : openings) EXPECT_EQ(times, 1) << opening;
+}
+
+TEST(CMXBlockList, HoldsEveryHeaderOfItsFolder) {
+  std::set<std::string> listed;
+  for (const zeb::BlockTable* table : CZEBCMXInternalTool::tables()) listed.emplace(table->className);
+  for (const std::string& name : headersIn("cmx", "CZEBCMX_")) {
+    EXPECT_TRUE(listed.contains(name)) << "ZEB_CMX_BLOCKS lacks " << name;
+  }
+}
+
+TEST(CMXBlockList, IsThatOfTheDefinition) {
+  const std::set<std::string> defined = columnOf("cmx_keys.tsv", "class");
+  std::set<std::string> listed;
+  for (const zeb::BlockTable* table : CZEBCMXInternalTool::tables()) listed.emplace(table->className);
+  for (const std::string& name : listed) {
+    EXPECT_TRUE(defined.contains(name)) << "tests/data/cmx_keys.tsv lacks " << name;
+  }
+  for (const std::string& name : defined) EXPECT_TRUE(listed.contains(name)) << "ZEB_CMX_BLOCKS lacks " << name;
+}
+
+TEST(MoldingTypeTable, IsThatOfTheDefinition) {
+  std::map<std::string, std::string> defined;
+  for (const zebtest::TsvRow& row : zebtest::readTsv("molding.tsv")) defined[row.at("code")] = row.at("name");
+  const auto types = zeb::moldingTypes();
+  for (std::size_t code = 0; code < types.size(); ++code) {
+    EXPECT_EQ(defined[std::to_string(code)], types[code].name) << "tests/data/molding.tsv, code " << code;
+  }
+  EXPECT_EQ(defined.size(), types.size());
+}
+
+// A host has nothing else to take the codes from.
+TEST(MoldingTypeTable, IsToldByTheParameterSetsHeader) {
+  std::string names;
+  for (const zeb::MoldingType& type : zeb::moldingTypes()) {
+    names += (names.empty() ? "" : ", ") + std::string(type.name);
+  }
+  const std::string header = contentOf("frame/CZEBKNCMPCompParm.h");
+  const std::string told = std::regex_replace(header, std::regex("\\s+///\\s+"), " ");
+  EXPECT_NE(told.find("`moldingType`, counted from 0: " + names + ". "), told.npos) << "it must tell of " << names;
+}
+
+}  // namespace
