@@ -139,7 +139,7 @@ TEST(ParameterSet, CopiesShareEverythingButTheirLife) {
 
 TEST(ParameterSet, ASetWithoutToolCanBeAssigned) {
   const zeb::OutputCapture silence;
-  const CZEBKNCMPCompParm undefined(15, 0);
+  const CZEBKNCMPCompParm undefined(4711, 0);
   CZEBKNCMPCompParm set(0, 0);
   const CZEBCMPGeneralParm* before = set.getGeneralParm();
   set = undefined;

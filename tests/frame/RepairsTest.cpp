@@ -105,7 +105,7 @@ Expected expectedFor(const Case& c) {
 
 TEST(Repairs, FollowTheirStepsForEveryMoldingMaterialWaxAndVenting) {
   const zebtest::TemporaryFile enhanced("[General]\nEnhancedVenting = 1\n[/General]\n");
-  for (const auto& [molding, rows] : moldingTypes()) {
+  for (const int molding : zebtest::moldingCodes()) {
     for (const int material : {0, 1, 2}) {
       for (const int wax : {0, 1}) {
         for (const int venting : {0, 1}) {
@@ -150,7 +150,7 @@ TEST(Repairs, MultiplyAgainWhenCalledAgain) {
 
 TEST(Repairs, AThermosetScalesTheSmallestViscosityThatWasRead) {
   const std::string text = "[ViscositySetting2]\nMinVis = 40\n[/ViscositySetting2]\n";
-  for (const auto& [code, rows] : moldingTypes()) {
+  for (const int code : zebtest::moldingCodes()) {
     EXPECT_DOUBLE_EQ(Repaired(text, code, 1).minVis(), code == 5 ? 0.04 : code == 13 ? 0.004 : 4.0) << code;
     EXPECT_EQ(Repaired(text, code, 0).minVis(), 40.0) << code;
   }

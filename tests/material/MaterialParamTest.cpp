@@ -122,13 +122,6 @@ TEST(MaterialParam, LongTextsAreCut) {
   EXPECT_STREQ(param.GetZebMaterial()->szText[4], "") << "a null text";
 }
 
-TEST(MaterialParam, TextBuffersHave255Characters) {
-  FakeEngine engine;
-  CZEBKNMaterialParam param;
-  param.SetInput("X", nullptr);
-  for (char* text : param.GetZebMaterial()->szText) std::fill_n(text, 255, 'x');
-}
-
 TEST(MaterialParam, CountsWithoutArraysAreTakenAsZero) {
   FakeEngine engine;
   engine.material.table[16].iCount = 3;

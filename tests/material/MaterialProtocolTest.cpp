@@ -175,14 +175,17 @@ TEST(MaterialDistribution, OnlyTheFirstTextIsDistributed) {
   }
 }
 
-TEST(MaterialDistribution, SingleRankSendsNothing) {
-  FakeEngine engine;
-  makeFiveCoefficientMaterial(engine);
-  zeb::RecordingCommunicator com(1);
-  CZEBKNMaterialParam param;
-  EXPECT_EQ(param.SetInput("EP", &com), 1);
-  EXPECT_EQ(com.log().calls(), std::vector<std::string>{"Barrier"});
-  EXPECT_EQ(curvesOf(param).size(), 2u);
+TEST(MaterialDistribution, WithoutOtherRanksNothingIsSent) {
+  for (const int ranks : {1, 0, -1}) {
+    FakeEngine engine;
+    makeFiveCoefficientMaterial(engine);
+    zeb::RecordingCommunicator com(ranks);
+    CZEBKNMaterialParam param;
+    EXPECT_EQ(param.SetInput("EP", &com), 1);
+    EXPECT_EQ(com.log().calls(), std::vector<std::string>{"Barrier"}) << ranks;
+    EXPECT_STREQ(param.GetZebMaterial()->szText[0], "EP \"thermoset\"");
+    EXPECT_EQ(curvesOf(param).size(), 2u);
+  }
 }
 
 TEST(MaterialDistribution, OtherModelValuesSendNoCoefficients) {

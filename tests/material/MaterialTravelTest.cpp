@@ -21,8 +21,6 @@ namespace {
 using zebtest::curvesOf;
 using zebtest::recordText;
 
-constexpr const char* kNoSuchCurve = "icount is exceed the maximum number of m_nMtcCount.\n";
-
 // Rank 0 with one other rank, which repeats each input and must end with the same record.
 class TwoRanks {
  public:
@@ -62,21 +60,6 @@ TEST(MaterialSteps, EngineIsReleasedBeforeTheRanksMeet) {
   EXPECT_EQ(Events(engine.calls.begin(), engine.calls.begin() + 5), expected);
   const auto isEngine = [](const std::string& event) { return event.rfind("Zeb", 0) == 0; };
   EXPECT_EQ(std::count_if(engine.calls.begin(), engine.calls.end(), isEngine), 4);
-}
-
-TEST(MaterialSteps, OtherRanksMeetWithoutTheEngine) {
-  FakeEngine engine;
-  makeTwoCoefficientMaterial(engine);
-  for (const int rank : {1, 3}) {
-    engine.calls.clear();
-    WatchedRank com(rank, 4, engine.calls);
-    CZEBKNMaterialParam param;
-    EXPECT_EQ(param.SetInput("PA", &com), 1);
-    // The barrier, 6 header values, 6 texts, 17 tables of 3 ints, 4 model values, the last double, the curves' number.
-    ASSERT_EQ(engine.calls.size(), 1u + 6 + 6 + 17 * 3 + 4 + 1 + 1);
-    EXPECT_EQ(engine.calls[0], "barrier");
-    EXPECT_EQ(std::count(engine.calls.begin(), engine.calls.end(), "Broadc"), 6);
-  }
 }
 
 TEST(MaterialSteps, EngineIsAskedForAsManyCurvesAsItReports) {
@@ -247,19 +230,6 @@ TEST(MaterialOnEachRank, ArraysHaveTheirFullRoom) {
   }
 }
 
-TEST(MaterialOnEachRank, CurveAtTheCountPrintsTheMessage) {
-  FakeEngine engine;
-  makeFiveCoefficientMaterial(engine);
-  TwoRanks ranks;
-  ranks.input("EP");
-  for (const CZEBKNMaterialParam* param : {&ranks.sender, &ranks.receiver}) {
-    testing::internal::CaptureStdout();
-    EXPECT_NE(param->GetMtcData(1), nullptr);
-    EXPECT_EQ(param->GetMtcData(2), nullptr);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), kNoSuchCurve);
-  }
-}
-
 // --- Objects used again ------------------------------------------------------------------------------------------
 
 TEST(MaterialReuse, FurtherInputsLeaveNothingOfTheEarlierOnAnyRank) {
@@ -276,21 +246,6 @@ TEST(MaterialReuse, FurtherInputsLeaveNothingOfTheEarlierOnAnyRank) {
     fresh.input("X");
     EXPECT_EQ(reused.calls(), fresh.calls());
     EXPECT_EQ(recordText(reused.receiver), recordText(fresh.receiver));
-  }
-}
-
-TEST(MaterialReuse, MaterialThatIsNotFoundEmptiesEveryRank) {
-  TwoRanks ranks;
-  FakeEngine engine;
-  makeFiveCoefficientMaterial(engine);
-  ranks.input("EP");
-  engine.knowsMaterial = false;
-  ranks.input("nowhere");
-  for (const CZEBKNMaterialParam* param : {&ranks.sender, &ranks.receiver}) {
-    for (const char* text : param->GetZebMaterial()->szText) EXPECT_STREQ(text, "");
-    EXPECT_EQ(param->GetZebMaterial()->table[1].iCount, 0);
-    EXPECT_EQ(param->GetZebMaterial()->iModel[2], 0);
-    EXPECT_TRUE(curvesOf(*param).empty());
   }
 }
 

@@ -12,7 +12,6 @@
 #include "ZEBKNCompParm.h"
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "cmx/CZEBKNCMXCompParm.h"
-#include "frame/MoldingTypes.hpp"
 #include "inspect/set/Values.hpp"
 #include "stdcmp/CZEBKNstdCMPCompParm.h"
 #include "tests/mpi/Verdict.hpp"
@@ -20,6 +19,7 @@
 #include "tests/ranks/RankReading.hpp"
 #include "tests/stdcmp/PublicValues.hpp"
 #include "tests/support/TestFolder.hpp"
+#include "tests/support/Tsv.hpp"
 
 namespace {
 
@@ -88,7 +88,7 @@ void compareAll(Verdict& verdict) {
     compare(verdict, "molding type 0", file, cmpReader(0));
     compare(verdict, "standard solver", file, readStd);
   }
-  for (int molding = 1; molding < std::ssize(zeb::moldingTypes()); ++molding) {
+  for (const int molding : zebtest::moldingCodes()) {
     compare(verdict, "molding type " + std::to_string(molding), cover, cmpReader(molding));
   }
   // In a copy: an invalid viscoelastic file would be replaced.

@@ -7,7 +7,6 @@
 
 #include "blocks/CZEBCMPGeneralParm.h"
 #include "blocks/CZEBCoolBackDoorParm.h"
-#include "frame/MoldingTypes.hpp"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/ranks/Examples.hpp"
 #include "tests/ranks/RandomFile.hpp"
@@ -67,7 +66,7 @@ TEST(ExamplesOnRanks, EveryFileIsTheSameOn1To64Ranks) {
 
 TEST(ExamplesOnRanks, EveryMoldingAndMaterialTypeIsTheSame) {
   const std::string file = zebtest::example("thin-wall-cover.cmp");
-  for (int molding = 0; molding < std::ssize(zeb::moldingTypes()); ++molding) {
+  for (const int molding : zebtest::moldingCodes()) {
     for (const int material : {0, 1}) {
       const ReadingOptions options{.molding = molding, .material = material};
       const Reading serial = zebtest::readAs(nullptr, file, options);

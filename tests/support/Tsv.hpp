@@ -3,6 +3,7 @@
 
 #include <fstream>
 #include <map>
+#include <set>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -51,6 +52,13 @@ inline std::vector<TsvRow> readTsv(const std::string& name) {
     rows.push_back(std::move(row));
   }
   return rows;
+}
+
+/// The codes of the molding types.
+inline std::set<int> moldingCodes() {
+  std::set<int> codes;
+  for (const TsvRow& row : readTsv("molding.tsv")) codes.insert(std::stoi(row.at("code")));
+  return codes;
 }
 
 }  // namespace zebtest

@@ -9,6 +9,7 @@
 #include <regex>
 
 #include "frame/MoldingTypes.hpp"
+#include "tests/support/Tsv.hpp"
 #include "tests/support/WithoutPrivileges.hpp"
 #include "tests/tool/RunTool.hpp"
 
@@ -18,6 +19,7 @@ using nlohmann::json;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
+using zebtest::kMaterials;
 using zebtest::runTool;
 using zebtest::TemporaryFile;
 using zebtest::ToolRun;
@@ -32,7 +34,6 @@ constexpr const char* kMoments =
     "2 = 5.005\n"
     "3 = 9.0\n"
     "</FILL_OUTPUT_TIMES>\n";
-const std::string kMaterials = std::string(ZEB_EXAMPLES_DIR) + "/materials";
 
 // --- What cannot be used: exit code 2, nothing on the standard output, a message that names the cause --------------
 
@@ -409,7 +410,7 @@ TEST(Template, ReadsBackAsTheDefaults) {
 }
 
 TEST(Template, OfEveryMoldingTypeChecksClean) {
-  for (int molding = 0; molding < std::ssize(zeb::moldingTypes()); ++molding) {
+  for (const int molding : zebtest::moldingCodes()) {
     const std::string code = std::to_string(molding);
     const TemporaryFile file(runTool({"template", "--molding", code}).out);
     const ToolRun checked = runTool({"check", file.path(), "--molding", code});

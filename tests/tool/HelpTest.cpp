@@ -14,17 +14,10 @@ namespace {
 
 using testing::Contains;
 using testing::HasSubstr;
+using zebtest::kRoot;
+using zebtest::linesOf;
 using zebtest::runTool;
 using zebtest::ToolRun;
-
-const std::string kRoot = std::string(ZEB_EXAMPLES_DIR) + "/..";
-
-std::vector<std::string> linesOf(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) lines.push_back(line);
-  return lines;
-}
 
 std::vector<std::string> matches(const std::string& text, const std::string& pattern) {
   const std::regex regex(pattern);

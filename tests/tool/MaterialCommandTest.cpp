@@ -12,11 +12,10 @@ namespace {
 using nlohmann::json;
 using testing::HasSubstr;
 using testing::Not;
+using zebtest::kMaterials;
 using zebtest::runTool;
 using zebtest::TemporaryFile;
 using zebtest::ToolRun;
-
-const std::string kMaterials = std::string(ZEB_EXAMPLES_DIR) + "/materials";
 
 // A small material whose parts can be replaced.
 struct Parts {

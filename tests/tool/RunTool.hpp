@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -23,6 +24,16 @@ struct ToolRun {
   std::string out;
   std::string err;
 };
+
+inline const std::string kRoot = std::filesystem::path(ZEB_EXAMPLES_DIR).parent_path().string();
+inline const std::string kMaterials = std::string(ZEB_EXAMPLES_DIR) + "/materials";
+
+inline std::vector<std::string> linesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
+}
 
 inline std::string contentOf(const std::string& path) {
   std::ifstream stream(path, std::ios::binary);

@@ -9,26 +9,20 @@
 namespace {
 
 namespace fs = std::filesystem;
+using zebtest::kRoot;
+using zebtest::linesOf;
 
 const std::string kPrompt = "$ ./compparm ";
 const std::string kElided = "…";
-const fs::path kRoot = fs::path(ZEB_EXAMPLES_DIR).parent_path();
 
 using Lines = std::vector<std::string>;
-
-Lines linesOf(const std::string& text) {
-  Lines lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) lines.push_back(line);
-  return lines;
-}
 
 // What the page is to show of the command's output: as many lines as it shows now, where it leaves the rest out.
 Lines outputOf(const std::string& command, const Lines& shown) {
   std::istringstream words(command);
   std::vector<std::string> arguments;
   for (std::string word; words >> word;) arguments.push_back(word);
-  const zebtest::ToolRun run = zebtest::runTool(arguments, kRoot.string());
+  const zebtest::ToolRun run = zebtest::runTool(arguments, kRoot);
   Lines lines = linesOf(run.out + run.err);
   const bool isElided = !shown.empty() && shown.back() == kElided;
   if (isElided && lines.size() >= shown.size()) {
@@ -74,7 +68,7 @@ std::string textOf(const Lines& lines) {
 class Tour : public testing::TestWithParam<std::string> {};
 
 TEST_P(Tour, ShowsRealOutput) {
-  const fs::path path = kRoot / GetParam();
+  const fs::path path = fs::path(kRoot) / GetParam();
   const std::string before = zebtest::contentOf(path.string());
   const Page page = withRealOutput(linesOf(before));
   EXPECT_GT(page.commands, 0);

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
@@ -16,66 +18,10 @@
 namespace zebtest {
 
 /// What a block with all its defaults is written as.
-inline constexpr const char* kDefaultFile =
-    "1006\n"
-    "0.000000 1.000000 0.000000\n"
-    "1000.000000 0.100000 5000.000000\n"
-    "20.000000 0.010000 20.000000\n"
-    "1000.000000 1000000.000000\n"
-    "0.000000 10000.000000 0.000000\n"
-    "1.000000 10.000000 1000.000000\n"
-    "1 0.000000 0\n"
-    "-1\n"
-    "\n"
-    "<VE_Solver>\n"
-    "VE_Para1 = 0.7 \n"
-    "</VE_Solver>\n"
-    "\n"
-    "\n"
-    "<WhiteMetzner_Gai>\n"
-    "WM_Switch = 1 \n"
-    "WM_Para1  = 0.1 \n"
-    "WM_Para2  = 0.8 \n"
-    "</WhiteMetzner_Gai>\n"
-    "\n"
-    "\n"
-    "<PLOT_MATERIAL>\n"
-    "FlagIsPlotShearVis  = 0 \n"
-    "FlagIsPlotElongVis  = 0 \n"
-    "RefTemperature      = 200 \n"
-    "DeltaTemperature    = 20  \n"
-    "DeltaTime           = 0.01 \n"
-    "TargetTime          = 20  \n"
-    "SRateLowerBound     = 0.01 \n"
-    "SRateUpperBound     = 1000 \n"
-    "</PLOT_MATERIAL>\n"
-    "\n"
-    "\n"
-    "<PLOT_TRANSIENT_SHEAR_MATERIAL>\n"
-    "FlagIsPlotShearVis_Transient  = 0 \n"
-    "RefTemperature                = 200 \n"
-    "DeltaTemperature              = 20  \n"
-    "DeltaTime                     = 0.01 \n"
-    "TargetTime                    = 200  \n"
-    "SRateLowerBound               = 0.01 \n"
-    "SRateUpperBound               = 10 \n"
-    "TotalSetofInputSRate          = -1 \n"
-    "ShearRate                     = 0.01 \n"
-    "</PLOT_TRANSIENT_SHEAR_MATERIAL>\n"
-    "\n"
-    "\n"
-    "<PLOT_TRANSIENT_EXTENSION_MATERIAL>\n"
-    "FlagIsPlotElongVis_Transient  = 0 \n"
-    "RefTemperature                = 200 \n"
-    "DeltaTemperature              = 20  \n"
-    "DeltaTime                     = 0.01 \n"
-    "TargetTime                    = 200  \n"
-    "SRateLowerBound               = 0.01 \n"
-    "SRateUpperBound               = 10 \n"
-    "TotalSetofInputSRate          = -1 \n"
-    "StrainRate                    = 0.01 \n"
-    "</PLOT_TRANSIENT_EXTENSION_MATERIAL>\n"
-    "\n";
+inline const std::string kDefaultFile = [] {
+  std::ifstream file(ZEB_TEST_DATA_DIR "/default.vecmp", std::ios::binary);
+  return std::string{std::istreambuf_iterator<char>(file), {}};
+}();
 
 /// A head whose values are all ignored (so that a block keeps what it has), with some lines replaced, then `body`.
 inline std::string fileWith(const std::map<int, std::string>& lines, const std::string& body = "") {
