@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPAutoVPCtrlParm::CZEBCMPAutoVPCtrlParm() = default;
-CZEBCMPAutoVPCtrlParm::CZEBCMPAutoVPCtrlParm(const CZEBCMPAutoVPCtrlParm& other) = default;
-CZEBCMPAutoVPCtrlParm::~CZEBCMPAutoVPCtrlParm() = default;
-CZEBCMPAutoVPCtrlParm& CZEBCMPAutoVPCtrlParm::operator=(const CZEBCMPAutoVPCtrlParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPAutoVPCtrlParm)
 
 int CZEBCMPAutoVPCtrlParm::iIsAutoVPCtrl() const { return m_iIsAutoVPCtrl; }
 int CZEBCMPAutoVPCtrlParm::iAutoVPCtrlDebug() const { return m_iAutoVPCtrlDebug; }
@@ -21,31 +18,23 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPAutoVPCtrlParm>() {
   using T = CZEBCMPAutoVPCtrlParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsAutoVPCtrl, &T::iIsAutoVPCtrl>(), .key = "AutoVPMode", .gateBelow = 1,
-       .label = "m_iIsAutoVPCtrl\t\t\t\t\t= ",
+      {.field = field<&T::m_iIsAutoVPCtrl, &T::iIsAutoVPCtrl>(), .key = "AutoVPMode", .gateBelow = 1, .tabs = 5,
        .doc = "Mode of the automatic control; below 1 the section's other keys are ignored."},
-      {.field = field<&T::m_iAutoVPCtrlDebug, &T::iAutoVPCtrlDebug>(), .key = "Debug",
-       .label = "m_iAutoVPCtrlDebug\t\t\t\t\t= ",
-       .doc = "Debug output of the automatic control. Meaning defined by the solver."},
-      {.field = field<&T::m_iAutoVPCtrlFullShotMode, &T::iAutoVPCtrlFullShotMode>(), .key = "FullShotMode",
-       .label = "m_iAutoVPCtrlFullShotMode\t\t\t= ", .doc = "Full-shot mode. Meaning defined by the solver."},
+      {.field = field<&T::m_iAutoVPCtrlDebug, &T::iAutoVPCtrlDebug>(), .key = "Debug", .tabs = 5,
+       .doc = "Debug output of the automatic control.", .opaque = true},
+      {.field = field<&T::m_iAutoVPCtrlFullShotMode, &T::iAutoVPCtrlFullShotMode>(), .key = "FullShotMode", .tabs = 3,
+       .doc = "Full-shot mode.", .opaque = true},
       {.field = field<&T::m_iAutoVPCtrlBarrelEffect, &T::iAutoVPCtrlBarrelEffect>(), .key = "ConsiderBarrelEffect",
-       .label = "m_iAutoVPCtrlBarrelEffect\t\t\t= ",
-       .doc = "Consideration of the effect of the barrel. Meaning defined by the solver."},
+       .tabs = 3, .doc = "Consideration of the effect of the barrel.", .opaque = true},
       {.field = field<&T::m_dAutoVPCtrlExtraInjWeightRatio, &T::dAutoVPCtrlExtraInjWeightRatio>(),
-       .key = "ExtraInjWeightRatio",
-       .label = "m_dAutoVPCtrlExtraInjWeightRatio\t= ",
-       .doc = "Ratio of the extra injected weight. Meaning defined by the solver."},
+       .key = "ExtraInjWeightRatio", .tabs = 1, .doc = "Ratio of the extra injected weight.", .opaque = true},
       {.field = field<&T::m_dAutoVPCtrlHRAbsorbRatioCtrl, &T::dAutoVPCtrlHRAbsorbRatioCtrl>(),
-       .key = "HRAbsorbRatioControl",
-       .label = "m_dAutoVPCtrlHRAbsorbRatioCtrl\t\t= ",
-       .doc = "Control of the hot runner's absorption ratio. Meaning defined by the solver."},
-      {.field = field<&T::m_dAutoVPCtrlCavityPres, &T::dAutoVPCtrlCavityPres>(), .key = "EstCavityPres",
-       .label = "m_dAutoVPCtrlCavityPres\t\t\t= ",
+       .key = "HRAbsorbRatioControl", .tabs = 2, .doc = "Control of the hot runner's absorption ratio.",
+       .opaque = true},
+      {.field = field<&T::m_dAutoVPCtrlCavityPres, &T::dAutoVPCtrlCavityPres>(), .key = "EstCavityPres", .tabs = 3,
        .doc = "Estimated pressure in the cavity, as written in the file."},
-      {.field = field<&T::m_dAutoVPCtrlCavityTemp, &T::dAutoVPCtrlCavityTemp>(), .key = "EstCavityTemp",
-       .label = "m_dAutoVPCtrlCavityTemp\t\t\t= ",
-       .doc = "Estimated temperature in the cavity. Meaning defined by the solver."},
+      {.field = field<&T::m_dAutoVPCtrlCavityTemp, &T::dAutoVPCtrlCavityTemp>(), .key = "EstCavityTemp", .tabs = 3,
+       .doc = "Estimated temperature in the cavity.", .opaque = true},
   };
   // clang-format on
   static constexpr Order<8> kReadingOrder{

@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPCompressibleFlowParm::CZEBCMPCompressibleFlowParm() = default;
-CZEBCMPCompressibleFlowParm::CZEBCMPCompressibleFlowParm(const CZEBCMPCompressibleFlowParm& other) = default;
-CZEBCMPCompressibleFlowParm::~CZEBCMPCompressibleFlowParm() = default;
-CZEBCMPCompressibleFlowParm& CZEBCMPCompressibleFlowParm::operator=(const CZEBCMPCompressibleFlowParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPCompressibleFlowParm)
 
 int CZEBCMPCompressibleFlowParm::iCompressible() const { return m_iCompressible; }
 int CZEBCMPCompressibleFlowParm::iUseNormalStressTerm() const { return m_iUseNormalStressTerm; }
@@ -32,60 +29,42 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPCompressibleFlowParm>() {
   using T = CZEBCMPCompressibleFlowParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iCompressible, &T::iCompressible>(), .key = "CompressibleFlow",
-       .label = "m_iCompressible\t\t\t\t= ",
+      {.field = field<&T::m_iCompressible, &T::iCompressible>(), .key = "CompressibleFlow", .tabs = 4,
        .doc = "Switch: compressible flow."},
       {.field = field<&T::m_iUseNormalStressTerm, &T::iUseNormalStressTerm>(), .key = "UseNormalStressTerm",
-       .echo = {"UseNormalStressTerm     = "}, .label = "m_iUseNormalStressTerm\t\t\t= ",
-       .doc = "Switch: use of the normal-stress term."},
+       .echo = {"UseNormalStressTerm     = "}, .tabs = 3, .doc = "Switch: use of the normal-stress term."},
       {.field = field<&T::m_iCompressible_SIMPLER_Niter, &T::iCompressible_SIMPLER_Niter>(),
-       .key = "Compressible_SIMPLE_Niter", .echo = {"Compressible_SIMPLE_Niter = "},
-       .label = "m_iCompressible_SIMPLER_Niter\t= ",
+       .key = "Compressible_SIMPLE_Niter", .echo = {"Compressible_SIMPLE_Niter = "}, .tabs = 1,
        .doc = "Number of SIMPLE iterations."},
       {.field = field<&T::m_iCompressible_CM_Niter, &T::iCompressible_CM_Niter>(), .key = "Compressible_CM_Niter",
-       .echo = {"Compressible_CM_Niter = "}, .label = "m_iCompressible_CM_Niter\t\t= ",
-       .doc = "Number of CM iterations."},
+       .echo = {"Compressible_CM_Niter = "}, .tabs = 2, .doc = "Number of CM iterations."},
       {.field = field<&T::m_dCompressible_SIMPLER_Tol, &T::dCompressible_SIMPLER_Tol>(),
-       .key = "Compressible_SIMPLE_Tol", .echo = {"Compressible_SIMPLE_Tol = "},
-       .label = "m_dCompressible_SIMPLER_Tol\t= ",
+       .key = "Compressible_SIMPLE_Tol", .echo = {"Compressible_SIMPLE_Tol = "}, .tabs = 1,
        .doc = "Tolerance of the SIMPLE iterations."},
-      {.field = field<&T::m_dCompressible_PISO_Tol, &T::dCompressible_PISO_Tol>(),
-       .label = "m_dCompressible_PISO_Tol\t\t= ",
+      {.field = field<&T::m_dCompressible_PISO_Tol, &T::dCompressible_PISO_Tol>(), .tabs = 2,
        .doc = "Tolerance of the PISO iterations."},
       {.field = field<&T::m_dCompressible_TolPres, &T::dCompressible_TolPres>(), .key = "Compressible_TolPres",
-       .echo = {"Compressible_TolPres = "}, .label = "m_dCompressible_TolPres\t\t= ",
-       .doc = "Tolerance of the pressure."},
+       .echo = {"Compressible_TolPres = "}, .tabs = 2, .doc = "Tolerance of the pressure."},
       {.field = field<&T::m_dCompressible_U_Tol, &T::dCompressible_U_Tol>(), .key = "Compressible_UVW_Tol",
-       .echo = {"Compressible_UVW_Tol    = "}, .label = "m_dCompressible_U_Tol\t\t\t= ",
-       .doc = "Tolerance of the velocity component U."},
-      {.field = field<&T::m_dCompressible_V_Tol, &T::dCompressible_V_Tol>(), .key = "Compressible_UVW_Tol",
-       .label = "m_dCompressible_V_Tol\t\t\t= ",
+       .echo = {"Compressible_UVW_Tol    = "}, .tabs = 3, .doc = "Tolerance of the velocity component U."},
+      {.field = field<&T::m_dCompressible_V_Tol, &T::dCompressible_V_Tol>(), .key = "Compressible_UVW_Tol", .tabs = 3,
        .doc = "Tolerance of the velocity component V."},
-      {.field = field<&T::m_dCompressible_W_Tol, &T::dCompressible_W_Tol>(), .key = "Compressible_UVW_Tol",
-       .label = "m_dCompressible_W_Tol\t\t\t= ",
+      {.field = field<&T::m_dCompressible_W_Tol, &T::dCompressible_W_Tol>(), .key = "Compressible_UVW_Tol", .tabs = 3,
        .doc = "Tolerance of the velocity component W."},
       {.field = field<&T::m_dCompressible_U_Relax, &T::dCompressible_U_Relax>(), .key = "Compressible_UVW_Relax",
-       .echo = {"Compressible_UVW_Relax    = "}, .label = "m_dCompressible_U_Relax\t\t= ",
-       .doc = "Relaxation of the velocity component U."},
+       .echo = {"Compressible_UVW_Relax    = "}, .tabs = 2, .doc = "Relaxation of the velocity component U."},
       {.field = field<&T::m_dCompressible_V_Relax, &T::dCompressible_V_Relax>(), .key = "Compressible_UVW_Relax",
-       .label = "m_dCompressible_V_Relax\t\t= ",
-       .doc = "Relaxation of the velocity component V."},
+       .tabs = 2, .doc = "Relaxation of the velocity component V."},
       {.field = field<&T::m_dCompressible_W_Relax, &T::dCompressible_W_Relax>(), .key = "Compressible_UVW_Relax",
-       .label = "m_dCompressible_W_Relax\t\t= ",
-       .doc = "Relaxation of the velocity component W."},
+       .tabs = 2, .doc = "Relaxation of the velocity component W."},
       {.field = field<&T::m_dCompressible_CM_P_Tol, &T::dCompressible_CM_P_Tol>(), .key = "Compressible_CM_P_Tol",
-       .echo = {"Compressible_P_Tol    = "}, .label = "m_dCompressible_CM_P_Tol\t\t= ",
-       .doc = "Tolerance of the pressure in the CM iterations."},
-      {.field = field<&T::m_dCompressible_CM_P_Relax, &T::dCompressible_CM_P_Relax>(),
-       .key = "Compressible_CM_P_Relax", .echo = {"Compressible_P_Relax    = "},
-       .label = "m_dCompressible_CM_P_Relax\t\t= ",
-       .doc = "Relaxation of the pressure in the CM iterations."},
-      {.field = field<&T::m_dAirdDdp, &T::dAirdDdp>(), .key = "AirdDdp", .echo = {"AirdDdp     = "},
-       .label = "m_dAirdDdp\t\t\t\t\t\t= ",
-       .doc = "dD/dp of the air. Meaning defined by the solver."},
+       .echo = {"Compressible_P_Tol    = "}, .tabs = 2, .doc = "Tolerance of the pressure in the CM iterations."},
+      {.field = field<&T::m_dCompressible_CM_P_Relax, &T::dCompressible_CM_P_Relax>(), .key = "Compressible_CM_P_Relax",
+       .echo = {"Compressible_P_Relax    = "}, .tabs = 2, .doc = "Relaxation of the pressure in the CM iterations."},
+      {.field = field<&T::m_dAirdDdp, &T::dAirdDdp>(), .key = "AirdDdp", .echo = {"AirdDdp     = "}, .tabs = 6,
+       .doc = "dD/dp of the air.", .opaque = true},
       {.field = field<&T::m_dVentAirDdp, &T::dVentAirDdp>(), .key = "VentdDdp", .echo = {"m_dVentAirDdp     = "},
-       .label = "m_dVentAirDdp\t\t\t\t\t= ",
-       .doc = "dD/dp of the vented air. Meaning defined by the solver."},
+       .tabs = 5, .doc = "dD/dp of the vented air.", .opaque = true},
   };
   static constexpr Order<12> kReadingOrder{
       "CompressibleFlow", "Compressible_SIMPLE_Niter", "Compressible_CM_Niter", "Compressible_SIMPLE_Tol",

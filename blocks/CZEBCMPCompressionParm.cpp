@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPCompressionParm::CZEBCMPCompressionParm() = default;
-CZEBCMPCompressionParm::CZEBCMPCompressionParm(const CZEBCMPCompressionParm& other) = default;
-CZEBCMPCompressionParm::~CZEBCMPCompressionParm() = default;
-CZEBCMPCompressionParm& CZEBCMPCompressionParm::operator=(const CZEBCMPCompressionParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPCompressionParm)
 
 int CZEBCMPCompressionParm::iIsInitialData() const { return m_iIsInitialData; }
 int CZEBCMPCompressionParm::iIsCalConversionFromTemp() const { return m_iIsCalConversionFromTemp; }
@@ -23,30 +20,26 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPCompressionParm>() {
   using T = CZEBCMPCompressionParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsInitialData, &T::iIsInitialData>(), .key = "IsInitialData",
-       .label = "m_iIsInitialData\t\t\t\t= ", .doc = "Use of initial data. Meaning defined by the solver."},
-      {.field = field<&T::m_iIsCalConversionFromTemp, &T::iIsCalConversionFromTemp>(),
-       .key = "IsCalConversionFromTemp",
-       .label = "m_iIsCalConversionFromTemp\t\t= ",
-       .doc = "Calculation of the conversion from the temperature. Meaning defined by the solver."},
-      {.field = field<&T::m_iIsInitialStress, &T::iIsInitialStress>(), .key = "IsInitialStress",
-       .label = "m_iIsInitialStress\t\t\t\t= ", .doc = "Use of initial stresses. Meaning defined by the solver."},
-      {.field = field<&T::m_iIsInitialTemp, &T::iIsInitialTemp>(), .key = "IsInitialTemp",
-       .label = "m_iIsInitialTemp\t\t\t\t= ", .doc = "Use of initial temperatures. Meaning defined by the solver."},
-      {.field = field<&T::m_iIsInitialFiber, &T::iIsInitialFiber>(), .key = "IsInitialFiber",
-       .label = "m_iIsInitialFiber\t\t\t\t= ",
-       .doc = "Use of initial fiber orientations. Meaning defined by the solver."},
-      {.field = field<&T::m_dMapFactor, &T::dMapFactor>(), .key = "MapFactor",
-       .label = "m_dMapFactor\t\t\t\t\t= ", .doc = "Factor of the mapping. Meaning defined by the solver."},
+      {.field = field<&T::m_iIsInitialData, &T::iIsInitialData>(), .key = "IsInitialData", .tabs = 4,
+       .doc = "Use of initial data.", .opaque = true},
+      {.field = field<&T::m_iIsCalConversionFromTemp, &T::iIsCalConversionFromTemp>(), .key = "IsCalConversionFromTemp",
+       .tabs = 2, .doc = "Calculation of the conversion from the temperature.", .opaque = true},
+      {.field = field<&T::m_iIsInitialStress, &T::iIsInitialStress>(), .key = "IsInitialStress", .tabs = 4,
+       .doc = "Use of initial stresses.", .opaque = true},
+      {.field = field<&T::m_iIsInitialTemp, &T::iIsInitialTemp>(), .key = "IsInitialTemp", .tabs = 4,
+       .doc = "Use of initial temperatures.", .opaque = true},
+      {.field = field<&T::m_iIsInitialFiber, &T::iIsInitialFiber>(), .key = "IsInitialFiber", .tabs = 4,
+       .doc = "Use of initial fiber orientations.", .opaque = true},
+      {.field = field<&T::m_dMapFactor, &T::dMapFactor>(), .key = "MapFactor", .tabs = 5,
+       .doc = "Factor of the mapping.", .opaque = true},
       {.field = field<&T::m_dPreHeatTimeInInitialData, &T::dPreHeatTimeInInitialData>(),
-       .key = "PreHeatTimeInInitialData",
-       .label = "m_dPreHeatTimeInInitialData\t= ", .doc = "Preheating time in the initial data."},
+       .key = "PreHeatTimeInInitialData", .tabs = 1, .doc = "Preheating time in the initial data."},
       {.field = field<&T::m_szFilePathOfInitialData, &T::szFilePathOfInitialData>(), .key = "FilePathOfInitialData",
-       .label = "m_szFilePathOfInitialData\t\t= ", .doc = "Path of the file with the initial data."},
-      {.field = field<&T::m_szFilePathOfLocation, &T::szFilePathOfLocation>(), .key = "FilePathOfLocation",
-       .label = "m_szFilePathOfLocation\t\t\t= ", .doc = "Path of the file with the locations."},
-      {.field = field<&T::m_iAbaqusMeshType, &T::iAbaqusMeshType>(), .key = "AbaqusMeshType",
-       .label = "m_iAbaqusMeshType\t\t\t\t= ", .doc = "Type of the Abaqus mesh. Meaning defined by the solver."},
+       .tabs = 2, .doc = "Path of the file with the initial data."},
+      {.field = field<&T::m_szFilePathOfLocation, &T::szFilePathOfLocation>(), .key = "FilePathOfLocation", .tabs = 3,
+       .doc = "Path of the file with the locations."},
+      {.field = field<&T::m_iAbaqusMeshType, &T::iAbaqusMeshType>(), .key = "AbaqusMeshType", .tabs = 4,
+       .doc = "Type of the Abaqus mesh.", .opaque = true},
   };
   // clang-format on
   static constexpr Order<10> kReadingOrder{

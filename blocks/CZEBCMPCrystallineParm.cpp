@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPCrystallineParm::CZEBCMPCrystallineParm() = default;
-CZEBCMPCrystallineParm::CZEBCMPCrystallineParm(const CZEBCMPCrystallineParm& other) = default;
-CZEBCMPCrystallineParm::~CZEBCMPCrystallineParm() = default;
-CZEBCMPCrystallineParm& CZEBCMPCrystallineParm::operator=(const CZEBCMPCrystallineParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPCrystallineParm)
 
 int CZEBCMPCrystallineParm::iFlagDebug() const { return m_iFlagDebug; }
 int CZEBCMPCrystallineParm::iFlagIsPlotDynamic() const { return m_iFlagIsPlotDynamic; }
@@ -29,37 +26,28 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPCrystallineParm>() {
   using T = CZEBCMPCrystallineParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iFlagDebug, &T::iFlagDebug>(), .key = "FlagDebug", .label = "m_iFlagDebug\t\t\t= ",
-       .doc = "Debug flag. Meaning defined by the solver."},
-      {.field = field<&T::m_iFlagIsPlotDynamic, &T::iFlagIsPlotDynamic>(), .key = "FlagIsPlotDynamic",
-       .label = "m_iFlagIsPlotDynamic\t= ",
+      {.field = field<&T::m_iFlagDebug, &T::iFlagDebug>(), .key = "FlagDebug", .tabs = 3, .doc = "Debug flag.",
+       .opaque = true},
+      {.field = field<&T::m_iFlagIsPlotDynamic, &T::iFlagIsPlotDynamic>(), .key = "FlagIsPlotDynamic", .tabs = 1,
        .doc = "Switch: dynamic plot."},
-      {.field = field<&T::m_PlotStartTemper, &T::PlotStartTemper>(), .key = "Start Temperature",
-       .label = "m_PlotStartTemper\t\t= ",
+      {.field = field<&T::m_PlotStartTemper, &T::PlotStartTemper>(), .key = "Start Temperature", .tabs = 2,
        .doc = "Start temperature of the plot."},
-      {.field = field<&T::m_PlotEndTemper, &T::PlotEndTemper>(), .key = "End Temperature",
-       .label = "m_PlotEndTemper\t\t= ",
+      {.field = field<&T::m_PlotEndTemper, &T::PlotEndTemper>(), .key = "End Temperature", .tabs = 2,
        .doc = "End temperature of the plot."},
-      {.field = field<&T::m_PlotQ, &T::PlotQ>(), .key = "Heat Flux Q", .label = "m_PlotQ\t\t\t\t= ",
-       .doc = "Heat flux Q of the plot."},
-      {.field = field<&T::m_PlotStress, &T::PlotStress>(), .key = "Stress", .label = "m_PlotStress\t\t\t= ",
-       .doc = "Stress of the plot."},
-      {.field = field<&T::m_PlotPressure, &T::PlotPressure>(), .key = "Pressure", .label = "m_PlotPressure\t\t\t= ",
+      {.field = field<&T::m_PlotQ, &T::PlotQ>(), .key = "Heat Flux Q", .tabs = 4, .doc = "Heat flux Q of the plot."},
+      {.field = field<&T::m_PlotStress, &T::PlotStress>(), .key = "Stress", .tabs = 3, .doc = "Stress of the plot."},
+      {.field = field<&T::m_PlotPressure, &T::PlotPressure>(), .key = "Pressure", .tabs = 3,
        .doc = "Pressure of the plot."},
       {.field = field<&T::m_iCrystalModel, &T::iCrystalModel>(), .key = "CrystalModel",
-       .label = "m_iCrystalModel        = ",
-       .doc = "Crystallization model. Meaning defined by the solver."},
+       .label = "m_iCrystalModel        = ", .doc = "Crystallization model.", .opaque = true},
       {.field = field<&T::m_dParm_n, &T::dParm_n>(), .key = "Parm_n_Primary", .label = "m_dParm_n              = ",
        .doc = "Parameter n of the primary crystallization."},
       {.field = field<&T::m_dParm_n_2nd, &T::dParm_n_2nd>(), .key = "Parm_n_Secondary",
-       .label = "m_dParm_n_2nd          = ",
-       .doc = "Parameter n of the secondary crystallization."},
+       .label = "m_dParm_n_2nd          = ", .doc = "Parameter n of the secondary crystallization."},
       {.field = field<&T::m_dU_activeEenergy, &T::dU_activeEenergy>(), .key = "Parm_Ustar_Primary",
-       .label = "m_dU_activeEenergy     = ",
-       .doc = "Activation energy U* of the primary crystallization."},
+       .label = "m_dU_activeEenergy     = ", .doc = "Activation energy U* of the primary crystallization."},
       {.field = field<&T::m_dU_activeEenergy_2nd, &T::dU_activeEenergy_2nd>(), .key = "Parm_Ustar_Secondary",
-       .label = "m_dU_activeEenergy_2nd = ",
-       .doc = "Activation energy U* of the secondary crystallization."},
+       .label = "m_dU_activeEenergy_2nd = ", .doc = "Activation energy U* of the secondary crystallization."},
       {.field = field<&T::m_dHalfCrystallTime_0, &T::dHalfCrystallTime_0>(), .key = "Parm_K0_Primary",
        .label = "m_dHalfCrystallTime_0  = ",
        .doc = "Parameter K0 (half-crystallization time) of the primary crystallization."},

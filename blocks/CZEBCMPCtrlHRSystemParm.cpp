@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPCtrlHRSystemParm::CZEBCMPCtrlHRSystemParm() = default;
-CZEBCMPCtrlHRSystemParm::CZEBCMPCtrlHRSystemParm(const CZEBCMPCtrlHRSystemParm& other) = default;
-CZEBCMPCtrlHRSystemParm::~CZEBCMPCtrlHRSystemParm() = default;
-CZEBCMPCtrlHRSystemParm& CZEBCMPCtrlHRSystemParm::operator=(const CZEBCMPCtrlHRSystemParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPCtrlHRSystemParm)
 
 int CZEBCMPCtrlHRSystemParm::iHRShearRateCtrl() const { return m_iHRShearRateCtrl; }
 int CZEBCMPCtrlHRSystemParm::iHRDtCtrlMethod() const { return m_iHRDtCtrlMethod; }
@@ -17,17 +14,13 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPCtrlHRSystemParm>() {
   using T = CZEBCMPCtrlHRSystemParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iHRShearRateCtrl, &T::iHRShearRateCtrl>(), .key = "HRShearRateCtrl",
-       .label = "m_iHRShearRateCtrl\t\t= ",
-       .doc = "Shear-rate control of the HR schemes. Meaning defined by the solver."},
-      {.field = field<&T::m_iHRDtCtrlMethod, &T::iHRDtCtrlMethod>(), .key = "HRDtCtrlMethod",
-       .label = "m_iHRDtCtrlMethod\t\t= ",
-       .doc = "Method of the HR time-step control. Meaning defined by the solver."},
-      {.field = field<&T::m_dHRDtCtrlFactor, &T::dHRDtCtrlFactor>(), .key = "HRDtCtrlFactor1",
-       .label = "m_dHRDtCtrlFactor\t\t= ",
+      {.field = field<&T::m_iHRShearRateCtrl, &T::iHRShearRateCtrl>(), .key = "HRShearRateCtrl", .tabs = 2,
+       .doc = "Shear-rate control of the HR schemes.", .opaque = true},
+      {.field = field<&T::m_iHRDtCtrlMethod, &T::iHRDtCtrlMethod>(), .key = "HRDtCtrlMethod", .tabs = 2,
+       .doc = "Method of the HR time-step control.", .opaque = true},
+      {.field = field<&T::m_dHRDtCtrlFactor, &T::dHRDtCtrlFactor>(), .key = "HRDtCtrlFactor1", .tabs = 2,
        .doc = "First factor of the HR time-step control."},
-      {.field = field<&T::m_dHRDtCtrlFactor_2, &T::dHRDtCtrlFactor_2>(), .key = "HRDtCtrlFactor2",
-       .label = "m_dHRDtCtrlFactor_2\t= ",
+      {.field = field<&T::m_dHRDtCtrlFactor_2, &T::dHRDtCtrlFactor_2>(), .key = "HRDtCtrlFactor2", .tabs = 1,
        .doc = "Second factor of the HR time-step control."},
   };
   // clang-format on

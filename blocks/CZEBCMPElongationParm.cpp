@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPElongationParm::CZEBCMPElongationParm() = default;
-CZEBCMPElongationParm::CZEBCMPElongationParm(const CZEBCMPElongationParm& other) = default;
-CZEBCMPElongationParm::~CZEBCMPElongationParm() = default;
-CZEBCMPElongationParm& CZEBCMPElongationParm::operator=(const CZEBCMPElongationParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPElongationParm)
 
 int CZEBCMPElongationParm::iIsViscoFacByElongation() const { return m_iIsViscoFacByElongation; }
 int CZEBCMPElongationParm::iDisplayElongResult() const { return m_iDisplayElongResult; }
@@ -21,13 +18,11 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPElongationParm>() {
   // clang-format off
   static constexpr Row kRows[] = {
       {.field = field<&T::m_iIsViscoFacByElongation, &T::iIsViscoFacByElongation>(), .key = "IsViscoFacByElongation",
-       .label = "m_iIsViscoFacByElongation = ",
-       .doc = "Switch: viscosity factor by elongation."},
+       .label = "m_iIsViscoFacByElongation = ", .doc = "Switch: viscosity factor by elongation."},
       {.field = field<&T::m_iDisplayElongResult, &T::iDisplayElongResult>(), .key = "DisplayElongationResult",
-       .label = "m_iDisplayElongResult = ",
-       .doc = "Switch: display of the elongation result."},
+       .label = "m_iDisplayElongResult = ", .doc = "Switch: display of the elongation result."},
       {.field = field<&T::m_iElongModel, &T::iElongModel>(), .key = "ElongationModel", .label = "m_iElongModel = ",
-       .doc = "Elongation model. Meaning defined by the solver."},
+       .doc = "Elongation model.", .opaque = true},
       {.field = field<&T::m_dElongModel_A, &T::ElongModel_A>(), .key = "Parm_A", .label = "A = ",
        .doc = "Coefficient A of the elongation model."},
       {.field = field<&T::m_dElongModel_B, &T::ElongModel_B>(), .key = "Parm_B", .label = "B = ",
@@ -35,8 +30,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPElongationParm>() {
       {.field = field<&T::m_dElongModel_E_cri, &T::ElongModel_E_cri>(), .key = "Parm_E_cri", .label = "E_cri = ",
        .doc = "Coefficient E_cri of the elongation model."},
       {.field = field<&T::m_iCalcShearRateMethod, &T::iCalcShearRateMethod>(), .key = "CalcShearRateMethod",
-       .label = "m_iCalcShearRateMethod = ",
-       .doc = "Method of calculating the shear rate. Meaning defined by the solver."},
+       .label = "m_iCalcShearRateMethod = ", .doc = "Method of calculating the shear rate.", .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"Elongation", kRows>()};

@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPEpoxyVEParm::CZEBCMPEpoxyVEParm() = default;
-CZEBCMPEpoxyVEParm::CZEBCMPEpoxyVEParm(const CZEBCMPEpoxyVEParm& other) = default;
-CZEBCMPEpoxyVEParm::~CZEBCMPEpoxyVEParm() = default;
-CZEBCMPEpoxyVEParm& CZEBCMPEpoxyVEParm::operator=(const CZEBCMPEpoxyVEParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPEpoxyVEParm)
 
 int CZEBCMPEpoxyVEParm::iIsRIMVE() const { return m_iIsRIMVE; }
 int CZEBCMPEpoxyVEParm::iRIMVEModel() const { return m_iRIMVEModel; }
@@ -16,12 +13,11 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPEpoxyVEParm>() {
   using T = CZEBCMPEpoxyVEParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsRIMVE, &T::iIsRIMVE>(), .key = "FlagEpoxy_VE", .label = "m_iIsRIMVE\t\t= ",
+      {.field = field<&T::m_iIsRIMVE, &T::iIsRIMVE>(), .key = "FlagEpoxy_VE", .tabs = 2,
        .doc = "Switch: epoxy viscoelasticity."},
-      {.field = field<&T::m_iRIMVEModel, &T::iRIMVEModel>(), .key = "VEModel", .label = "m_iRIMVEModel\t= ",
-       .doc = "Viscoelastic model of the epoxy. Meaning defined by the solver."},
-      {.field = field<&T::m_dEpoxy_VE_G, &T::dEpoxy_VE_G>(), .key = "Model_G", .lookup = Lookup::kInt,
-       .label = "m_dEpoxy_VE_G\t= ",
+      {.field = field<&T::m_iRIMVEModel, &T::iRIMVEModel>(), .key = "VEModel", .tabs = 1,
+       .doc = "Viscoelastic model of the epoxy.", .opaque = true},
+      {.field = field<&T::m_dEpoxy_VE_G, &T::dEpoxy_VE_G>(), .key = "Model_G", .lookup = Lookup::kInt, .tabs = 1,
        .doc = "Parameter G of the viscoelastic model; the file gives an integer."},
   };
   // clang-format on

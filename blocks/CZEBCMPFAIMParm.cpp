@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPFAIMParm::CZEBCMPFAIMParm() = default;
-CZEBCMPFAIMParm::CZEBCMPFAIMParm(const CZEBCMPFAIMParm& other) = default;
-CZEBCMPFAIMParm::~CZEBCMPFAIMParm() = default;
-CZEBCMPFAIMParm& CZEBCMPFAIMParm::operator=(const CZEBCMPFAIMParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPFAIMParm)
 
 double CZEBCMPFAIMParm::dFluidFCRI() const { return m_dFluidFCRI; }
 double CZEBCMPFAIMParm::dMeltFCRI() const { return m_dMeltFCRI; }
@@ -32,45 +29,42 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPFAIMParm>() {
   using T = CZEBCMPFAIMParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_dFluidFCRI, &T::dFluidFCRI>(), .key = "FluidFCRI",
-       .label = "m_dFluidFCRI\t\t\t\t= ", .doc = "FCRI of the fluid. Meaning defined by the solver."},
-      {.field = field<&T::m_dMeltFCRI, &T::dMeltFCRI>(), .key = "MeltFCRI",
-       .label = "m_dMeltFCRI\t\t\t\t= ", .doc = "FCRI of the melt. Meaning defined by the solver."},
-      {.field = field<&T::m_dFluidVisFactor, &T::dFluidVisFactor>(), .key = "FluidVisFactor",
-       .label = "m_dFluidVisFactor\t\t\t= ", .doc = "Factor of the fluid's viscosity."},
-      {.field = field<&T::m_dFluidRealxFactor, &T::dFluidRealxFactor>(), .key = "FluidRelaxFactor",
-       .label = "m_dFluidRealxFactor\t\t= ", .doc = "Relaxation factor of the fluid."},
-      {.field = field<&T::m_dSecondFactor, &T::dSecondFactor>(), .key = "SecondFactor",
-       .label = "m_dSecondFactor\t\t\t= ", .doc = "Second factor. Meaning defined by the solver."},
-      {.field = field<&T::m_iSecondModel, &T::iSecondModel>(), .key = "SecondModel",
-       .label = "m_iSecondModel\t\t\t\t= ", .doc = "Second model. Meaning defined by the solver."},
-      {.field = field<&T::m_iIsCoIM, &T::iIsCoIM>(), .key = "IsCoIM",
-       .label = "m_iIsCoIM\t\t\t\t\t= ", .doc = "Switch: co-injection."},
-      {.field = field<&T::m_iIsCoIMGNF, &T::iIsCoIMGNF>(), .key = "CoIMGNF",
-       .label = "m_iIsCoIMGNF\t\t\t\t= ", .doc = "Co-injection GNF. Meaning defined by the solver."},
-      {.field = field<&T::m_szCoMatName, &T::CoMatName>(), .key = "CoMtrName",
-       .label = "m_szCoMatName\t\t\t\t= ", .doc = "Name of the co-injected material."},
-      {.field = field<&T::m_iIsCoIM121, &T::iIsCoIM121>(), .key = "CoIM121",
-       .label = "m_iIsCoIM121\t\t\t\t= ", .doc = "Co-injection 121. Meaning defined by the solver."},
-      {.field = field<&T::m_dMeltReEnterTime, &T::dMeltReEnterTime>(), .key = "MeltReEnterTime",
-       .label = "m_dMeltReEnterTime\t\t\t= ", .doc = "Time at which the melt enters again."},
-      {.field = field<&T::m_iIsBiIM, &T::iIsBiIM>(), .key = "IsBiIM",
-       .label = "m_iIsBiIM\t\t\t\t\t= ", .doc = "Switch: bi-injection."},
-      {.field = field<&T::m_iFAIM123, &T::iFAIM123>(), .key = "FAIM123",
-       .label = "m_iFAIM123\t\t\t\t\t= ", .doc = "Fluid-assisted injection 123. Meaning defined by the solver."},
-      {.field = field<&T::m_iFAIMPushBack, &T::iFAIMPushBack>(), .key = "FAIMPushBack",
-       .label = "m_iFAIMPushBack\t\t\t= ", .doc = "Push-back of the melt. Meaning defined by the solver."},
+      {.field = field<&T::m_dFluidFCRI, &T::dFluidFCRI>(), .key = "FluidFCRI", .tabs = 4, .doc = "FCRI of the fluid.",
+       .opaque = true},
+      {.field = field<&T::m_dMeltFCRI, &T::dMeltFCRI>(), .key = "MeltFCRI", .tabs = 4, .doc = "FCRI of the melt.",
+       .opaque = true},
+      {.field = field<&T::m_dFluidVisFactor, &T::dFluidVisFactor>(), .key = "FluidVisFactor", .tabs = 3,
+       .doc = "Factor of the fluid's viscosity."},
+      {.field = field<&T::m_dFluidRealxFactor, &T::dFluidRealxFactor>(), .key = "FluidRelaxFactor", .tabs = 2,
+       .doc = "Relaxation factor of the fluid."},
+      {.field = field<&T::m_dSecondFactor, &T::dSecondFactor>(), .key = "SecondFactor", .tabs = 3,
+       .doc = "Second factor.", .opaque = true},
+      {.field = field<&T::m_iSecondModel, &T::iSecondModel>(), .key = "SecondModel", .tabs = 4, .doc = "Second model.",
+       .opaque = true},
+      {.field = field<&T::m_iIsCoIM, &T::iIsCoIM>(), .key = "IsCoIM", .tabs = 5, .doc = "Switch: co-injection."},
+      {.field = field<&T::m_iIsCoIMGNF, &T::iIsCoIMGNF>(), .key = "CoIMGNF", .tabs = 4, .doc = "Co-injection GNF.",
+       .opaque = true},
+      {.field = field<&T::m_szCoMatName, &T::CoMatName>(), .key = "CoMtrName", .tabs = 4,
+       .doc = "Name of the co-injected material."},
+      {.field = field<&T::m_iIsCoIM121, &T::iIsCoIM121>(), .key = "CoIM121", .tabs = 4, .doc = "Co-injection 121.",
+       .opaque = true},
+      {.field = field<&T::m_dMeltReEnterTime, &T::dMeltReEnterTime>(), .key = "MeltReEnterTime", .tabs = 3,
+       .doc = "Time at which the melt enters again."},
+      {.field = field<&T::m_iIsBiIM, &T::iIsBiIM>(), .key = "IsBiIM", .tabs = 5, .doc = "Switch: bi-injection."},
+      {.field = field<&T::m_iFAIM123, &T::iFAIM123>(), .key = "FAIM123", .tabs = 5,
+       .doc = "Fluid-assisted injection 123.", .opaque = true},
+      {.field = field<&T::m_iFAIMPushBack, &T::iFAIMPushBack>(), .key = "FAIMPushBack", .tabs = 3,
+       .doc = "Push-back of the melt.", .opaque = true},
       {.field = field<&T::m_iShowOverflowGateData, &T::iShowOverflowGateData>(), .key = "ShowOverflowGateData ",
-       .label = "m_iShowOverflowGateData\t= ",
-       .doc = "Output of the data of the overflow gate. Meaning defined by the solver."},
-      {.field = field<&T::m_dFluidEnterTime, &T::dFluidEnterTime>(), .key = "FluidEnterTime",
-       .label = "m_dFluidEnterTime\t\t\t= ", .doc = "Time at which the fluid enters."},
-      {.field = field<&T::m_dPushBackTime, &T::dPushBackTime>(), .key = "PushBackTime",
-       .label = "m_dPushBackTime\t\t\t= ", .doc = "Time of the push-back."},
-      {.field = field<&T::m_dPushBackCloseTime, &T::dPushBackCloseTime>(), .key = "PushBackCloseTime",
-       .label = "m_dPushBackCloseTime\t\t= ", .doc = "Closing time of the push-back. Meaning defined by the solver."},
-      {.field = field<&T::m_dFrozenRatio, &T::dFrozenRatio>(), .key = "FrozenRatio",
-       .label = "m_dFrozenRatio\t\t\t\t= ", .doc = "Frozen ratio. Meaning defined by the solver."},
+       .tabs = 1, .doc = "Output of the data of the overflow gate.", .opaque = true},
+      {.field = field<&T::m_dFluidEnterTime, &T::dFluidEnterTime>(), .key = "FluidEnterTime", .tabs = 3,
+       .doc = "Time at which the fluid enters."},
+      {.field = field<&T::m_dPushBackTime, &T::dPushBackTime>(), .key = "PushBackTime", .tabs = 3,
+       .doc = "Time of the push-back."},
+      {.field = field<&T::m_dPushBackCloseTime, &T::dPushBackCloseTime>(), .key = "PushBackCloseTime", .tabs = 2,
+       .doc = "Closing time of the push-back.", .opaque = true},
+      {.field = field<&T::m_dFrozenRatio, &T::dFrozenRatio>(), .key = "FrozenRatio", .tabs = 4, .doc = "Frozen ratio.",
+       .opaque = true},
   };
   // clang-format on
   static constexpr Order<19> kReadingOrder{"FluidFCRI",

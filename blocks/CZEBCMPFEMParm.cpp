@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPFEMParm::CZEBCMPFEMParm() = default;
-CZEBCMPFEMParm::CZEBCMPFEMParm(const CZEBCMPFEMParm& other) = default;
-CZEBCMPFEMParm::~CZEBCMPFEMParm() = default;
-CZEBCMPFEMParm& CZEBCMPFEMParm::operator=(const CZEBCMPFEMParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPFEMParm)
 
 int CZEBCMPFEMParm::iIsFEM() const { return m_iIsFEM; }
 
@@ -14,8 +11,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPFEMParm>() {
   using T = CZEBCMPFEMParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsFEM, &T::iIsFEM>(), .key = "IsFEM", .label = "m_iIsFEM\t\t\t\t= ",
-       .doc = "Switch: finite-element variant."},
+      {.field = field<&T::m_iIsFEM, &T::iIsFEM>(), .key = "IsFEM", .tabs = 4, .doc = "Switch: finite-element variant."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"FEM", kRows>()};

@@ -3,10 +3,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPFoamParm::CZEBCMPFoamParm() = default;
-CZEBCMPFoamParm::CZEBCMPFoamParm(const CZEBCMPFoamParm& other) = default;
-CZEBCMPFoamParm::~CZEBCMPFoamParm() = default;
-CZEBCMPFoamParm& CZEBCMPFoamParm::operator=(const CZEBCMPFoamParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPFoamParm)
 
 int CZEBCMPFoamParm::PLOT_DYNAMIC_iFlagIsPlotDynamic() const { return m_PLOT_DYNAMIC_iFlagIsPlotDynamic; }
 double CZEBCMPFoamParm::PLOT_DYNAMIC_dStartTime() const { return m_PLOT_DYNAMIC_dStartTime; }
@@ -54,37 +51,31 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPFoamParm>() {
       {.field = field<&T::m_PLOT_DYNAMIC_iFlagIsPlotDynamic, &T::PLOT_DYNAMIC_iFlagIsPlotDynamic>(),
        .key = "FlagIsPlotDynamic", .label = "m_PLOT_DYNAMIC_iFlagIsPlotDynamic = ",
        .doc = "Switch: dynamic plot of the foaming."},
-      {.field = field<&T::m_PLOT_DYNAMIC_dStartTime, &T::PLOT_DYNAMIC_dStartTime>(),
-       .key = "StartTime", .label = "m_PLOT_DYNAMIC_dStartTime = ",
-       .doc = "Start time of the dynamic plot."},
-      {.field = field<&T::m_PLOT_DYNAMIC_dEndTime, &T::PLOT_DYNAMIC_dEndTime>(),
-       .key = "EndTime", .label = "m_PLOT_DYNAMIC_dEndTime = ",
-       .doc = "End time of the dynamic plot."},
+      {.field = field<&T::m_PLOT_DYNAMIC_dStartTime, &T::PLOT_DYNAMIC_dStartTime>(), .key = "StartTime",
+       .label = "m_PLOT_DYNAMIC_dStartTime = ", .doc = "Start time of the dynamic plot."},
+      {.field = field<&T::m_PLOT_DYNAMIC_dEndTime, &T::PLOT_DYNAMIC_dEndTime>(), .key = "EndTime",
+       .label = "m_PLOT_DYNAMIC_dEndTime = ", .doc = "End time of the dynamic plot."},
       {.field = field<&T::m_PLOT_DYNAMIC_dStartAmbientPres, &T::PLOT_DYNAMIC_dStartAmbientPres>(),
        .key = "StartAmbientPres", .label = "m_PLOT_DYNAMIC_dStartAmbientPres = ",
        .doc = "Ambient pressure at the start of the dynamic plot."},
       {.field = field<&T::m_PLOT_DYNAMIC_dPresuReleaseRate, &T::PLOT_DYNAMIC_dPresuReleaseRate>(),
        .key = "PresuReleaseRate", .label = "m_PLOT_DYNAMIC_dPresuReleaseRate = ",
        .doc = "Pressure release rate of the dynamic plot."},
-      {.field = field<&T::m_PLOT_DYNAMIC_dTemperature, &T::PLOT_DYNAMIC_dTemperature>(),
-       .key = "Temperature", .label = "m_PLOT_DYNAMIC_dTemperature = ",
-       .doc = "Temperature of the dynamic plot."},
-      {.field = field<&T::m_PLOT_DYNAMIC_dViscosity, &T::PLOT_DYNAMIC_dViscosity>(),
-       .key = "Viscosity", .label = "m_PLOT_DYNAMIC_dViscosity = ",
-       .doc = "Viscosity of the dynamic plot."},
+      {.field = field<&T::m_PLOT_DYNAMIC_dTemperature, &T::PLOT_DYNAMIC_dTemperature>(), .key = "Temperature",
+       .label = "m_PLOT_DYNAMIC_dTemperature = ", .doc = "Temperature of the dynamic plot."},
+      {.field = field<&T::m_PLOT_DYNAMIC_dViscosity, &T::PLOT_DYNAMIC_dViscosity>(), .key = "Viscosity",
+       .label = "m_PLOT_DYNAMIC_dViscosity = ", .doc = "Viscosity of the dynamic plot."},
   };
   static constexpr Row kDebugRows[] = {
-      {.field = field<&T::m_DEBUG_iFlagDebug, &T::DEBUG_iFlagDebug>(),
-       .key = "FlagDebug", .label = "m_DEBUG_iFlagDebug = ",
-       .doc = "Switch: debugging of the foaming."},
+      {.field = field<&T::m_DEBUG_iFlagDebug, &T::DEBUG_iFlagDebug>(), .key = "FlagDebug",
+       .label = "m_DEBUG_iFlagDebug = ", .doc = "Switch: debugging of the foaming."},
   };
   static constexpr Row kMuCellProRows[] = {
       {.field = field<&T::m_MuCell_Pro_dCounter_Pressure, &T::MuCell_Pro_dCounter_Pressure>(),
-       .key = "Counter_Pressure", .label = "m_MuCell_Pro_dCounter_Pressure = ",
-       .doc = "Counter pressure."},
+       .key = "Counter_Pressure", .label = "m_MuCell_Pro_dCounter_Pressure = ", .doc = "Counter pressure."},
       {.field = field<&T::m_MuCell_Pro_dCounter_P_SwitchPercent, &T::MuCell_Pro_dCounter_P_SwitchPercent>(),
        .key = "Counter_P_SwitchPercent", .label = "m_MuCell_Pro_dCounter_P_SwitchPercent = ",
-       .doc = "Share at which the counter pressure switches. Meaning defined by the solver."},
+       .doc = "Share at which the counter pressure switches.", .opaque = true},
   };
   static constexpr Row kComputeRows[] = {
       {.field = field<&T::m_FoamingComputeParas_iIsDiffCoeDependTemper,
@@ -106,37 +97,34 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPFoamParm>() {
                       &T::FoamingComputeParas_iIsComputeMucellOnWallCell>(),
        .key = "m_iIsComputeMucellOnWallCell", .label = "m_FoamingComputeParas_iIsComputeMucellOnWallCell = ",
        .doc = "Switch: foaming is computed in wall cells."},
-      {.field = field<&T::m_FoamingComputeParas_dRelaxPVR, &T::FoamingComputeParas_dRelaxPVR>(),
-       .key = "m_RelaxPVR", .label = "m_FoamingComputeParas_dRelaxPVR = ",
-       .doc = "Relaxation of PVR. Meaning defined by the solver."},
+      {.field = field<&T::m_FoamingComputeParas_dRelaxPVR, &T::FoamingComputeParas_dRelaxPVR>(), .key = "m_RelaxPVR",
+       .label = "m_FoamingComputeParas_dRelaxPVR = ", .doc = "Relaxation of PVR.", .opaque = true},
       {.field = field<&T::m_FoamingComputeParas_dTotalRelaxPVR, &T::FoamingComputeParas_dTotalRelaxPVR>(),
-       .key = "m_TotalRelaxPVR", .label = "m_FoamingComputeParas_dTotalRelaxPVR = ",
-       .doc = "Total relaxation of PVR. Meaning defined by the solver."},
+       .key = "m_TotalRelaxPVR", .label = "m_FoamingComputeParas_dTotalRelaxPVR = ", .doc = "Total relaxation of PVR.",
+       .opaque = true},
       {.field = field<&T::m_FoamingComputeParas_iIsGasConcByConvection,
                       &T::FoamingComputeParas_iIsGasConcByConvection>(),
        .key = "m_iIsGasConcByConvection", .label = "m_FoamingComputeParas_iIsGasConcByConvection = ",
        .doc = "Switch: the gas concentration follows from convection."},
       {.field = field<&T::m_FoamingComputeParas_dFillVol_cri, &T::FoamingComputeParas_dFillVol_cri>(),
-       .key = "FillVol_cri", .label = "m_FoamingComputeParas_dFillVol_cri = ",
-       .doc = "Critical filled volume. Meaning defined by the solver."},
+       .key = "FillVol_cri", .label = "m_FoamingComputeParas_dFillVol_cri = ", .doc = "Critical filled volume.",
+       .opaque = true},
       {.field = field<&T::m_FoamingComputeParas_iBreakFoamingCalc, &T::FoamingComputeParas_iBreakFoamingCalc>(),
        .key = "m_iBreakFoamingCalc", .label = "m_FoamingComputeParas_iBreakFoamingCalc = ",
-       .doc = "Break of the foaming calculation. Meaning defined by the solver."},
+       .doc = "Break of the foaming calculation.", .opaque = true},
       {.field = field<&T::m_FoamingComputeParas_dStartFoamingTime, &T::FoamingComputeParas_dStartFoamingTime>(),
        .key = "m_dStartFoamingTime", .label = "m_FoamingComputeParas_dStartFoamingTime = ",
        .doc = "Start time of the foaming."},
       {.field = field<&T::m_FoamingComputeParas_dPolyRatioLimit, &T::FoamingComputeParas_dPolyRatioLimit>(),
        .key = "m_dPolyRatioLimit", .label = "m_FoamingComputeParas_dPolyRatioLimit = ",
-       .doc = "Limit of the polymer ratio. Meaning defined by the solver."},
+       .doc = "Limit of the polymer ratio.", .opaque = true},
       {.field = field<&T::m_FoamingComputeParas_dMaxNumDensity, &T::FoamingComputeParas_dMaxNumDensity>(),
        .key = "m_MaxNumDensity", .label = "m_FoamingComputeParas_dMaxNumDensity = ",
        .doc = "Largest number density of the bubbles."},
       {.field = field<&T::m_FoamingComputeParas_dMaxBubbleSize, &T::FoamingComputeParas_dMaxBubbleSize>(),
-       .key = "MaxBubbleSize", .label = "m_FoamingComputeParas_dMaxBubbleSize = ",
-       .doc = "Largest bubble size."},
+       .key = "MaxBubbleSize", .label = "m_FoamingComputeParas_dMaxBubbleSize = ", .doc = "Largest bubble size."},
       {.field = field<&T::m_FoamingComputeParas_dMinBubbleSize, &T::FoamingComputeParas_dMinBubbleSize>(),
-       .key = "MinBubbleSize", .label = "m_FoamingComputeParas_dMinBubbleSize = ",
-       .doc = "Smallest bubble size."},
+       .key = "MinBubbleSize", .label = "m_FoamingComputeParas_dMinBubbleSize = ", .doc = "Smallest bubble size."},
   };
   // clang-format on
   static constexpr Section kSections[] = {

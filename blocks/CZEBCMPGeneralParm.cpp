@@ -1,10 +1,7 @@
 // What hosts call of the General block. Its keys stand in CZEBCMPGeneralParmTable.cpp.
 #include "blocks/CZEBCMPGeneralParm.h"
 
-CZEBCMPGeneralParm::CZEBCMPGeneralParm() = default;
-CZEBCMPGeneralParm::CZEBCMPGeneralParm(const CZEBCMPGeneralParm& other) = default;
-CZEBCMPGeneralParm::~CZEBCMPGeneralParm() = default;
-CZEBCMPGeneralParm& CZEBCMPGeneralParm::operator=(const CZEBCMPGeneralParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPGeneralParm)
 
 int CZEBCMPGeneralParm::iDeleteMultiTimeVox() const { return m_iDeleteMultiTimeVox; }
 int CZEBCMPGeneralParm::iW3FFormat() const { return m_iW3FFormat; }

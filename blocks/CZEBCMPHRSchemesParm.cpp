@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPHRSchemesParm::CZEBCMPHRSchemesParm() = default;
-CZEBCMPHRSchemesParm::CZEBCMPHRSchemesParm(const CZEBCMPHRSchemesParm& other) = default;
-CZEBCMPHRSchemesParm::~CZEBCMPHRSchemesParm() = default;
-CZEBCMPHRSchemesParm& CZEBCMPHRSchemesParm::operator=(const CZEBCMPHRSchemesParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPHRSchemesParm)
 
 int CZEBCMPHRSchemesParm::iHRMethod() const { return m_iHRMethod; }
 double CZEBCMPHRSchemesParm::dHRKr() const { return m_dHRKr; }
@@ -24,24 +21,21 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPHRSchemesParm>() {
   using T = CZEBCMPHRSchemesParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iHRMethod, &T::iHRMethod>(), .key = "HRMethod", .label = "m_iHRMethod\t\t= ",
-       .doc = "HR scheme. Meaning defined by the solver."},
-      {.field = field<&T::m_dHRKr, &T::dHRKr>(), .key = "HRKr", .label = "m_dHRKr\t\t\t= ",
-       .doc = "Kr of the HR scheme. Meaning defined by the solver."},
+      {.field = field<&T::m_iHRMethod, &T::iHRMethod>(), .key = "HRMethod", .tabs = 2, .doc = "HR scheme.",
+       .opaque = true},
+      {.field = field<&T::m_dHRKr, &T::dHRKr>(), .key = "HRKr", .tabs = 3, .doc = "Kr of the HR scheme.",
+       .opaque = true},
       {.field = field<&T::m_iHRDtMethod, &T::iHRDtMethod>(), .key = "HRDtMethod", .label = "m_iHRDtMethod \t\t= ",
-       .doc = "Time-step method of the HR scheme. Meaning defined by the solver."},
-      {.field = field<&T::m_iHRPhaseField, &T::iHRPhaseField>(), .key = "HRPhaseField",
-       .label = "m_iHRPhaseField \t= ",
-       .doc = "Phase-field option of the HR scheme. Meaning defined by the solver."},
+       .doc = "Time-step method of the HR scheme.", .opaque = true},
+      {.field = field<&T::m_iHRPhaseField, &T::iHRPhaseField>(), .key = "HRPhaseField", .label = "m_iHRPhaseField \t= ",
+       .doc = "Phase-field option of the HR scheme.", .opaque = true},
       {.field = field<&T::m_dHRCompressiveC, &T::dHRCompressiveC>(), .key = "HRCompC",
-       .label = "m_dHRCompressiveC \t= ",
-       .doc = "Compressive coefficient C of the HR scheme."},
-      {.field = field<&T::m_dHRRatio, &T::dHRRatio>(), .key = "HRRatio", .label = "m_dHRRatio\t\t\t= ",
-       .doc = "Ratio of the HR scheme. Meaning defined by the solver."},
-      {.field = field<&T::m_iHRSkewness, &T::iHRSkewness>(), .key = "HRSkewness", .label = "m_iHRSkewness\t\t= ",
-       .doc = "Skewness option of the HR scheme. Meaning defined by the solver."},
-      {.field = field<&T::m_dFCRI, &T::dFCRI>(), .key = "FCRI", .label = "m_dFCRI \t\t\t= ",
-       .doc = "Meaning defined by the solver."},
+       .label = "m_dHRCompressiveC \t= ", .doc = "Compressive coefficient C of the HR scheme."},
+      {.field = field<&T::m_dHRRatio, &T::dHRRatio>(), .key = "HRRatio", .tabs = 3, .doc = "Ratio of the HR scheme.",
+       .opaque = true},
+      {.field = field<&T::m_iHRSkewness, &T::iHRSkewness>(), .key = "HRSkewness", .tabs = 2,
+       .doc = "Skewness option of the HR scheme.", .opaque = true},
+      {.field = field<&T::m_dFCRI, &T::dFCRI>(), .key = "FCRI", .label = "m_dFCRI \t\t\t= ", .opaque = true},
       {.field = field<&T::m_iNSmoothVolF, &T::iNSmoothVolF>(), .key = "NSmoothVolF", .label = "m_iNSmoothVolF \t= ",
        .doc = "Number of smoothings of the volume fraction."},
   };

@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPIBMParm::CZEBCMPIBMParm() = default;
-CZEBCMPIBMParm::CZEBCMPIBMParm(const CZEBCMPIBMParm& other) = default;
-CZEBCMPIBMParm::~CZEBCMPIBMParm() = default;
-CZEBCMPIBMParm& CZEBCMPIBMParm::operator=(const CZEBCMPIBMParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPIBMParm)
 
 int CZEBCMPIBMParm::iIsIBM() const { return m_iIsIBM; }
 
@@ -14,7 +11,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPIBMParm>() {
   using T = CZEBCMPIBMParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsIBM, &T::iIsIBM>(), .key = "IsIBM", .label = "m_iIsIBM\t\t= ",
+      {.field = field<&T::m_iIsIBM, &T::iIsIBM>(), .key = "IsIBM", .tabs = 2,
        .doc = "Switch: immersed-boundary variant."},
   };
   // clang-format on

@@ -2,12 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPInletVelocitySettingParm::CZEBCMPInletVelocitySettingParm() = default;
-CZEBCMPInletVelocitySettingParm::CZEBCMPInletVelocitySettingParm(const CZEBCMPInletVelocitySettingParm& other) =
-    default;
-CZEBCMPInletVelocitySettingParm::~CZEBCMPInletVelocitySettingParm() = default;
-CZEBCMPInletVelocitySettingParm& CZEBCMPInletVelocitySettingParm::operator=(
-    const CZEBCMPInletVelocitySettingParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPInletVelocitySettingParm)
 
 int CZEBCMPInletVelocitySettingParm::iCalcInletVelo() const { return m_iCalcInletVelo; }
 int CZEBCMPInletVelocitySettingParm::iMaxIterationNo() const { return m_iMaxIterationNo; }
@@ -18,12 +13,12 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPInletVelocitySettingParm>() {
   using T = CZEBCMPInletVelocitySettingParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iCalcInletVelo, &T::iCalcInletVelo>(), .key = "CalcInletVelo",
-       .label = "m_iCalcInletVelo\t\t= ", .doc = "Calculation of the inlet velocity. Meaning defined by the solver."},
-      {.field = field<&T::m_iMaxIterationNo, &T::iMaxIterationNo>(), .key = "MaxIterationNo",
-       .label = "m_iMaxIterationNo\t\t= ", .doc = "Largest number of iterations of the inlet velocity."},
-      {.field = field<&T::m_dCriterion, &T::dCriterion>(), .key = "Criterion",
-       .label = "m_dCriterion\t\t\t= ", .doc = "Convergence criterion of the iteration."},
+      {.field = field<&T::m_iCalcInletVelo, &T::iCalcInletVelo>(), .key = "CalcInletVelo", .tabs = 2,
+       .doc = "Calculation of the inlet velocity.", .opaque = true},
+      {.field = field<&T::m_iMaxIterationNo, &T::iMaxIterationNo>(), .key = "MaxIterationNo", .tabs = 2,
+       .doc = "Largest number of iterations of the inlet velocity."},
+      {.field = field<&T::m_dCriterion, &T::dCriterion>(), .key = "Criterion", .tabs = 3,
+       .doc = "Convergence criterion of the iteration."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"InletVelocitySetting", kRows>()};

@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPMAFVMParm::CZEBCMPMAFVMParm() = default;
-CZEBCMPMAFVMParm::CZEBCMPMAFVMParm(const CZEBCMPMAFVMParm& other) = default;
-CZEBCMPMAFVMParm::~CZEBCMPMAFVMParm() = default;
-CZEBCMPMAFVMParm& CZEBCMPMAFVMParm::operator=(const CZEBCMPMAFVMParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPMAFVMParm)
 
 int CZEBCMPMAFVMParm::iIsMAFVM() const { return m_iIsMAFVM; }
 int CZEBCMPMAFVMParm::iIsMAFVM_Flow() const { return m_iIsMAFVM_Flow; }
@@ -16,12 +13,11 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPMAFVMParm>() {
   using T = CZEBCMPMAFVMParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsMAFVM, &T::iIsMAFVM>(), .key = "IsMAFVM", .label = "m_iIsMAFVM\t\t\t\t= ",
+      {.field = field<&T::m_iIsMAFVM, &T::iIsMAFVM>(), .key = "IsMAFVM", .tabs = 4,
        .doc = "Switch: multi-algorithm finite-volume variant."},
-      {.field = field<&T::m_iIsMAFVM_Flow, &T::iIsMAFVM_Flow>(), .key = "IsFlow", .label = "m_iIsMAFVM_Flow\t\t= ",
+      {.field = field<&T::m_iIsMAFVM_Flow, &T::iIsMAFVM_Flow>(), .key = "IsFlow", .tabs = 2,
        .doc = "Switch: multi-algorithm finite-volume variant of the flow."},
-      {.field = field<&T::m_iIsMAFVM_Thermal, &T::iIsMAFVM_Thermal>(), .key = "IsThermal",
-       .label = "m_iIsMAFVM_Thermal\t\t= ",
+      {.field = field<&T::m_iIsMAFVM_Thermal, &T::iIsMAFVM_Thermal>(), .key = "IsThermal", .tabs = 2,
        .doc = "Switch: multi-algorithm finite-volume variant of the thermal part."},
   };
   // clang-format on

@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPMicroMoldingParm::CZEBCMPMicroMoldingParm() = default;
-CZEBCMPMicroMoldingParm::CZEBCMPMicroMoldingParm(const CZEBCMPMicroMoldingParm& other) = default;
-CZEBCMPMicroMoldingParm::~CZEBCMPMicroMoldingParm() = default;
-CZEBCMPMicroMoldingParm& CZEBCMPMicroMoldingParm::operator=(const CZEBCMPMicroMoldingParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPMicroMoldingParm)
 
 int CZEBCMPMicroMoldingParm::iFlagMicroMolding() const { return m_iFlagMicroMolding; }
 double CZEBCMPMicroMoldingParm::dRunnerHTC() const { return m_dRunnerHTC; }
@@ -19,20 +16,18 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPMicroMoldingParm>() {
   using T = CZEBCMPMicroMoldingParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iFlagMicroMolding, &T::iFlagMicroMolding>(), .key = "FlagMicroMolding",
-       .label = "m_iFlagMicroMolding\t= ", .doc = "Switch: micro-molding."},
-      {.field = field<&T::m_dRunnerHTC, &T::dRunnerHTC>(), .key = "RunnerHTC",
-       .label = "m_dRunnerHTC\t\t\t= ", .doc = "Heat transfer coefficient in the runner."},
-      {.field = field<&T::m_dCavityHTC, &T::dCavityHTC>(), .key = "CavityHTC",
-       .label = "m_dCavityHTC\t\t\t= ", .doc = "Heat transfer coefficient in the cavity."},
-      {.field = field<&T::m_dRunnerCeLowerBound, &T::dRunnerCeLowerBound>(), .key = "RunnerTimeStepSize",
-       .label = "m_dRunnerCeLowerBound\t= ",
-       .doc = "Time step size of the runner: lower bound of its Ce. Meaning defined by the solver."},
-      {.field = field<&T::m_dCavityCeLowerBound, &T::dCavityCeLowerBound>(), .key = "CavityTimeStepSize",
-       .label = "m_dCavityCeLowerBound\t= ",
-       .doc = "Time step size of the cavity: lower bound of its Ce. Meaning defined by the solver."},
-      {.field = field<&T::m_iIsCTGSTLRunner, &T::iIsCTGSTLRunner>(), .key = "IsCTGSTLRunner",
-       .label = "m_iIsCTGSTLRunner\t\t= ", .doc = "Meaning defined by the solver."},
+      {.field = field<&T::m_iFlagMicroMolding, &T::iFlagMicroMolding>(), .key = "FlagMicroMolding", .tabs = 1,
+       .doc = "Switch: micro-molding."},
+      {.field = field<&T::m_dRunnerHTC, &T::dRunnerHTC>(), .key = "RunnerHTC", .tabs = 3,
+       .doc = "Heat transfer coefficient in the runner."},
+      {.field = field<&T::m_dCavityHTC, &T::dCavityHTC>(), .key = "CavityHTC", .tabs = 3,
+       .doc = "Heat transfer coefficient in the cavity."},
+      {.field = field<&T::m_dRunnerCeLowerBound, &T::dRunnerCeLowerBound>(), .key = "RunnerTimeStepSize", .tabs = 1,
+       .doc = "Time step size of the runner: lower bound of its Ce.", .opaque = true},
+      {.field = field<&T::m_dCavityCeLowerBound, &T::dCavityCeLowerBound>(), .key = "CavityTimeStepSize", .tabs = 1,
+       .doc = "Time step size of the cavity: lower bound of its Ce.", .opaque = true},
+      {.field = field<&T::m_iIsCTGSTLRunner, &T::iIsCTGSTLRunner>(), .key = "IsCTGSTLRunner", .tabs = 2,
+       .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"MicroMolding", kRows>()};

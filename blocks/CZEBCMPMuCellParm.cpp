@@ -3,10 +3,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPMuCellParm::CZEBCMPMuCellParm() = default;
-CZEBCMPMuCellParm::CZEBCMPMuCellParm(const CZEBCMPMuCellParm& other) = default;
-CZEBCMPMuCellParm::~CZEBCMPMuCellParm() = default;
-CZEBCMPMuCellParm& CZEBCMPMuCellParm::operator=(const CZEBCMPMuCellParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPMuCellParm)
 
 int CZEBCMPMuCellParm::iIsViscoFacByFoaming() const { return m_iIsViscoFacByFoaming; }
 int CZEBCMPMuCellParm::iViscoFoamMixingMethod() const { return m_iViscoFoamMixingMethod; }
@@ -18,18 +15,15 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPMuCellParm>() {
   using T = CZEBCMPMuCellParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsViscoFacByFoaming, &T::iIsViscoFacByFoaming>(),
-       .key = "IsViscoFacByFoaming", .label = "m_iIsViscoFacByFoaming\t= ",
+      {.field = field<&T::m_iIsViscoFacByFoaming, &T::iIsViscoFacByFoaming>(), .key = "IsViscoFacByFoaming", .tabs = 1,
        .doc = "Switch: foaming changes the viscosity."},
-      {.field = field<&T::m_iViscoFoamMixingMethod, &T::iViscoFoamMixingMethod>(),
-       .key = "ViscoFoamMixingMethod", .label = "m_iViscoFoamMixingMethod\t= ",
-       .doc = "Mixing method for the viscosity of the foam. Meaning defined by the solver."},
+      {.field = field<&T::m_iViscoFoamMixingMethod, &T::iViscoFoamMixingMethod>(), .key = "ViscoFoamMixingMethod",
+       .tabs = 1, .doc = "Mixing method for the viscosity of the foam.", .opaque = true},
       {.field = field<&T::m_iIsOutputBubbleNucleationAndGrowthRate, &T::OutputBubbleNucleationAndGrowthRate>(),
-       .key = "OutputBubbleNucleationAndGrowthRate", .label = "m_iIsOutputBubbleNucleationAndGrowthRate\t= ",
+       .key = "OutputBubbleNucleationAndGrowthRate", .tabs = 1,
        .doc = "Switch: output of the nucleation and growth rates of the bubbles."},
-      {.field = field<&T::m_iCpFoamMixingMethod, &T::iCpFoamMixingMethod>(),
-       .key = "CpFoamMixingMethod", .label = "m_iCpFoamMixingMethod\t= ",
-       .doc = "Mixing method for the specific heat of the foam. Meaning defined by the solver."},
+      {.field = field<&T::m_iCpFoamMixingMethod, &T::iCpFoamMixingMethod>(), .key = "CpFoamMixingMethod", .tabs = 1,
+       .doc = "Mixing method for the specific heat of the foam.", .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"MuCell", kRows>()};

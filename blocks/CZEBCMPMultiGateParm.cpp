@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPMultiGateParm::CZEBCMPMultiGateParm() = default;
-CZEBCMPMultiGateParm::CZEBCMPMultiGateParm(const CZEBCMPMultiGateParm& other) = default;
-CZEBCMPMultiGateParm::~CZEBCMPMultiGateParm() = default;
-CZEBCMPMultiGateParm& CZEBCMPMultiGateParm::operator=(const CZEBCMPMultiGateParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPMultiGateParm)
 
 int CZEBCMPMultiGateParm::iMultipleGateDebug() const { return m_iMultipleGateDebug; }
 int CZEBCMPMultiGateParm::iMultipleGateMethod() const { return m_iMultipleGateMethod; }
@@ -33,44 +30,34 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPMultiGateParm>() {
   using T = CZEBCMPMultiGateParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iMultipleGateDebug, &T::iMultipleGateDebug>(), .key = "Debug",
-       .label = "m_iMultipleGateDebug\t\t\t\t= ",
-       .doc = "Debug output of the balancing. Meaning defined by the solver."},
-      {.field = field<&T::m_iMultipleGateMethod, &T::iMultipleGateMethod>(),
-       .key = "MultipleGateMethod", .gateBelow = 1,
-       .label = "m_iMultipleGateMethod\t\t\t\t= ",
-       .doc = "Method of the balancing; below 1 the section's other keys are ignored."},
-      {.field = field<&T::m_iMultipleGateType, &T::iMultipleGateType>(), .key = "InitialType",
-       .label = "m_iMultipleGateType\t\t\t\t= ",
-       .doc = "Initial type of the balancing. Meaning defined by the solver."},
-      {.field = field<&T::m_iMultipleGateByTimeStep, &T::iMultipleGateByTimeStep>(), .key = "ByTimeStep",
-       .label = "m_iMultipleGateByTimeStep\t\t\t= ", .doc = "Balancing by time step. Meaning defined by the solver."},
-      {.field = field<&T::m_dMultipleGateByVolume, &T::dMultipleGateByVolume>(), .key = "ByVolume",
-       .label = "m_dMultipleGateByVolume\t\t\t= ", .doc = "Balancing by volume. Meaning defined by the solver."},
+      {.field = field<&T::m_iMultipleGateDebug, &T::iMultipleGateDebug>(), .key = "Debug", .tabs = 4,
+       .doc = "Debug output of the balancing.", .opaque = true},
+      {.field = field<&T::m_iMultipleGateMethod, &T::iMultipleGateMethod>(), .key = "MultipleGateMethod",
+       .gateBelow = 1, .tabs = 4, .doc = "Method of the balancing; below 1 the section's other keys are ignored."},
+      {.field = field<&T::m_iMultipleGateType, &T::iMultipleGateType>(), .key = "InitialType", .tabs = 4,
+       .doc = "Initial type of the balancing.", .opaque = true},
+      {.field = field<&T::m_iMultipleGateByTimeStep, &T::iMultipleGateByTimeStep>(), .key = "ByTimeStep", .tabs = 3,
+       .doc = "Balancing by time step.", .opaque = true},
+      {.field = field<&T::m_dMultipleGateByVolume, &T::dMultipleGateByVolume>(), .key = "ByVolume", .tabs = 3,
+       .doc = "Balancing by volume.", .opaque = true},
       {.field = field<&T::m_dMultipleGateByCtrlCRRatio, &T::dMultipleGateByCtrlCRRatio>(), .key = "ByCtrlCRRatio",
-       .label = "m_dMultipleGateByCtrlCRRatio\t\t= ",
-       .doc = "Balancing by the control CR ratio. Meaning defined by the solver."},
+       .tabs = 2, .doc = "Balancing by the control CR ratio.", .opaque = true},
       {.field = field<&T::m_iMultiGateOuteriteration, &T::iMultiGateOuteriteration>(), .key = "OuterIteration",
-       .label = "m_iMultiGateOuteriteration\t\t\t= ", .doc = "Number of outer iterations."},
-      {.field = field<&T::m_dMultipleGateTolTargetQ, &T::dMultipleGateTolTargetQ>(), .key = "TolTargetQ",
-       .label = "m_dMultipleGateTolTargetQ\t\t\t= ", .doc = "Tolerance of the target flow rate."},
+       .tabs = 3, .doc = "Number of outer iterations."},
+      {.field = field<&T::m_dMultipleGateTolTargetQ, &T::dMultipleGateTolTargetQ>(), .key = "TolTargetQ", .tabs = 3,
+       .doc = "Tolerance of the target flow rate."},
       {.field = field<&T::m_dMultipleGateSPAdjustCoeff, &T::dMultipleGateSPAdjustCoeff>(), .key = "SPAdjustRatio",
-       .label = "m_dMultipleGateSPAdjustCoeff\t\t= ",
-       .doc = "Ratio by which SP is adjusted. Meaning defined by the solver."},
-      {.field = field<&T::m_dMultipleGateTolInletQ, &T::dMultipleGateTolInletQ>(), .key = "TolInletQ",
-       .label = "m_dMultipleGateTolInletQ\t\t\t= ", .doc = "Tolerance of the inlet flow rate."},
+       .tabs = 2, .doc = "Ratio by which SP is adjusted.", .opaque = true},
+      {.field = field<&T::m_dMultipleGateTolInletQ, &T::dMultipleGateTolInletQ>(), .key = "TolInletQ", .tabs = 3,
+       .doc = "Tolerance of the inlet flow rate."},
       {.field = field<&T::m_dMultipleGateSPVariationLimit, &T::dMultipleGateSPVariationLimit>(),
-       .key = "SPVariationLimit",
-       .label = "m_dMultipleGateSPVariationLimit\t= ",
-       .doc = "Limit of the variation of SP. Meaning defined by the solver."},
-      {.field = field<&T::m_iNumberofInletGroups, &T::iNumberofInletGroups>(),
-       .key = "NumberofInletGroups", .count = Count::kYes,
-       .list = {.array = field<&T::m_pdInletWeightings>(), .lastIsRest = true, .entryName = "Weightings",
-                .missing = "The Number of Inlet Groups and the number of Weightings Groups is different\n"},
-       .label = "m_iNumberofInletGroups\t\t\t\t= ",
+       .key = "SPVariationLimit", .tabs = 1, .doc = "Limit of the variation of SP.", .opaque = true},
+      {.field = field<&T::m_iNumberofInletGroups, &T::iNumberofInletGroups>(), .key = "NumberofInletGroups",
+       .count = Count::kYes,
+       .list = {.array = field<&T::m_pdInletWeightings>(), .lastIsRest = true, .entryName = "Weightings", .missing = ""
+               "The Number of Inlet Groups and the number of Weightings Groups is different\n"}, .tabs = 4,
        .doc = "Number of inlet groups (0 to 1000000); as many lines with their weights follow."},
-      {.field = field<&T::m_pdInletWeightings, &T::pdInletWeightings>(),
-       .label = "m_pdInletWeightings\t\t\t\t= ",
+      {.field = field<&T::m_pdInletWeightings, &T::pdInletWeightings>(), .tabs = 4,
        .doc = "Weights of the inlet groups, from 1; that of the last group is one minus the others."},
   };
   // clang-format on

@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPOutletParm::CZEBCMPOutletParm() = default;
-CZEBCMPOutletParm::CZEBCMPOutletParm(const CZEBCMPOutletParm& other) = default;
-CZEBCMPOutletParm::~CZEBCMPOutletParm() = default;
-CZEBCMPOutletParm& CZEBCMPOutletParm::operator=(const CZEBCMPOutletParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPOutletParm)
 
 int CZEBCMPOutletParm::iIsOutlet() const { return m_iIsOutlet; }
 double CZEBCMPOutletParm::dAirPressure() const { return m_dAirPressure; }
@@ -15,10 +12,10 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPOutletParm>() {
   using T = CZEBCMPOutletParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsOutlet, &T::iIsOutlet>(), .key = "IsOutlet", .label = "m_iIsOutlet\t\t\t\t= ",
+      {.field = field<&T::m_iIsOutlet, &T::iIsOutlet>(), .key = "IsOutlet", .tabs = 4,
        .doc = "Switch: the cavity has air outlets."},
-      {.field = field<&T::m_dAirPressure, &T::dAirPressure>(), .key = "AirPressure", .rule = {.scale = 1e7},
-       .label = "m_dAirPressure\t\t\t\t= ", .unit = "dyn/cm^2 (file: MPa)", .doc = "Pressure of the air at the outlets."},
+      {.field = field<&T::m_dAirPressure, &T::dAirPressure>(), .key = "AirPressure", .rule = {.scale = 1e7}, .tabs = 4,
+       .unit = "dyn/cm^2 (file: MPa)", .doc = "Pressure of the air at the outlets."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"Outlet", kRows>()};

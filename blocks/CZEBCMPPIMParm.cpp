@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPPIMParm::CZEBCMPPIMParm() = default;
-CZEBCMPPIMParm::CZEBCMPPIMParm(const CZEBCMPPIMParm& other) = default;
-CZEBCMPPIMParm::~CZEBCMPPIMParm() = default;
-CZEBCMPPIMParm& CZEBCMPPIMParm::operator=(const CZEBCMPPIMParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPPIMParm)
 
 int CZEBCMPPIMParm::Version() const { return m_iVersion; }
 int CZEBCMPPIMParm::ConcentrationEffectOnFlow() const { return m_iConcentrationEffectOnFlow; }
@@ -19,22 +16,19 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPPIMParm>() {
   using T = CZEBCMPPIMParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iVersion, &T::Version>(),
-       .label = "m_iVersion\t\t\t= ", .doc = "Version of the settings; fixed."},
+      {.field = field<&T::m_iVersion, &T::Version>(), .tabs = 3, .doc = "Version of the settings; fixed."},
       {.field = field<&T::m_iConcentrationEffectOnFlow, &T::ConcentrationEffectOnFlow>(),
-       .key = "ConcentrationEffectOnFlow",
-       .label = "m_iConcentrationEffectOnFlow = ",
-       .doc = "Effect of the powder concentration on the flow. Meaning defined by the solver."},
+       .key = "ConcentrationEffectOnFlow", .label = "m_iConcentrationEffectOnFlow = ",
+       .doc = "Effect of the powder concentration on the flow.", .opaque = true},
       {.field = field<&T::m_iUsingRelativeVisCosityToConcentration, &T::UsingRelativeVisCosityToConcentration>(),
-       .key = "UsingRelativeVisCosityToConcentration",
-       .label = "m_iUsingRelativeVisCosityToConcentration = ",
-       .doc = "Use of the viscosity relative to the concentration. Meaning defined by the solver."},
+       .key = "UsingRelativeVisCosityToConcentration", .label = "m_iUsingRelativeVisCosityToConcentration = ",
+       .doc = "Use of the viscosity relative to the concentration.", .opaque = true},
       {.field = field<&T::m_dSolverTolerance, &T::SolverTolerance>(), .key = "SolverTolerance",
        .label = "m_dSolverTolerance = ", .doc = "Tolerance of the solver."},
       {.field = field<&T::m_dIterationTolerance, &T::IterationTolerance>(), .key = "IterationTolerance",
        .label = "m_dIterationTolerance = ", .doc = "Tolerance of the iteration."},
-      {.field = field<&T::m_iSolverType, &T::SolverType>(), .key = "SolverType",
-       .label = "m_iSolverType = ", .doc = "Type of the solver. Meaning defined by the solver."},
+      {.field = field<&T::m_iSolverType, &T::SolverType>(), .key = "SolverType", .label = "m_iSolverType = ",
+       .doc = "Type of the solver.", .opaque = true},
   };
   // clang-format on
   static constexpr Order<5> kReadingOrder{"ConcentrationEffectOnFlow", "UsingRelativeVisCosityToConcentration",

@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPPUChemFoamParm::CZEBCMPPUChemFoamParm() = default;
-CZEBCMPPUChemFoamParm::CZEBCMPPUChemFoamParm(const CZEBCMPPUChemFoamParm& other) = default;
-CZEBCMPPUChemFoamParm::~CZEBCMPPUChemFoamParm() = default;
-CZEBCMPPUChemFoamParm& CZEBCMPPUChemFoamParm::operator=(const CZEBCMPPUChemFoamParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPPUChemFoamParm)
 
 int CZEBCMPPUChemFoamParm::iIsPUChemFoam() const { return m_iIsPUChemFoam; }
 double CZEBCMPPUChemFoamParm::dPUConcentration_polyol() const { return m_dPUConcentration_polyol; }
@@ -29,42 +26,38 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPPUChemFoamParm>() {
   using T = CZEBCMPPUChemFoamParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsPUChemFoam, &T::iIsPUChemFoam>(), .key = "IsPUChemFoam",
-       .label = "m_iIsPUChemFoam\t\t\t\t= ", .doc = "Switch: chemically blown polyurethane foam."},
+      {.field = field<&T::m_iIsPUChemFoam, &T::iIsPUChemFoam>(), .key = "IsPUChemFoam", .tabs = 4,
+       .doc = "Switch: chemically blown polyurethane foam."},
       {.field = field<&T::m_dPUConcentration_polyol, &T::dPUConcentration_polyol>(), .key = "Concentration_polyol",
-       .label = "m_dPUConcentration_polyol\t\t= ", .doc = "Concentration of the polyol."},
+       .tabs = 2, .doc = "Concentration of the polyol."},
       {.field = field<&T::m_dPUConcentration_isocyanate, &T::dPUConcentration_isocyanate>(),
-       .key = "Concentration_isocyanate",
-       .label = "m_dPUConcentration_isocyanate\t= ", .doc = "Concentration of the isocyanate."},
+       .key = "Concentration_isocyanate", .tabs = 1, .doc = "Concentration of the isocyanate."},
       {.field = field<&T::m_dPUConcentration_water, &T::dPUConcentration_water>(), .key = "Concentration_water",
-       .label = "m_dPUConcentration_water\t\t= ", .doc = "Concentration of the water."},
+       .tabs = 2, .doc = "Concentration of the water."},
       {.field = field<&T::m_dPUReactionHeat_gelling, &T::dPUReactionHeat_gelling>(), .key = "ReactionHeat_gelling",
-       .label = "m_dPUReactionHeat_gelling\t\t= ", .doc = "Reaction heat of the gelling."},
+       .tabs = 2, .doc = "Reaction heat of the gelling."},
       {.field = field<&T::m_dPUReactionHeat_blowing, &T::dPUReactionHeat_blowing>(), .key = "ReactionHeat_blowing",
-       .label = "m_dPUReactionHeat_blowing\t\t= ", .doc = "Reaction heat of the blowing."},
-      {.field = field<&T::m_dPUA_gelling, &T::dPUA_gelling>(), .key = "A_gelling",
-       .label = "m_dPUA_gelling\t\t\t\t\t= ", .doc = "Coefficient A of the gelling kinetics."},
-      {.field = field<&T::m_dPUEa_gelling, &T::dPUEa_gelling>(), .key = "Ea_gelling",
-       .label = "m_dPUEa_gelling\t\t\t\t= ", .doc = "Coefficient Ea of the gelling kinetics."},
-      {.field = field<&T::m_dPUA_blowing, &T::dPUA_blowing>(), .key = "A_blowing",
-       .label = "m_dPUA_blowing\t\t\t\t\t= ", .doc = "Coefficient A of the blowing kinetics."},
-      {.field = field<&T::m_dPUEa_blowing, &T::dPUEa_blowing>(), .key = "Ea_blowing",
-       .label = "m_dPUEa_blowing\t\t\t\t= ", .doc = "Coefficient Ea of the blowing kinetics."},
-      {.field = field<&T::m_dPUDelayTime, &T::dPUDelayTime>(), .key = "DelayTime",
-       .label = "m_dPUDelayTime\t\t\t\t\t= ", .doc = "Delay time."},
-      {.field = field<&T::m_dPUCompressibleFactor, &T::dPUCompressibleFactor>(), .key = "CompressibleFactor",
-       .label = "m_dPUCompressibleFactor\t\t= ", .doc = "Factor of the compressibility."},
-      {.field = field<&T::m_iPUKineticModel, &T::iPUKineticModel>(), .key = "KineticModel",
-       .label = "m_iPUKineticModel\t\t\t\t= ", .doc = "Kinetic model. Meaning defined by the solver."},
+       .tabs = 2, .doc = "Reaction heat of the blowing."},
+      {.field = field<&T::m_dPUA_gelling, &T::dPUA_gelling>(), .key = "A_gelling", .tabs = 5,
+       .doc = "Coefficient A of the gelling kinetics."},
+      {.field = field<&T::m_dPUEa_gelling, &T::dPUEa_gelling>(), .key = "Ea_gelling", .tabs = 4,
+       .doc = "Coefficient Ea of the gelling kinetics."},
+      {.field = field<&T::m_dPUA_blowing, &T::dPUA_blowing>(), .key = "A_blowing", .tabs = 5,
+       .doc = "Coefficient A of the blowing kinetics."},
+      {.field = field<&T::m_dPUEa_blowing, &T::dPUEa_blowing>(), .key = "Ea_blowing", .tabs = 4,
+       .doc = "Coefficient Ea of the blowing kinetics."},
+      {.field = field<&T::m_dPUDelayTime, &T::dPUDelayTime>(), .key = "DelayTime", .tabs = 5, .doc = "Delay time."},
+      {.field = field<&T::m_dPUCompressibleFactor, &T::dPUCompressibleFactor>(), .key = "CompressibleFactor", .tabs = 2,
+       .doc = "Factor of the compressibility."},
+      {.field = field<&T::m_iPUKineticModel, &T::iPUKineticModel>(), .key = "KineticModel", .tabs = 4,
+       .doc = "Kinetic model.", .opaque = true},
       {.field = field<&T::m_dPUVis_Gas_ParmN, &T::dPUVis_Gas_ParmN>(), .key = "Vis_Gas_ParmN",
-       .label = "m_dPUVis_Gas_ParmN\t\t        = ",
-       .doc = "Parameter N of the viscosity with gas. Meaning defined by the solver."},
+       .label = "m_dPUVis_Gas_ParmN\t\t        = ", .doc = "Parameter N of the viscosity with gas.", .opaque = true},
       {.field = field<&T::m_dPUExpansionRatio, &T::dPUExpansionRatio>(), .key = "ExpansionRatio",
        .label = "m_dPUExpansionRatio\t\t        = ", .doc = "Expansion ratio."},
-      {.field = field<&T::m_dKineticParasbyMacro, &T::dKineticParasbyMacro>(),
-       .key = "KineticParasbyMacro", .lookup = Lookup::kInt,
-       .label = "m_dKineticParasbyMacro\t\t        = ",
-       .doc = "Kinetic parameters by macro; a fraction in the file is cut off. Meaning defined by the solver."},
+      {.field = field<&T::m_dKineticParasbyMacro, &T::dKineticParasbyMacro>(), .key = "KineticParasbyMacro",
+       .lookup = Lookup::kInt, .label = "m_dKineticParasbyMacro\t\t        = ",
+       .doc = "Kinetic parameters by macro; a fraction in the file is cut off.", .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"PUChemFoam", kRows>()};

@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPPVTcParm::CZEBCMPPVTcParm() = default;
-CZEBCMPPVTcParm::CZEBCMPPVTcParm(const CZEBCMPPVTcParm& other) = default;
-CZEBCMPPVTcParm::~CZEBCMPPVTcParm() = default;
-CZEBCMPPVTcParm& CZEBCMPPVTcParm::operator=(const CZEBCMPPVTcParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPPVTcParm)
 
 int CZEBCMPPVTcParm::iIsPVTc() const { return m_iIsPVTc; }
 double CZEBCMPPVTcParm::dPVTc_a0() const { return m_dPVTc_a0; }
@@ -26,31 +23,31 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPPVTcParm>() {
   using T = CZEBCMPPVTcParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsPVTc, &T::iIsPVTc>(), .key = "iSPVTc", .label = "m_iIsPVTc\t\t= ",
+      {.field = field<&T::m_iIsPVTc, &T::iIsPVTc>(), .key = "iSPVTc", .tabs = 2,
        .doc = "Switch: cure-dependent PVT model."},
-      {.field = field<&T::m_dPVTc_a0, &T::dPVTc_a0>(), .key = "a0", .label = "m_dPVTc_a0\t\t= ",
+      {.field = field<&T::m_dPVTc_a0, &T::dPVTc_a0>(), .key = "a0", .tabs = 2,
        .doc = "Coefficient a0 of the cure-dependent PVT model."},
-      {.field = field<&T::m_dPVTc_a1, &T::dPVTc_a1>(), .key = "a1", .label = "m_dPVTc_a1\t\t= ",
+      {.field = field<&T::m_dPVTc_a1, &T::dPVTc_a1>(), .key = "a1", .tabs = 2,
        .doc = "Coefficient a1 of the cure-dependent PVT model."},
-      {.field = field<&T::m_dPVTc_a2, &T::dPVTc_a2>(), .key = "a2", .label = "m_dPVTc_a2\t\t= ",
+      {.field = field<&T::m_dPVTc_a2, &T::dPVTc_a2>(), .key = "a2", .tabs = 2,
        .doc = "Coefficient a2 of the cure-dependent PVT model."},
-      {.field = field<&T::m_dPVTc_b0, &T::dPVTc_b0>(), .key = "b0", .label = "m_dPVTc_b0\t\t= ",
+      {.field = field<&T::m_dPVTc_b0, &T::dPVTc_b0>(), .key = "b0", .tabs = 2,
        .doc = "Coefficient b0 of the cure-dependent PVT model."},
-      {.field = field<&T::m_dPVTc_b1, &T::dPVTc_b1>(), .key = "b1", .label = "m_dPVTc_b1\t\t= ",
+      {.field = field<&T::m_dPVTc_b1, &T::dPVTc_b1>(), .key = "b1", .tabs = 2,
        .doc = "Coefficient b1 of the cure-dependent PVT model."},
-      {.field = field<&T::m_dPVTc_b2, &T::dPVTc_b2>(), .key = "b2", .label = "m_dPVTc_b2\t\t= ",
+      {.field = field<&T::m_dPVTc_b2, &T::dPVTc_b2>(), .key = "b2", .tabs = 2,
        .doc = "Coefficient b2 of the cure-dependent PVT model."},
-      {.field = field<&T::m_dPVTc_c0, &T::dPVTc_c0>(), .key = "c0", .label = "m_dPVTc_c0\t\t= ",
+      {.field = field<&T::m_dPVTc_c0, &T::dPVTc_c0>(), .key = "c0", .tabs = 2,
        .doc = "Coefficient c0 of the cure-dependent PVT model."},
-      {.field = field<&T::m_dPVTc_c1, &T::dPVTc_c1>(), .key = "c1", .label = "m_dPVTc_c1\t\t= ",
+      {.field = field<&T::m_dPVTc_c1, &T::dPVTc_c1>(), .key = "c1", .tabs = 2,
        .doc = "Coefficient c1 of the cure-dependent PVT model."},
-      {.field = field<&T::m_dPVTc_c2, &T::dPVTc_c2>(), .key = "c2", .label = "m_dPVTc_c2\t\t= ",
+      {.field = field<&T::m_dPVTc_c2, &T::dPVTc_c2>(), .key = "c2", .tabs = 2,
        .doc = "Coefficient c2 of the cure-dependent PVT model."},
-      {.field = field<&T::m_dPVTc_d0, &T::dPVTc_d0>(), .key = "d0", .label = "m_dPVTc_d0\t\t= ",
+      {.field = field<&T::m_dPVTc_d0, &T::dPVTc_d0>(), .key = "d0", .tabs = 2,
        .doc = "Coefficient d0 of the cure-dependent PVT model."},
-      {.field = field<&T::m_dPVTc_d1, &T::dPVTc_d1>(), .key = "d1", .label = "m_dPVTc_d1\t\t= ",
+      {.field = field<&T::m_dPVTc_d1, &T::dPVTc_d1>(), .key = "d1", .tabs = 2,
        .doc = "Coefficient d1 of the cure-dependent PVT model."},
-      {.field = field<&T::m_dPVTc_d2, &T::dPVTc_d2>(), .key = "d2", .label = "m_dPVTc_d2\t\t= ",
+      {.field = field<&T::m_dPVTc_d2, &T::dPVTc_d2>(), .key = "d2", .tabs = 2,
        .doc = "Coefficient d2 of the cure-dependent PVT model."},
   };
   // clang-format on

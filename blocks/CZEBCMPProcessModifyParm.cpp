@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPProcessModifyParm::CZEBCMPProcessModifyParm() = default;
-CZEBCMPProcessModifyParm::CZEBCMPProcessModifyParm(const CZEBCMPProcessModifyParm& other) = default;
-CZEBCMPProcessModifyParm::~CZEBCMPProcessModifyParm() = default;
-CZEBCMPProcessModifyParm& CZEBCMPProcessModifyParm::operator=(const CZEBCMPProcessModifyParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPProcessModifyParm)
 
 double CZEBCMPProcessModifyParm::dProcessFRChangeUpperBound() const { return m_dProcessFRChangeUpperBound; }
 double CZEBCMPProcessModifyParm::dProcessFRChangeLowerBound() const { return m_dProcessFRChangeLowerBound; }
@@ -16,12 +13,10 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPProcessModifyParm>() {
   // clang-format off
   static constexpr Row kRows[] = {
       {.field = field<&T::m_dProcessFRChangeUpperBound, &T::dProcessFRChangeUpperBound>(),
-       .key = "FlowRateChangeUpperBound", .rule = {.replace = {below(1.0, 1.0)}},
-       .label = "m_dProcessFRChangeUpperBound\t= ",
+       .key = "FlowRateChangeUpperBound", .rule = {.replace = {below(1.0, 1.0)}}, .tabs = 1,
        .doc = "Upper bound of the change of the flow rate; a value below 1.0 becomes 1.0."},
       {.field = field<&T::m_dProcessFRChangeLowerBound, &T::dProcessFRChangeLowerBound>(),
-       .key = "FlowRateChangeLowerBound", .rule = {.replace = {above(0.999, 0.999), below(0.001, 0.001)}},
-       .label = "m_dProcessFRChangeLowerBound\t= ",
+       .key = "FlowRateChangeLowerBound", .rule = {.replace = {above(0.999, 0.999), below(0.001, 0.001)}}, .tabs = 1,
        .doc = "Lower bound of the change of the flow rate; kept between 0.001 and 0.999."},
   };
   // clang-format on

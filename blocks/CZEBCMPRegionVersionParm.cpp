@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPRegionVersionParm::CZEBCMPRegionVersionParm() = default;
-CZEBCMPRegionVersionParm::CZEBCMPRegionVersionParm(const CZEBCMPRegionVersionParm& other) = default;
-CZEBCMPRegionVersionParm::~CZEBCMPRegionVersionParm() = default;
-CZEBCMPRegionVersionParm& CZEBCMPRegionVersionParm::operator=(const CZEBCMPRegionVersionParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPRegionVersionParm)
 
 int CZEBCMPRegionVersionParm::iRegionVersion() const { return m_iRegionVersion; }
 
@@ -14,9 +11,8 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRegionVersionParm>() {
   using T = CZEBCMPRegionVersionParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iRegionVersion, &T::iRegionVersion>(), .key = "RegionVersion",
-       .label = "m_iRegionVersion\t\t= ",
-       .doc = "Region version. Meaning defined by the solver."},
+      {.field = field<&T::m_iRegionVersion, &T::iRegionVersion>(), .key = "RegionVersion", .tabs = 2,
+       .doc = "Region version.", .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"RegionVersion", kRows>()};

@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPSAMGCtrlParm::CZEBCMPSAMGCtrlParm() = default;
-CZEBCMPSAMGCtrlParm::CZEBCMPSAMGCtrlParm(const CZEBCMPSAMGCtrlParm& other) = default;
-CZEBCMPSAMGCtrlParm::~CZEBCMPSAMGCtrlParm() = default;
-CZEBCMPSAMGCtrlParm& CZEBCMPSAMGCtrlParm::operator=(const CZEBCMPSAMGCtrlParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPSAMGCtrlParm)
 
 int CZEBCMPSAMGCtrlParm::DebugMode() const { return m_iDebugMode; }
 int CZEBCMPSAMGCtrlParm::n_Default() const { return m_n_Default; }
@@ -19,18 +16,18 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPSAMGCtrlParm>() {
   using T = CZEBCMPSAMGCtrlParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iDebugMode, &T::DebugMode>(), .key = "DebugMode", .label = "m_iDebugMode\t= ",
-       .doc = "Debug mode of the SAMG linear solver. Meaning defined by the solver."},
-      {.field = field<&T::m_n_Default, &T::n_Default>(), .key = "n_Default", .label = "m_n_Default\t= ",
-       .doc = "Control n_Default of the SAMG linear solver. Meaning defined by the solver."},
-      {.field = field<&T::m_n_nrd, &T::n_nrd>(), .key = "n_nrd", .label = "m_n_nrd\t\t= ",
-       .doc = "Control n_nrd of the SAMG linear solver. Meaning defined by the solver."},
+      {.field = field<&T::m_iDebugMode, &T::DebugMode>(), .key = "DebugMode", .tabs = 1,
+       .doc = "Debug mode of the SAMG linear solver.", .opaque = true},
+      {.field = field<&T::m_n_Default, &T::n_Default>(), .key = "n_Default", .tabs = 1,
+       .doc = "Control n_Default of the SAMG linear solver.", .opaque = true},
+      {.field = field<&T::m_n_nrd, &T::n_nrd>(), .key = "n_nrd", .tabs = 2,
+       .doc = "Control n_nrd of the SAMG linear solver.", .opaque = true},
       {.field = field<&T::m_n_levelx, &T::n_levelx>(), .key = "n_levelx",
-       .doc = "Control n_levelx of the SAMG linear solver. Meaning defined by the solver."},
-      {.field = field<&T::m_n_nru, &T::n_nru>(), .key = "n_nru", .label = "m_n_nru\t\t= ",
-       .doc = "Control n_nru of the SAMG linear solver. Meaning defined by the solver."},
+       .doc = "Control n_levelx of the SAMG linear solver.", .opaque = true},
+      {.field = field<&T::m_n_nru, &T::n_nru>(), .key = "n_nru", .tabs = 2,
+       .doc = "Control n_nru of the SAMG linear solver.", .opaque = true},
       {.field = field<&T::m_n_RES_SCRATCH, &T::n_RES_SCRATCH>(), .key = "n_RES_SCRATCH", .label = "m_n_RES_SCRATC = ",
-       .doc = "Control n_RES_SCRATCH of the SAMG linear solver. Meaning defined by the solver."},
+       .doc = "Control n_RES_SCRATCH of the SAMG linear solver.", .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"SAMGParaCtrl", kRows>()};

@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPShortShotParm::CZEBCMPShortShotParm() = default;
-CZEBCMPShortShotParm::CZEBCMPShortShotParm(const CZEBCMPShortShotParm& other) = default;
-CZEBCMPShortShotParm::~CZEBCMPShortShotParm() = default;
-CZEBCMPShortShotParm& CZEBCMPShortShotParm::operator=(const CZEBCMPShortShotParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPShortShotParm)
 
 double CZEBCMPShortShotParm::dTimeLimit() const { return m_dTimeLimit; }
 double CZEBCMPShortShotParm::dFRLimit() const { return m_dFRLimit; }
@@ -15,10 +12,10 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPShortShotParm>() {
   using T = CZEBCMPShortShotParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_dTimeLimit, &T::dTimeLimit>(), .key = "TimeLimit",
-       .label = "m_dTimeLimit\t= ", .doc = "Limit of the time. Meaning defined by the solver."},
-      {.field = field<&T::m_dFRLimit, &T::dFRLimit>(), .key = "FRLimit",
-       .label = "m_dFRLimit\t\t= ", .doc = "Limit of the flow rate. Meaning defined by the solver."},
+      {.field = field<&T::m_dTimeLimit, &T::dTimeLimit>(), .key = "TimeLimit", .tabs = 1, .doc = "Limit of the time.",
+       .opaque = true},
+      {.field = field<&T::m_dFRLimit, &T::dFRLimit>(), .key = "FRLimit", .tabs = 2, .doc = "Limit of the flow rate.",
+       .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"ShortShot", kRows>()};

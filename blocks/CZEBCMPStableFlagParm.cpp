@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPStableFlagParm::CZEBCMPStableFlagParm() = default;
-CZEBCMPStableFlagParm::CZEBCMPStableFlagParm(const CZEBCMPStableFlagParm& other) = default;
-CZEBCMPStableFlagParm::~CZEBCMPStableFlagParm() = default;
-CZEBCMPStableFlagParm& CZEBCMPStableFlagParm::operator=(const CZEBCMPStableFlagParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPStableFlagParm)
 
 int CZEBCMPStableFlagParm::nSmooth_dP() const { return m_nSmooth_dP; }
 int CZEBCMPStableFlagParm::nPJMSmooth_dP() const { return m_nPJMSmooth_dP; }
@@ -21,18 +18,16 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPStableFlagParm>() {
   using T = CZEBCMPStableFlagParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_nSmooth_dP, &T::nSmooth_dP>(), .key = "nSmooth_dP", .label = "m_nSmooth_dP\t\t\t\t\t\t= ",
+      {.field = field<&T::m_nSmooth_dP, &T::nSmooth_dP>(), .key = "nSmooth_dP", .tabs = 6,
        .doc = "Number of smoothings of dP."},
-      {.field = field<&T::m_nPJMSmooth_dP, &T::nPJMSmooth_dP>(), .key = "nPJMSmooth_dP",
-       .label = "m_nPJMSmooth_dP\t\t\t\t\t= ",
+      {.field = field<&T::m_nPJMSmooth_dP, &T::nPJMSmooth_dP>(), .key = "nPJMSmooth_dP", .tabs = 5,
        .doc = "Number of PJM smoothings of dP."},
-      {.field = field<&T::m_iGradType, &T::iGradType>(), .key = "iGradType", .label = "m_iGradType\t\t\t\t\t\t= ",
-       .doc = "Gradient type. Meaning defined by the solver."},
-      {.field = field<&T::m_iRead_f2f, &T::iRead_f2f>(), .key = "Read_f2f", .label = "m_iRead_f2f\t\t\t\t\t\t= ",
-       .doc = "Flag for reading f2f. Meaning defined by the solver."},
+      {.field = field<&T::m_iGradType, &T::iGradType>(), .key = "iGradType", .tabs = 6, .doc = "Gradient type.",
+       .opaque = true},
+      {.field = field<&T::m_iRead_f2f, &T::iRead_f2f>(), .key = "Read_f2f", .tabs = 6, .doc = "Flag for reading f2f.",
+       .opaque = true},
       {.field = field<&T::m_iIterNum_MeltFrontTemperature, &T::iIterNum_MeltFrontTemperature>(),
-       .key = "IterNum_MeltFrontTemperature", .label = "m_iIterNum_MeltFrontTemperature\t= ",
-       .doc = "Number of iterations of the melt-front temperature."},
+       .key = "IterNum_MeltFrontTemperature", .tabs = 1, .doc = "Number of iterations of the melt-front temperature."},
   };
   static constexpr Order<5> kReadingOrder{
       "nSmooth_dP", "nPJMSmooth_dP", "Read_f2f", "IterNum_MeltFrontTemperature", "iGradType"};

@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMPTimeStepSizeCtrlParm::CZEBCMPTimeStepSizeCtrlParm() = default;
-CZEBCMPTimeStepSizeCtrlParm::CZEBCMPTimeStepSizeCtrlParm(const CZEBCMPTimeStepSizeCtrlParm& other) = default;
-CZEBCMPTimeStepSizeCtrlParm::~CZEBCMPTimeStepSizeCtrlParm() = default;
-CZEBCMPTimeStepSizeCtrlParm& CZEBCMPTimeStepSizeCtrlParm::operator=(const CZEBCMPTimeStepSizeCtrlParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPTimeStepSizeCtrlParm)
 
 int CZEBCMPTimeStepSizeCtrlParm::iNewMethod() const { return m_iNewMethod; }
 double CZEBCMPTimeStepSizeCtrlParm::dInitialDt() const { return m_dInitialDt; }
@@ -25,22 +22,19 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPTimeStepSizeCtrlParm>() {
   using T = CZEBCMPTimeStepSizeCtrlParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iNewMethod, &T::iNewMethod>(), .key = "NewMethod", .label = "m_iNewMethod\t\t= ",
-       .doc = "Method of the time-step control. Meaning defined by the solver."},
-      {.field = field<&T::m_dInitialDt, &T::dInitialDt>(), .key = "InitialDt", .label = "m_dInitialDt\t\t= ",
+      {.field = field<&T::m_iNewMethod, &T::iNewMethod>(), .key = "NewMethod", .tabs = 2,
+       .doc = "Method of the time-step control.", .opaque = true},
+      {.field = field<&T::m_dInitialDt, &T::dInitialDt>(), .key = "InitialDt", .tabs = 2,
        .doc = "Initial time-step size."},
-      {.field = field<&T::m_iVof_Scheme, &T::iVof_Scheme>(), .key = "FrontMethod", .label = "m_iVof_Scheme\t\t= ",
-       .doc = "Volume-fraction scheme of the front. Meaning defined by the solver."},
-      {.field = field<&T::m_iHRVof, &T::iHRVof>(), .key = "HRVof", .label = "m_iHRVof\t\t\t= ",
-       .doc = "High-resolution option of the volume fraction. Meaning defined by the solver."},
-      {.field = field<&T::m_dFixDt, &T::dFixDt>(), .key = "FixDt", .label = "m_dFixDt\t\t\t= ",
-       .doc = "Fixed time-step size."},
-      {.field = field<&T::m_iMFType, &T::iMFType>(), .key = "MFType", .label = "m_iMFType\t\t\t= ",
-       .doc = "Meaning defined by the solver."},
-      {.field = field<&T::m_iRTMVof, &T::iRTMVof>(), .key = "RTMVof", .label = "m_iRTMVof\t\t\t= ",
-       .doc = "Volume-fraction option of RTM. Meaning defined by the solver."},
-      {.field = field<&T::m_iRTMFrontNSubdt, &T::iRTMFrontNSubdt>(), .key = "RTMFrontNSubdt",
-       .label = "m_iRTMFrontNSubdt\t= ",
+      {.field = field<&T::m_iVof_Scheme, &T::iVof_Scheme>(), .key = "FrontMethod", .tabs = 2,
+       .doc = "Volume-fraction scheme of the front.", .opaque = true},
+      {.field = field<&T::m_iHRVof, &T::iHRVof>(), .key = "HRVof", .tabs = 3,
+       .doc = "High-resolution option of the volume fraction.", .opaque = true},
+      {.field = field<&T::m_dFixDt, &T::dFixDt>(), .key = "FixDt", .tabs = 3, .doc = "Fixed time-step size."},
+      {.field = field<&T::m_iMFType, &T::iMFType>(), .key = "MFType", .tabs = 3, .opaque = true},
+      {.field = field<&T::m_iRTMVof, &T::iRTMVof>(), .key = "RTMVof", .tabs = 3,
+       .doc = "Volume-fraction option of RTM.", .opaque = true},
+      {.field = field<&T::m_iRTMFrontNSubdt, &T::iRTMFrontNSubdt>(), .key = "RTMFrontNSubdt", .tabs = 1,
        .doc = "Number of sub-steps in time of the RTM front."},
   };
   // clang-format on

@@ -22,10 +22,7 @@ constexpr zeb::Row coordinate(zeb::Field points, int point, Axis axis, std::stri
 
 }  // namespace
 
-CZEBCMPUNFSettingParm::CZEBCMPUNFSettingParm() = default;
-CZEBCMPUNFSettingParm::CZEBCMPUNFSettingParm(const CZEBCMPUNFSettingParm& other) = default;
-CZEBCMPUNFSettingParm::~CZEBCMPUNFSettingParm() = default;
-CZEBCMPUNFSettingParm& CZEBCMPUNFSettingParm::operator=(const CZEBCMPUNFSettingParm& other) = default;
+ZEB_DEFAULTED(CZEBCMPUNFSettingParm)
 
 double CZEBCMPUNFSettingParm::dVofInter() const { return m_dVofInter; }
 double CZEBCMPUNFSettingParm::dContactAngle() const { return m_dContactAngle; }
@@ -56,29 +53,22 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPUNFSettingParm>() {
   static constexpr Field kPoints = field<&T::m_pdDispenserPoint>();
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_dVofInter, &T::dVofInter>(), .key = "VofInterface",
-       .label = "m_dVofInter\t\t\t= ", .doc = "Volume fraction at the interface."},
-      {.field = field<&T::m_dContactAngle, &T::dContactAngle>(), .key = "ContactAngle",
-       .label = "m_dContactAngle\t\t= ", .doc = "Contact angle."},
-      {.field = field<&T::m_dSTCoeff, &T::dSTCoeff>(), .key = "SurTensionCoef",
-       .label = "m_dSTCoeff\t\t\t\t= ", .doc = "Coefficient of the surface tension."},
-      {.field = field<&T::m_dDeng, &T::dDeng>(), .key = "Deng",
-       .label = "m_dDeng\t\t\t\t= ", .doc = "Density of the gas."},
-      {.field = field<&T::m_dDenl, &T::dDenl>(), .key = "Denl",
-       .label = "m_dDenl\t\t\t\t= ", .doc = "Density of the liquid."},
-      {.field = field<&T::m_dVisg, &T::dVisg>(), .key = "Visg",
-       .label = "m_dVisg\t\t\t\t= ", .doc = "Viscosity of the gas."},
-      {.field = field<&T::m_dVisl, &T::dVisl>(), .key = "Visl",
-       .label = "m_dVisl\t\t\t\t= ", .doc = "Viscosity of the liquid."},
-      {.field = field<&T::m_iFillType, &T::iFillType>(), .key = "FillType", .gateBelow = 2,
-       .label = "m_iFillType\t\t\t= ", .doc = "Type of the filling; below 2 the dispenser's keys are ignored."},
-      {.field = field<&T::m_iNDispenserPass, &T::iNDispenserPass>(),
-       .key = "nDispenserPoint", .count = Count::kYes,
-       .list = {.array = kPoints, .perEntry = kPointSize, .hasLines = false},
-       .label = "m_iNDispenserPass\t\t= ",
+      {.field = field<&T::m_dVofInter, &T::dVofInter>(), .key = "VofInterface", .tabs = 3,
+       .doc = "Volume fraction at the interface."},
+      {.field = field<&T::m_dContactAngle, &T::dContactAngle>(), .key = "ContactAngle", .tabs = 2,
+       .doc = "Contact angle."},
+      {.field = field<&T::m_dSTCoeff, &T::dSTCoeff>(), .key = "SurTensionCoef", .tabs = 4,
+       .doc = "Coefficient of the surface tension."},
+      {.field = field<&T::m_dDeng, &T::dDeng>(), .key = "Deng", .tabs = 4, .doc = "Density of the gas."},
+      {.field = field<&T::m_dDenl, &T::dDenl>(), .key = "Denl", .tabs = 4, .doc = "Density of the liquid."},
+      {.field = field<&T::m_dVisg, &T::dVisg>(), .key = "Visg", .tabs = 4, .doc = "Viscosity of the gas."},
+      {.field = field<&T::m_dVisl, &T::dVisl>(), .key = "Visl", .tabs = 4, .doc = "Viscosity of the liquid."},
+      {.field = field<&T::m_iFillType, &T::iFillType>(), .key = "FillType", .gateBelow = 2, .tabs = 3,
+       .doc = "Type of the filling; below 2 the dispenser's keys are ignored."},
+      {.field = field<&T::m_iNDispenserPass, &T::iNDispenserPass>(), .key = "nDispenserPoint", .count = Count::kYes,
+       .list = {.array = kPoints, .perEntry = kPointSize, .hasLines = false}, .tabs = 2,
        .doc = "Number of dispenser points (0 to 1000000); a new count sets all points to the origin."},
-      {.field = field<&T::m_dDispenserSpeed>(), .key = "Speed_V",
-       .label = "m_dDispenserSpeed\t\t= ", .doc = "Speed of the dispenser."},
+      {.field = field<&T::m_dDispenserSpeed>(), .key = "Speed_V", .tabs = 2, .doc = "Speed of the dispenser."},
       coordinate(kPoints, 1, kX, "Point_x1", "x of dispenser point 1.", "m_pdDispenserPoint\t\t= "),
       coordinate(kPoints, 1, kY, "Point_y1", "y of dispenser point 1."),
       coordinate(kPoints, 2, kX, "Point_x2", "x of dispenser point 2."),

@@ -3,10 +3,7 @@
 #include "blocks/RbfRows.hpp"
 #include "engine/TableBuilder.hpp"
 
-CZEBCMP_BaseRBF_Parm::CZEBCMP_BaseRBF_Parm() = default;
-CZEBCMP_BaseRBF_Parm::CZEBCMP_BaseRBF_Parm(const CZEBCMP_BaseRBF_Parm& other) = default;
-CZEBCMP_BaseRBF_Parm::~CZEBCMP_BaseRBF_Parm() = default;
-CZEBCMP_BaseRBF_Parm& CZEBCMP_BaseRBF_Parm::operator=(const CZEBCMP_BaseRBF_Parm& other) = default;
+ZEB_DEFAULTED(CZEBCMP_BaseRBF_Parm)
 
 int CZEBCMP_BaseRBF_Parm::Version() const { return m_iVersion; }
 int CZEBCMP_BaseRBF_Parm::Span() const { return m_iSpan; }
@@ -20,11 +17,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMP_BaseRBF_Parm>() {
   static constexpr Row kRows[] = {
       rbfVersion(field<&T::m_iVersion, &T::Version>()),
       rbfSpan(field<&T::m_iSpan, &T::Span>()),
-      {.field = field<&T::m_nShapeNormalize, &T::ShapeNormalize>(), .key = "Shape_Normalize",
-       .label = "m_nShapeNormalize\t= ",
-       .doc = "Shape normalization. Meaning defined by the solver."},
-      {.field = field<&T::m_iDebugMode, &T::DebugMode>(), .label = "m_iDebugMode\t\t= ",
-       .doc = "Debug mode. Meaning defined by the solver."},
+      {.field = field<&T::m_nShapeNormalize, &T::ShapeNormalize>(), .key = "Shape_Normalize", .tabs = 1,
+       .doc = "Shape normalization.", .opaque = true},
+      {.field = field<&T::m_iDebugMode, &T::DebugMode>(), .tabs = 2, .doc = "Debug mode.", .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"BaseRBF", kRows>()};

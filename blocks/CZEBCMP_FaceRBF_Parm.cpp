@@ -3,10 +3,7 @@
 #include "blocks/RbfRows.hpp"
 #include "engine/TableBuilder.hpp"
 
-CZEBCMP_FaceRBF_Parm::CZEBCMP_FaceRBF_Parm() = default;
-CZEBCMP_FaceRBF_Parm::CZEBCMP_FaceRBF_Parm(const CZEBCMP_FaceRBF_Parm& other) = default;
-CZEBCMP_FaceRBF_Parm::~CZEBCMP_FaceRBF_Parm() = default;
-CZEBCMP_FaceRBF_Parm& CZEBCMP_FaceRBF_Parm::operator=(const CZEBCMP_FaceRBF_Parm& other) = default;
+ZEB_DEFAULTED(CZEBCMP_FaceRBF_Parm)
 
 int CZEBCMP_FaceRBF_Parm::Version() const { return m_iVersion; }
 int CZEBCMP_FaceRBF_Parm::Span() const { return m_iSpan; }

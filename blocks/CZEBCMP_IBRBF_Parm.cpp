@@ -3,10 +3,7 @@
 #include "blocks/RbfRows.hpp"
 #include "engine/TableBuilder.hpp"
 
-CZEBCMP_IBRBF_Parm::CZEBCMP_IBRBF_Parm() = default;
-CZEBCMP_IBRBF_Parm::CZEBCMP_IBRBF_Parm(const CZEBCMP_IBRBF_Parm& other) = default;
-CZEBCMP_IBRBF_Parm::~CZEBCMP_IBRBF_Parm() = default;
-CZEBCMP_IBRBF_Parm& CZEBCMP_IBRBF_Parm::operator=(const CZEBCMP_IBRBF_Parm& other) = default;
+ZEB_DEFAULTED(CZEBCMP_IBRBF_Parm)
 
 int CZEBCMP_IBRBF_Parm::Version() const { return m_iVersion; }
 int CZEBCMP_IBRBF_Parm::Span() const { return m_iSpan; }

@@ -3,11 +3,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCool3DCoolingChannelParm::CZEBCool3DCoolingChannelParm() = default;
-CZEBCool3DCoolingChannelParm::CZEBCool3DCoolingChannelParm(const CZEBCool3DCoolingChannelParm& other) = default;
-CZEBCool3DCoolingChannelParm::~CZEBCool3DCoolingChannelParm() = default;
-CZEBCool3DCoolingChannelParm& CZEBCool3DCoolingChannelParm::operator=(const CZEBCool3DCoolingChannelParm& other) =
-    default;
+ZEB_DEFAULTED(CZEBCool3DCoolingChannelParm)
 
 int CZEBCool3DCoolingChannelParm::i_GetcfcVer_3DCChannel() const { return m_i_GetcfcVer_3DCChannel; }
 int CZEBCool3DCoolingChannelParm::iGet3DCChanelDebug() const { return m_iGet3DCChanelDebug; }
@@ -32,11 +28,10 @@ const zeb::BlockTable& zeb::tableOf<CZEBCool3DCoolingChannelParm>() {
       {.field = field<&T::m_i_GetcfcVer_3DCChannel, &T::i_GetcfcVer_3DCChannel>(), .at = {{1, 1}},
        .doc = "Version of the layout; the section is read only when its first line holds this number."},
       {.field = field<&T::m_iGet3DCChanelDebug, &T::iGet3DCChanelDebug>(), .at = {{2, 1}},
-       .doc = "Debugging of the cooling channels. Meaning defined by the solver."},
+       .doc = "Debugging of the cooling channels.", .opaque = true},
       {.field = field<&T::m_iGetNiterC, &T::iGetNiterC>(), .at = {{3, 1}, {4, 1}},
        .doc = "Number of iterations of C; stands in two lines, the later one wins."},
-      {.field = field<&T::m_dGetTolerC, &T::dGetTolerC>(),
-       .doc = "Tolerance of C; no field of the section sets it."},
+      {.field = field<&T::m_dGetTolerC, &T::dGetTolerC>(), .doc = "Tolerance of C; no field of the section sets it."},
       {.field = field<&T::m_iGetNiterInC, &T::iGetNiterInC>(),
        .doc = "Number of inner iterations of C; no field of the section sets it."},
       {.field = field<&T::m_dGetTolerInC, &T::dGetTolerInC>(),
@@ -45,16 +40,13 @@ const zeb::BlockTable& zeb::tableOf<CZEBCool3DCoolingChannelParm>() {
        .doc = "Under-relaxation of the temperature of C."},
       {.field = field<&T::m_dGetGeoRhsCUnder, &T::dGetGeoRhsCUnder>(), .at = {{5, 2}},
        .doc = "Under-relaxation of the right-hand side of C."},
-      {.field = field<&T::m_dGetBlendC, &T::dGetBlendC>(), .at = {{6, 1}},
-       .doc = "Blending factor of C."},
-      {.field = field<&T::m_dGetRelaxC, &T::dGetRelaxC>(), .at = {{6, 2}},
-       .doc = "Relaxation factor of C."},
+      {.field = field<&T::m_dGetBlendC, &T::dGetBlendC>(), .at = {{6, 1}}, .doc = "Blending factor of C."},
+      {.field = field<&T::m_dGetRelaxC, &T::dGetRelaxC>(), .at = {{6, 2}}, .doc = "Relaxation factor of C."},
       {.field = field<&T::m_dGetAllowCChannelBoundaryChangeTemperature,
                       &T::dGetAllowCChannelBoundaryChangeTemperature>(),
-       .at = {{7, 1}},
-       .doc = "Allowed change of the boundary temperature of the cooling channels."},
+       .at = {{7, 1}}, .doc = "Allowed change of the boundary temperature of the cooling channels."},
       {.field = field<&T::m_iGetCChannelCalculateStep, &T::iGetCChannelCalculateStep>(), .at = {{7, 2}},
-       .doc = "Calculation step of the cooling channels. Meaning defined by the solver."},
+       .doc = "Calculation step of the cooling channels.", .opaque = true},
   };
   // clang-format on
   static constexpr PositionalLayout kLayout{.lines = 7, .versioned = true};

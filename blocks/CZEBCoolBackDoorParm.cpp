@@ -6,10 +6,7 @@
 #include "engine/TableBuilder.hpp"
 #include "engine/ValueText.hpp"
 
-CZEBCoolBackDoorParm::CZEBCoolBackDoorParm() = default;
-CZEBCoolBackDoorParm::CZEBCoolBackDoorParm(const CZEBCoolBackDoorParm& other) = default;
-CZEBCoolBackDoorParm::~CZEBCoolBackDoorParm() = default;
-CZEBCoolBackDoorParm& CZEBCoolBackDoorParm::operator=(const CZEBCoolBackDoorParm& other) = default;
+ZEB_DEFAULTED(CZEBCoolBackDoorParm)
 
 bool CZEBCoolBackDoorParm::bGetIfActiveHeatFluxHistory() const { return m_bGetIfActiveHeatFluxHistory; }
 int CZEBCoolBackDoorParm::iGetIfActive_ElectromagneticHeating() const { return m_iGetIfActive_ElectromagneticHeating; }
@@ -48,13 +45,11 @@ const zeb::BlockTable& zeb::tableOf<CZEBCoolBackDoorParm>() {
 
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_bGetIfActiveHeatFluxHistory, &T::bGetIfActiveHeatFluxHistory>(),
-       .key = "HeatFluxHistory", .lookup = Lookup::kPresence,
-       .doc = "Switch: heat-flux history; set by the word alone."},
+      {.field = field<&T::m_bGetIfActiveHeatFluxHistory, &T::bGetIfActiveHeatFluxHistory>(), .key = "HeatFluxHistory",
+       .lookup = Lookup::kPresence, .doc = "Switch: heat-flux history; set by the word alone."},
       {.field = field<&T::m_iGetIfActive_ElectromagneticHeating, &T::iGetIfActive_ElectromagneticHeating>(),
        .key = "ElemagComsol", .lookup = Lookup::kPresence, .whenStored = kReadHeating,
-       .fills = members<&T::m_dGetTime_StartHeating, &T::m_dGetTime_EndHeating,
-                        &T::m_cGetElectromagneticxternalFile>,
+       .fills = members<&T::m_dGetTime_StartHeating, &T::m_dGetTime_EndHeating, &T::m_cGetElectromagneticxternalFile>,
        .doc = "Switch: electromagnetic heating; set by the word, with start, end and external file as the next words."},
       {.field = field<&T::m_cGetElectromagneticxternalFile, &T::cGetElectromagneticxternalFile>(),
        .doc = "Name of the external file of the electromagnetic heating, cut to 511 characters."},
@@ -68,19 +63,16 @@ const zeb::BlockTable& zeb::tableOf<CZEBCoolBackDoorParm>() {
       {.field = field<&T::m_iGetIfOutputAverageTemperature, &T::iGetIfOutputAverageTemperature>(),
        .key = "OutputAverageTemperature", .lookup = Lookup::kPresence,
        .doc = "Switch: output of the average temperature; set by the word alone."},
-      {.field = field<&T::m_iGetIfActiveSensorHeatFlux, &T::iGetIfActiveSensorHeatFlux>(),
-       .key = "SensorHeatFlux", .lookup = Lookup::kPresence,
-       .doc = "Switch: heat flux at the sensors; set by the word alone."},
+      {.field = field<&T::m_iGetIfActiveSensorHeatFlux, &T::iGetIfActiveSensorHeatFlux>(), .key = "SensorHeatFlux",
+       .lookup = Lookup::kPresence, .doc = "Switch: heat flux at the sensors; set by the word alone."},
       {.field = field<&T::m_dGetTime_StartHeating, &T::dGetTime_StartHeating>(),
        .doc = "Start time of the electromagnetic heating."},
       {.field = field<&T::m_dGetTime_EndHeating, &T::dGetTime_EndHeating>(),
        .doc = "End time of the electromagnetic heating."},
       {.field = field<&T::m_iGetFlagTurnOffCoolTime, &T::iGetFlagTurnOffCoolTime>(),
-       .key = "FlagTurnOffEstimateCoolTime",
-       .doc = "Switch: the estimate of the cooling time is turned off."},
+       .key = "FlagTurnOffEstimateCoolTime", .doc = "Switch: the estimate of the cooling time is turned off."},
       {.field = field<&T::m_iGetIdealCooingIterateNumber, &T::iGetIdealCooingIterateNumber>(),
-       .key = "IdealCooingItreateNumber",
-       .doc = "Number of iterations of the ideal cooling."},
+       .key = "IdealCooingItreateNumber", .doc = "Number of iterations of the ideal cooling."},
   };
   // clang-format on
   static constexpr Section kWhiteboard = [] {

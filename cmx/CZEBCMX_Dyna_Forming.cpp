@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMX_Dyna_Forming::CZEBCMX_Dyna_Forming() = default;
-CZEBCMX_Dyna_Forming::CZEBCMX_Dyna_Forming(const CZEBCMX_Dyna_Forming& other) = default;
-CZEBCMX_Dyna_Forming::~CZEBCMX_Dyna_Forming() = default;
-CZEBCMX_Dyna_Forming& CZEBCMX_Dyna_Forming::operator=(const CZEBCMX_Dyna_Forming& other) = default;
+ZEB_DEFAULTED(CZEBCMX_Dyna_Forming)
 
 int CZEBCMX_Dyna_Forming::iIsRunIBFSIforfibermat() const { return m_iIsRunIBFSIforfibermat; }
 int CZEBCMX_Dyna_Forming::iRunfibermatCycle() const { return m_iRunfibermatCycle; }

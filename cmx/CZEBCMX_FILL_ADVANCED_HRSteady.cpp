@@ -5,11 +5,7 @@
 #include "engine/TableBuilder.hpp"
 #include "engine/ValueText.hpp"
 
-CZEBCMX_FILL_ADVANCED_HRSteady::CZEBCMX_FILL_ADVANCED_HRSteady() = default;
-CZEBCMX_FILL_ADVANCED_HRSteady::CZEBCMX_FILL_ADVANCED_HRSteady(const CZEBCMX_FILL_ADVANCED_HRSteady& other) = default;
-CZEBCMX_FILL_ADVANCED_HRSteady::~CZEBCMX_FILL_ADVANCED_HRSteady() = default;
-CZEBCMX_FILL_ADVANCED_HRSteady& CZEBCMX_FILL_ADVANCED_HRSteady::operator=(const CZEBCMX_FILL_ADVANCED_HRSteady& other) =
-    default;
+ZEB_DEFAULTED(CZEBCMX_FILL_ADVANCED_HRSteady)
 
 double CZEBCMX_FILL_ADVANCED_HRSteady::dHRFlowRate() const { return m_dHRFlowRate; }
 double CZEBCMX_FILL_ADVANCED_HRSteady::dHRConvergenceCriteria() const { return m_dHRConvergenceCriteria; }
@@ -31,7 +27,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_HRSteady>() {
       {.field = field<&T::m_iHRGateType, &T::iHRGateType>(), .key = "ValueHRGateType",
        // A line without a value leaves its gate as it is; the next line is the next gate's all the same.
        .list = {.array = field<&T::m_pHRGateBC>(), .count = field<&T::m_iNHRGate>(), .makesRoom = false},
-       .doc = "Type of the gates' boundary condition. Meaning defined by the solver."},
+       .doc = "Type of the gates' boundary condition.", .opaque = true},
       {.field = field<&T::m_pHRGateBC, &T::pHRGateBC>(),
        .doc = "Values of the gates' boundary condition, one line each behind ValueHRGateType."},
   };

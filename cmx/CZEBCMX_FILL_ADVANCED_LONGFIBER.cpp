@@ -7,12 +7,7 @@
 #include "engine/TableBuilder.hpp"
 #include "engine/ValueText.hpp"
 
-CZEBCMX_FILL_ADVANCED_LONGFIBER::CZEBCMX_FILL_ADVANCED_LONGFIBER() = default;
-CZEBCMX_FILL_ADVANCED_LONGFIBER::CZEBCMX_FILL_ADVANCED_LONGFIBER(const CZEBCMX_FILL_ADVANCED_LONGFIBER& other) =
-    default;
-CZEBCMX_FILL_ADVANCED_LONGFIBER::~CZEBCMX_FILL_ADVANCED_LONGFIBER() = default;
-CZEBCMX_FILL_ADVANCED_LONGFIBER& CZEBCMX_FILL_ADVANCED_LONGFIBER::operator=(
-    const CZEBCMX_FILL_ADVANCED_LONGFIBER& other) = default;
+ZEB_DEFAULTED(CZEBCMX_FILL_ADVANCED_LONGFIBER)
 
 int CZEBCMX_FILL_ADVANCED_LONGFIBER::iVersion() const { return m_iVersion; }
 int CZEBCMX_FILL_ADVANCED_LONGFIBER::iOrthotropicClosureMethod() const { return m_iOrthotropicClosureMethod; }
@@ -67,9 +62,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_LONGFIBER>() {
   static constexpr Row kRows[] = {
       {.field = field<&T::m_iVersion, &T::iVersion>(), .key = "Version", .doc = "Version of the block."},
       {.field = field<&T::m_iOrthotropicClosureMethod, &T::iOrthotropicClosureMethod>(),
-       .key = "OrthotropicClosureMethod", .doc = "Orthotropic closure method. Meaning defined by the solver."},
+       .key = "OrthotropicClosureMethod", .doc = "Orthotropic closure method.", .opaque = true},
       {.field = field<&T::m_dModifiedFactor, &T::dModifiedFactor>(), .key = "ModifiedFactor",
-       .doc = "Modifying factor of the fiber orientation. Meaning defined by the solver."},
+       .doc = "Modifying factor of the fiber orientation.", .opaque = true},
       {.field = field<&T::m_dAspectRatio, &T::dAspectRatio>(), .key = "AspectRatio",
        .doc = "Aspect ratio of the fibers."},
       {.field = field<&T::m_dWeightPercent, &T::dWeightPercent>(), .key = "Weight",
@@ -77,7 +72,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_LONGFIBER>() {
       {.field = field<&T::m_iDiffusionModelType, &T::iDiffusionModelType>(), .key = "DiffusionModelType",
        .list = {.entry = Entry::kNamed, .read = kReadCoefficients},
        .fills = members<&T::m_dARD_b1, &T::m_dARD_b2, &T::m_dARD_b3, &T::m_dARD_b4, &T::m_dARD_b5, &T::m_dARD_Cf,
-                        &T::m_dARD_Cm, &T::m_dFiber_CI>,
+               &T::m_dARD_Cm, &T::m_dFiber_CI>,
        .doc = "Fiber diffusion model, 0, 1 or 2; the lines of its coefficients follow."},
       {.field = field<&T::m_dARD_b1, &T::dARD_b1>(), .doc = "Coefficient b1 of fiber diffusion model 2."},
       {.field = field<&T::m_dARD_b2, &T::dARD_b2>(), .doc = "Coefficient b2 of fiber diffusion model 2."},
@@ -96,21 +91,21 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_LONGFIBER>() {
       {.field = field<&T::m_dDragCoe, &T::DragCoe>(), .key = "ValueFiberBreakageCD",
        .doc = "Drag coefficient of the fiber breakage."},
       {.field = field<&T::m_dCB, &T::CB>(), .key = "ValueFiberBreakageCB",
-       .doc = "Coefficient CB of the fiber breakage. Meaning defined by the solver."},
-      {.field = field<&T::m_dS, &T::S>(), .key = "ValueFiberBreakageS",
-       .doc = "Coefficient S of the fiber breakage. Meaning defined by the solver."},
+       .doc = "Coefficient CB of the fiber breakage.", .opaque = true},
+      {.field = field<&T::m_dS, &T::S>(), .key = "ValueFiberBreakageS", .doc = "Coefficient S of the fiber breakage.",
+       .opaque = true},
       {.field = field<&T::m_isBreakInScrewAndNozzle, &T::isBreakInScrewAndNozzle>(), .key = "FlagScrewFiberBreakage",
        .doc = "Switch: fibers break in screw and nozzle."},
       {.field = field<&T::m_iFiberConcen, &T::iFiberConcen>(), .key = "FlagConcertration",
        .doc = "Switch: the fiber concentration is calculated."},
-      {.field = field<&T::m_iFiberType, &T::iFiberType>(), .key = "FiberType",
-       .doc = "Type of the fibers. Meaning defined by the solver."},
+      {.field = field<&T::m_iFiberType, &T::iFiberType>(), .key = "FiberType", .doc = "Type of the fibers.",
+       .opaque = true},
       {.field = field<&T::m_dAverageWeightConcen, &T::dAverageWeightConcen>(), .key = "ValueAverageConcentration",
        .doc = "Average weight concentration."},
       {.field = field<&T::m_dMaxWeightConcen, &T::dMaxWeightConcen>(), .key = "ValueMaximumConcentration",
        .doc = "Maximum weight concentration."},
       {.field = field<&T::m_dResisAlpha, &T::dResisAlpha>(), .key = "ValueParticleFrictionIndex",
-       .doc = "Friction index of the particles. Meaning defined by the solver."},
+       .doc = "Friction index of the particles.", .opaque = true},
   };
   static constexpr Order<18> kReadingOrder{
       "Version", "OrthotropicClosureMethod", "ModifiedFactor", "AspectRatio", "Weight", "FiberType",

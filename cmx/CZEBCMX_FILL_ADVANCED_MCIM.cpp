@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMX_FILL_ADVANCED_MCIM::CZEBCMX_FILL_ADVANCED_MCIM() = default;
-CZEBCMX_FILL_ADVANCED_MCIM::CZEBCMX_FILL_ADVANCED_MCIM(const CZEBCMX_FILL_ADVANCED_MCIM& other) = default;
-CZEBCMX_FILL_ADVANCED_MCIM::~CZEBCMX_FILL_ADVANCED_MCIM() = default;
-CZEBCMX_FILL_ADVANCED_MCIM& CZEBCMX_FILL_ADVANCED_MCIM::operator=(const CZEBCMX_FILL_ADVANCED_MCIM& other) = default;
+ZEB_DEFAULTED(CZEBCMX_FILL_ADVANCED_MCIM)
 
 int CZEBCMX_FILL_ADVANCED_MCIM::iEstimateBubble() const { return m_iEstimateBubble; }
 int CZEBCMX_FILL_ADVANCED_MCIM::Version() const { return m_iVersion; }
@@ -27,24 +24,23 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_MCIM>() {
       {.field = field<&T::m_iEstimateBubble, &T::iEstimateBubble>(), .key = "FlagEstimateBubble",
        .doc = "Switch: bubble growth is calculated."},
       {.field = field<&T::m_iVersion, &T::Version>(), .key = "Version", .doc = "Version of the block."},
-      {.field = field<&T::m_iGasType, &T::GasType>(), .key = "GasType",
-       .doc = "Type of the gas. Meaning defined by the solver."},
+      {.field = field<&T::m_iGasType, &T::GasType>(), .key = "GasType", .doc = "Type of the gas.", .opaque = true},
       {.field = field<&T::m_iBubbleGrowthModel, &T::BubbleGrowthModel>(), .key = "BubbleGrowthModel",
-       .doc = "Model of the bubble growth. Meaning defined by the solver."},
+       .doc = "Model of the bubble growth.", .opaque = true},
       {.field = field<&T::m_dPolymerMolecularWeight, &T::PolymerMolecularWeight>(), .key = "PolymerMolecularWeight",
        .doc = "Molecular weight of the polymer."},
-      {.field = field<&T::m_dGasDiffusionCoefficient, &T::GasDiffusionCoefficient>(),
-       .key = "GasDiffusionCoefficient", .doc = "Diffusion coefficient of the gas in the melt."},
+      {.field = field<&T::m_dGasDiffusionCoefficient, &T::GasDiffusionCoefficient>(), .key = "GasDiffusionCoefficient",
+       .doc = "Diffusion coefficient of the gas in the melt."},
       {.field = field<&T::m_dGasSolubilityParameter, &T::GasSolubilityParameter>(), .key = "GasSolubilityParameter",
        .doc = "Solubility of the gas in the melt."},
       {.field = field<&T::m_dSurfaceTension, &T::SurfaceTension>(), .key = "SurfaceTension",
        .doc = "Surface tension of the melt."},
       {.field = field<&T::m_dCorrectionFactorf0, &T::CorrectionFactorf0>(), .key = "CorrectionFactorf0",
-       .doc = "Correction factor f0. Meaning defined by the solver."},
+       .doc = "Correction factor f0.", .opaque = true},
       {.field = field<&T::m_dCorrectionFactorF, &T::CorrectionFactorF>(), .key = "CorrectionFactorF",
-       .doc = "Correction factor F. Meaning defined by the solver."},
+       .doc = "Correction factor F.", .opaque = true},
       {.field = field<&T::m_dThresholdofBubbleFt, &T::ThresholdofBubbleFt>(), .key = "ThresholdofBubbleFt",
-       .doc = "Threshold Ft of the bubbles. Meaning defined by the solver."},
+       .doc = "Threshold Ft of the bubbles.", .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {taggedSection<"FILL_ADVANCED_MCIM", kRows>()};

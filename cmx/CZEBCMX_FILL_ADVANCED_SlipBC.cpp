@@ -2,11 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMX_FILL_ADVANCED_SlipBC::CZEBCMX_FILL_ADVANCED_SlipBC() = default;
-CZEBCMX_FILL_ADVANCED_SlipBC::CZEBCMX_FILL_ADVANCED_SlipBC(const CZEBCMX_FILL_ADVANCED_SlipBC& other) = default;
-CZEBCMX_FILL_ADVANCED_SlipBC::~CZEBCMX_FILL_ADVANCED_SlipBC() = default;
-CZEBCMX_FILL_ADVANCED_SlipBC& CZEBCMX_FILL_ADVANCED_SlipBC::operator=(const CZEBCMX_FILL_ADVANCED_SlipBC& other) =
-    default;
+ZEB_DEFAULTED(CZEBCMX_FILL_ADVANCED_SlipBC)
 
 int CZEBCMX_FILL_ADVANCED_SlipBC::iSlipBC() const { return m_iSlipBC; }
 int CZEBCMX_FILL_ADVANCED_SlipBC::iSlipBCDebug() const { return m_iSlipBCDebug; }
@@ -21,8 +17,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_SlipBC>() {
   using T = CZEBCMX_FILL_ADVANCED_SlipBC;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iSlipBC, &T::iSlipBC>(), .key = "FlagSlipBC",
-       .doc = "Switch: the melt slips at the wall."},
+      {.field = field<&T::m_iSlipBC, &T::iSlipBC>(), .key = "FlagSlipBC", .doc = "Switch: the melt slips at the wall."},
       {.field = field<&T::m_iSlipBCDebug, &T::iSlipBCDebug>(), .key = "FlagSlipBCDebug",
        .doc = "Switch: debugging of the slip."},
       {.field = field<&T::m_dFrictionCoeff, &T::FrictionCoeff>(), .key = "ValueSlipCoeff",
@@ -31,8 +26,8 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_SlipBC>() {
        .doc = "Under-relaxation factor of the slip calculation."},
       {.field = field<&T::m_iSlipExcludeRunner, &T::SlipExcludeRunner>(), .key = "FlagSlipExcludeRunner",
        .doc = "Switch: runners are excluded from the slip."},
-      {.field = field<&T::m_dWallShearStressThreshold, &T::WallShearStressThreshold>(),
-       .key = "ValueSlipFrictionForce", .doc = "Threshold of the wall shear stress."},
+      {.field = field<&T::m_dWallShearStressThreshold, &T::WallShearStressThreshold>(), .key = "ValueSlipFrictionForce",
+       .doc = "Threshold of the wall shear stress."},
       {.field = field<&T::m_iSlipOnlyRunner, &T::SlipOnlyRunner>(), .key = "FlagSlipOnlyRunner",
        .doc = "Switch: only runners have the slip."},
   };

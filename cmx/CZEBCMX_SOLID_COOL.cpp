@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMX_SOLID_COOL::CZEBCMX_SOLID_COOL() = default;
-CZEBCMX_SOLID_COOL::CZEBCMX_SOLID_COOL(const CZEBCMX_SOLID_COOL& other) = default;
-CZEBCMX_SOLID_COOL::~CZEBCMX_SOLID_COOL() = default;
-CZEBCMX_SOLID_COOL& CZEBCMX_SOLID_COOL::operator=(const CZEBCMX_SOLID_COOL& other) = default;
+ZEB_DEFAULTED(CZEBCMX_SOLID_COOL)
 
 int CZEBCMX_SOLID_COOL::iTransientCoolType() const { return m_iTransientCoolType; }
 
@@ -15,7 +12,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_SOLID_COOL>() {
   // clang-format off
   static constexpr Row kRows[] = {
       {.field = field<&T::m_iTransientCoolType, &T::iTransientCoolType>(), .key = "IDSolver",
-       .doc = "Type of the transient cooling solver. Meaning defined by the solver."},
+       .doc = "Type of the transient cooling solver.", .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {taggedSection<"SOLID_COOL", kRows>()};

@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMX_SOLID_PACK::CZEBCMX_SOLID_PACK() = default;
-CZEBCMX_SOLID_PACK::CZEBCMX_SOLID_PACK(const CZEBCMX_SOLID_PACK& other) = default;
-CZEBCMX_SOLID_PACK::~CZEBCMX_SOLID_PACK() = default;
-CZEBCMX_SOLID_PACK& CZEBCMX_SOLID_PACK::operator=(const CZEBCMX_SOLID_PACK& other) = default;
+ZEB_DEFAULTED(CZEBCMX_SOLID_PACK)
 
 int CZEBCMX_SOLID_PACK::iExtendPackCalculation() const { return m_iExtendPackCalculation; }
 int CZEBCMX_SOLID_PACK::iExtendPackType() const { return m_iExtendPackType; }
@@ -20,11 +17,11 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_SOLID_PACK>() {
       {.field = field<&T::m_iExtendPackCalculation, &T::iExtendPackCalculation>(), .key = "FlagexPackingCalculation",
        .doc = "Switch: the packing calculation is extended."},
       {.field = field<&T::m_iExtendPackType, &T::iExtendPackType>(), .key = "FlagexPackingType",
-       .doc = "Type of the extended packing calculation. Meaning defined by the solver."},
+       .doc = "Type of the extended packing calculation.", .opaque = true},
       {.field = field<&T::m_dExtendPackCrystal, &T::dExtendPackCrystal>(), .key = "ValueexPackingCrystal",
-       .doc = "Value of the extended packing for crystalline materials. Meaning defined by the solver."},
+       .doc = "Value of the extended packing for crystalline materials.", .opaque = true},
       {.field = field<&T::m_dExtendPackNoCrystal, &T::dExtendPackNoCrystal>(), .key = "ValueexPackingNoCrystal",
-       .doc = "Value of the extended packing for non-crystalline materials. Meaning defined by the solver."},
+       .doc = "Value of the extended packing for non-crystalline materials.", .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {taggedSection<"SOLID_PACK", kRows>()};

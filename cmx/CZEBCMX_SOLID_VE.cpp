@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMX_SOLID_VE::CZEBCMX_SOLID_VE() = default;
-CZEBCMX_SOLID_VE::CZEBCMX_SOLID_VE(const CZEBCMX_SOLID_VE& other) = default;
-CZEBCMX_SOLID_VE::~CZEBCMX_SOLID_VE() = default;
-CZEBCMX_SOLID_VE& CZEBCMX_SOLID_VE::operator=(const CZEBCMX_SOLID_VE& other) = default;
+ZEB_DEFAULTED(CZEBCMX_SOLID_VE)
 
 int CZEBCMX_SOLID_VE::iEstimateResidualStress() const { return m_iEstimateResidualStress; }
 
@@ -19,8 +16,8 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_SOLID_VE>() {
   using T = CZEBCMX_SOLID_VE;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iEstimateResidualStress, &T::iEstimateResidualStress>(),
-       .key = "FlagEstimateFlowPackStage", .doc = "Switch: the residual stress of filling and packing is calculated."},
+      {.field = field<&T::m_iEstimateResidualStress, &T::iEstimateResidualStress>(), .key = "FlagEstimateFlowPackStage",
+       .doc = "Switch: the residual stress of filling and packing is calculated."},
   };
   // clang-format on
   static constexpr Section kSections[] = {taggedSection<"SOLID_VE", kRows>()};

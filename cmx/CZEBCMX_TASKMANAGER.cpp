@@ -2,10 +2,7 @@
 
 #include "engine/TableBuilder.hpp"
 
-CZEBCMX_TASKMANAGER::CZEBCMX_TASKMANAGER() = default;
-CZEBCMX_TASKMANAGER::CZEBCMX_TASKMANAGER(const CZEBCMX_TASKMANAGER& other) = default;
-CZEBCMX_TASKMANAGER::~CZEBCMX_TASKMANAGER() = default;
-CZEBCMX_TASKMANAGER& CZEBCMX_TASKMANAGER::operator=(const CZEBCMX_TASKMANAGER& other) = default;
+ZEB_DEFAULTED(CZEBCMX_TASKMANAGER)
 
 int CZEBCMX_TASKMANAGER::iFlagAccelerationType() const { return m_iFlagAccelerationType; }
 
@@ -15,7 +12,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_TASKMANAGER>() {
   // clang-format off
   static constexpr Row kRows[] = {
       {.field = field<&T::m_iFlagAccelerationType, &T::iFlagAccelerationType>(), .key = "flagAccelerationType",
-       .doc = "Type of the acceleration. Meaning defined by the solver."},
+       .doc = "Type of the acceleration.", .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {taggedSection<"TASKMANAGER", kRows>()};

@@ -32,12 +32,17 @@ std::string dumpValue(const Row& row, const void* block) {
   return visit(row.field, const_cast<void*>(block), ValueDump{row.dump});
 }
 
+std::string dumpLabel(const Row& row) {
+  if (!row.label.empty()) return std::string(row.label);
+  return std::string(row.field.member) + std::string(static_cast<std::size_t>(row.tabs), '\t') + "= ";
+}
+
 std::string dumpText(const BlockTable& table, const void* block) {
   if (table.heading.empty()) return {};
   std::string text(table.heading);
   text += '\n';
   for (const Row* row : table.dumpOrder) {
-    text += row->label;
+    text += dumpLabel(*row);
     text += dumpValue(*row, block);
     text += '\n';
   }

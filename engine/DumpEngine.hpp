@@ -12,6 +12,9 @@ namespace zeb {
 /// heading.
 std::string dumpText(const BlockTable& table, const void* block);
 
+/// What stands before the value of a dumped member.
+std::string dumpLabel(const Row& row);
+
 /// A member's value as the dump writes it: six significant digits for doubles, an empty text for a null one, the
 /// address for an array.
 std::string dumpValue(const Row& row, const void* block);

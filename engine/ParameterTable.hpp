@@ -141,6 +141,8 @@ enum class Count : std::uint8_t {
 /// Of a row that is one element of an array: an element that no array has.
 constexpr std::uint16_t kNoElement = std::numeric_limits<std::uint16_t>::max();
 
+constexpr std::int8_t kNoLabel = -1;
+
 /// One member of a block, or one further key of a member.
 struct Row {
   Field field;
@@ -156,12 +158,15 @@ struct Row {
   WhenStored whenStored = nullptr;
   std::span<const std::string_view> fills = {};  // members<...>: what `list.read` or `whenStored` sets besides
   Echo echo = {};
-  std::string_view label = {};  // in the dump; empty: never dumped
+  std::int8_t tabs = kNoLabel;  // of the dump's label, when that is the member's name, so many tabs and "= "
+  std::string_view label = {};  // any other label; with neither the member is never dumped
   DumpFormat dump = DumpFormat::kByType;
   Position at[2] = {};  // in a positional section; the later one wins
   std::string_view unit = {};
-  std::string_view doc = {};
+  std::string_view doc = {};  // what the member means, with its unit
+  bool opaque = false;        // what it means, or means beyond `doc`, is the solver's to say
 
+  constexpr bool isDumped() const { return tabs != kNoLabel || !label.empty(); }
   constexpr bool isElement() const { return element != 0; }
   constexpr bool opensList() const { return !list.isNone() || whenStored != nullptr; }
   /// Whether reading the key comes to nothing more than parsing a number into the member.

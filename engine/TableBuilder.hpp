@@ -7,6 +7,14 @@
 #include "engine/BlockAccess.h"
 #include "engine/FixedText.hpp"
 #include "engine/ParameterTable.hpp"
+#include "engine/RowCheck.hpp"
+
+/// The four functions of a block that hosts link and that have nothing to say.
+#define ZEB_DEFAULTED(Block)                  \
+  Block::Block() = default;                   \
+  Block::Block(const Block& other) = default; \
+  Block::~Block() = default;                  \
+  Block& Block::operator=(const Block& other) = default;
 
 namespace zeb {
 
@@ -163,7 +171,7 @@ struct Dump {
   static constexpr std::size_t countLabels() {
     std::size_t count = 0;
     for (const Section& section : Sections) {
-      for (const Row& row : section.rows) count += row.label.empty() ? 0u : 1u;
+      for (const Row& row : section.rows) count += row.isDumped() ? 1u : 0u;
     }
     return count;
   }
@@ -172,7 +180,7 @@ struct Dump {
     std::size_t count = 0;
     for (const Section& section : Sections) {
       for (const Row& row : section.rows) {
-        if (!row.label.empty()) rows[count++] = &row;
+        if (row.isDumped()) rows[count++] = &row;
       }
     }
     if constexpr (MemberOrder.size() > 0) {
@@ -223,6 +231,7 @@ constexpr std::string_view className() {
 
 template <FixedText Name, FixedText CloseName, char Open, char Close, const auto& Rows, const auto& KeyOrder>
 constexpr Section keyed() {
+  static_assert(areRowsRight<Rows>());
   using Read = Reading<Rows, KeyOrder, Tags<CloseName, Open, Close>>;
   Section section;
   section.name = Tags<Name, Open, Close>::kOpen.substr(1, Name.view().size());
@@ -254,6 +263,7 @@ constexpr Section taggedSection() {
 /// A section "[Name]" of a fixed number of lines whose fields are known by their position.
 template <FixedText Name, const auto& Rows, const auto& Layout>
 constexpr Section positionalSection() {
+  static_assert(detail::areRowsRight<Rows>());
   Section section;
   section.name = detail::Tags<Name, '[', ']'>::kOpen.substr(1, Name.view().size());
   section.open = detail::Tags<Name, '[', ']'>::kOpen;
@@ -267,6 +277,7 @@ constexpr Section positionalSection() {
 /// Members that no section of this kind sets.
 template <const auto& Rows>
 constexpr Section unreadMembers() {
+  static_assert(detail::areRowsRight<Rows>());
   Section section;
   section.rows = Rows;
   return section;
@@ -277,6 +288,9 @@ constexpr Section unreadMembers() {
 template <class Block, const auto& Sections, const auto& MemberOrder = kDeclarationOrder,
           const auto& SectionOrder = kDeclarationOrder>
 constexpr BlockTable blockTable(std::string_view heading) {
+  if (heading.empty() != detail::Dump<Sections, MemberOrder>::kRows.empty()) {
+    throw "a block is dumped as a whole: it has a heading and labels (.tabs or .label), or neither";
+  }
   return {detail::className<Block>(),
           heading,
           Sections,

@@ -12,7 +12,7 @@ std::vector<BlockSettings> settingsOf(const std::vector<BlockView>& blocks, cons
     for (const Section& section : view.table->sections) {
       for (const Row& row : section.rows) {
         const bool isElement = row.isElement();
-        if (isElement && row.label.empty()) continue;  // the array itself has its own row
+        if (isElement && !row.isDumped()) continue;  // the array itself has its own row
         Setting setting{&row, &section, std::string(row.field.member), valueOf(row, view.block), valueOf(row, defaults),
                         {}};
         if (origins != nullptr) setting.origin = origins->of(row.field.locate(view.block));

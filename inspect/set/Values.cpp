@@ -37,6 +37,7 @@ std::string exact(int value) { return std::to_string(value); }
 std::string valueOf(const Row& row, void* block) { return visit(row.field, block, ValueText()); }
 
 std::string describe(const Row& row) {
+  if (row.opaque) return std::string(row.doc) + (row.doc.empty() ? "" : " ") + "Meaning defined by the solver.";
   if (!row.rule.isBounded()) return std::string(row.doc);
   const double limit = row.rule.takenAbove;
   const auto fileUnit = row.unit.find("file: ");

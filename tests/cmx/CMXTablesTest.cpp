@@ -6,6 +6,7 @@
 
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "engine/ParameterTable.hpp"
+#include "inspect/set/Values.hpp"
 #include "tests/cmx/Expectations.hpp"
 
 namespace {
@@ -139,7 +140,7 @@ TEST_F(CMXTables, AnIntKeyTakesTheIntegerPartAndADoubleKeyTheNumber) {
 TEST_F(CMXTables, EveryMemberIsDocumented) {
   for (const zeb::BlockTable* table : CZEBCMXInternalTool::tables()) {
     for (const zeb::Row& row : table->sections.front().rows) {
-      EXPECT_TRUE(row.doc.ends_with(".")) << row.field.member;
+      EXPECT_TRUE(zeb::describe(row).ends_with(".")) << row.field.member;
     }
   }
 }

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "engine/ParameterTable.hpp"
+#include "inspect/set/Values.hpp"
 #include "stdcmp/StdParameters.hpp"
 #include "tests/cmx/Expectations.hpp"
 #include "tests/stdcmp/PublicValues.hpp"
@@ -45,7 +46,7 @@ TEST_F(StdTables, EveryRowBelongsToAGetter) {
   for (const zeb::BlockTable* table : zeb::StdParameters::tables()) {
     for (const zeb::Row& row : table->sections.front().rows) {
       EXPECT_TRUE(m_defaults.contains(std::string(row.field.getter))) << row.field.getter;
-      EXPECT_TRUE(row.doc.ends_with(".")) << row.field.getter;
+      EXPECT_TRUE(zeb::describe(row).ends_with(".")) << row.field.getter;
       ++count;
     }
   }

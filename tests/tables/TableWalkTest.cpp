@@ -14,6 +14,7 @@
 #include "frame/CZEBKNCMPCompParm.h"
 #include "inspect/set/Inspection.hpp"
 #include "inspect/set/OutputCapture.hpp"
+#include "inspect/set/Values.hpp"
 #include "tests/support/Tsv.hpp"
 
 namespace {
@@ -157,8 +158,9 @@ TEST_F(TableWalk, EveryRowIsAMemberOfTheFormatAndSaysWhatItMeans) {
         const std::string name = std::string(view.table->className) + "::" + std::string(row.field.member);
         const bool isList = row.field.getter.empty();  // lists go by their own operations
         EXPECT_TRUE(known.contains(name) || isList) << name;
-        EXPECT_FALSE(row.doc.empty()) << name << " says nothing about itself";
-        EXPECT_TRUE(row.doc.empty() || row.doc.ends_with('.')) << name << ": " << row.doc;
+        EXPECT_FALSE(zeb::describe(row).empty()) << name << " says nothing about itself";
+        EXPECT_TRUE(zeb::describe(row).empty() || zeb::describe(row).ends_with('.'))
+            << name << ": " << zeb::describe(row);
       }
     }
   }
