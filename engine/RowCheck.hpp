@@ -118,11 +118,9 @@ consteval bool areRowsRight() {
     return row;
   }();
   if constexpr (kWrong < kCount) {
-    constexpr std::string_view kMember = Rows[kWrong].field.member;
     return []<std::size_t... At>(std::index_sequence<At...>) {
-      return sizeof(RowOf<problemOf(Rows[kWrong]), kMember[At]...>) > 0;
-    }
-    (std::make_index_sequence<kMember.size()>());
+      return sizeof(RowOf<problemOf(Rows[kWrong]), Rows[kWrong].field.member[At]...>) > 0;
+    }(std::make_index_sequence<Rows[kWrong].field.member.size()>());
   }
   return true;
 }
