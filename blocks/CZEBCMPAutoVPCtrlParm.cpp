@@ -18,23 +18,20 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPAutoVPCtrlParm>() {
   using T = CZEBCMPAutoVPCtrlParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsAutoVPCtrl, &T::iIsAutoVPCtrl>(), .key = "AutoVPMode", .gateBelow = 1, .tabs = 5,
+      {ZEB_FIELD(iIsAutoVPCtrl), .key = "AutoVPMode", .gateBelow = 1, .tabs = 5,
        .doc = "Mode of the automatic control; below 1 the section's other keys are ignored."},
-      {.field = field<&T::m_iAutoVPCtrlDebug, &T::iAutoVPCtrlDebug>(), .key = "Debug", .tabs = 5,
-       .doc = "Debug output of the automatic control.", .opaque = true},
-      {.field = field<&T::m_iAutoVPCtrlFullShotMode, &T::iAutoVPCtrlFullShotMode>(), .key = "FullShotMode", .tabs = 3,
-       .doc = "Full-shot mode.", .opaque = true},
-      {.field = field<&T::m_iAutoVPCtrlBarrelEffect, &T::iAutoVPCtrlBarrelEffect>(), .key = "ConsiderBarrelEffect",
-       .tabs = 3, .doc = "Consideration of the effect of the barrel.", .opaque = true},
-      {.field = field<&T::m_dAutoVPCtrlExtraInjWeightRatio, &T::dAutoVPCtrlExtraInjWeightRatio>(),
-       .key = "ExtraInjWeightRatio", .tabs = 1, .doc = "Ratio of the extra injected weight.", .opaque = true},
-      {.field = field<&T::m_dAutoVPCtrlHRAbsorbRatioCtrl, &T::dAutoVPCtrlHRAbsorbRatioCtrl>(),
-       .key = "HRAbsorbRatioControl", .tabs = 2, .doc = "Control of the hot runner's absorption ratio.",
-       .opaque = true},
-      {.field = field<&T::m_dAutoVPCtrlCavityPres, &T::dAutoVPCtrlCavityPres>(), .key = "EstCavityPres", .tabs = 3,
+      {ZEB_FIELD(iAutoVPCtrlDebug), .key = "Debug", .tabs = 5, .known = "Debug output of the automatic control."},
+      {ZEB_FIELD(iAutoVPCtrlFullShotMode), .key = "FullShotMode", .tabs = 3, .known = "Full-shot mode."},
+      {ZEB_FIELD(iAutoVPCtrlBarrelEffect), .key = "ConsiderBarrelEffect", .tabs = 3,
+       .known = "Consideration of the effect of the barrel."},
+      {ZEB_FIELD(dAutoVPCtrlExtraInjWeightRatio), .key = "ExtraInjWeightRatio", .tabs = 1,
+       .known = "Ratio of the extra injected weight."},
+      {ZEB_FIELD(dAutoVPCtrlHRAbsorbRatioCtrl), .key = "HRAbsorbRatioControl", .tabs = 2,
+       .known = "Control of the hot runner's absorption ratio."},
+      {ZEB_FIELD(dAutoVPCtrlCavityPres), .key = "EstCavityPres", .tabs = 3,
        .doc = "Estimated pressure in the cavity, as written in the file."},
-      {.field = field<&T::m_dAutoVPCtrlCavityTemp, &T::dAutoVPCtrlCavityTemp>(), .key = "EstCavityTemp", .tabs = 3,
-       .doc = "Estimated temperature in the cavity.", .opaque = true},
+      {ZEB_FIELD(dAutoVPCtrlCavityTemp), .key = "EstCavityTemp", .tabs = 3,
+       .known = "Estimated temperature in the cavity."},
   };
   // clang-format on
   static constexpr Order<8> kReadingOrder{

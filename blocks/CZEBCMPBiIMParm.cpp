@@ -12,10 +12,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPBiIMParm>() {
   using T = CZEBCMPBiIMParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iBiIMABA, &T::iBiIMABA>(), .key = "IsABA", .tabs = 5, .doc = "Bi-injection ABA.",
-       .opaque = true},
-      {.field = field<&T::m_iCalculateVOFtoPack, &T::iCalculateVOFtoPack>(), .key = "CalculateVOFtoPack", .tabs = 2,
-       .doc = "Calculation of the volume fraction up to packing.", .opaque = true},
+      {ZEB_FIELD(iBiIMABA), .key = "IsABA", .tabs = 5, .known = "Bi-injection ABA."},
+      {ZEB_FIELD(iCalculateVOFtoPack), .key = "CalculateVOFtoPack", .tabs = 2,
+       .known = "Calculation of the volume fraction up to packing."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"BiIM", kRows>()};

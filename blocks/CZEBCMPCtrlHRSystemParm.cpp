@@ -14,13 +14,12 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPCtrlHRSystemParm>() {
   using T = CZEBCMPCtrlHRSystemParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iHRShearRateCtrl, &T::iHRShearRateCtrl>(), .key = "HRShearRateCtrl", .tabs = 2,
-       .doc = "Shear-rate control of the HR schemes.", .opaque = true},
-      {.field = field<&T::m_iHRDtCtrlMethod, &T::iHRDtCtrlMethod>(), .key = "HRDtCtrlMethod", .tabs = 2,
-       .doc = "Method of the HR time-step control.", .opaque = true},
-      {.field = field<&T::m_dHRDtCtrlFactor, &T::dHRDtCtrlFactor>(), .key = "HRDtCtrlFactor1", .tabs = 2,
+      {ZEB_FIELD(iHRShearRateCtrl), .key = "HRShearRateCtrl", .tabs = 2,
+       .known = "Shear-rate control of the HR schemes."},
+      {ZEB_FIELD(iHRDtCtrlMethod), .key = "HRDtCtrlMethod", .tabs = 2, .known = "Method of the HR time-step control."},
+      {ZEB_FIELD(dHRDtCtrlFactor), .key = "HRDtCtrlFactor1", .tabs = 2,
        .doc = "First factor of the HR time-step control."},
-      {.field = field<&T::m_dHRDtCtrlFactor_2, &T::dHRDtCtrlFactor_2>(), .key = "HRDtCtrlFactor2", .tabs = 1,
+      {ZEB_FIELD(dHRDtCtrlFactor_2), .key = "HRDtCtrlFactor2", .tabs = 1,
        .doc = "Second factor of the HR time-step control."},
   };
   // clang-format on

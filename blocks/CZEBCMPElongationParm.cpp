@@ -17,20 +17,19 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPElongationParm>() {
   using T = CZEBCMPElongationParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsViscoFacByElongation, &T::iIsViscoFacByElongation>(), .key = "IsViscoFacByElongation",
-       .label = "m_iIsViscoFacByElongation = ", .doc = "Switch: viscosity factor by elongation."},
-      {.field = field<&T::m_iDisplayElongResult, &T::iDisplayElongResult>(), .key = "DisplayElongationResult",
-       .label = "m_iDisplayElongResult = ", .doc = "Switch: display of the elongation result."},
-      {.field = field<&T::m_iElongModel, &T::iElongModel>(), .key = "ElongationModel", .label = "m_iElongModel = ",
-       .doc = "Elongation model.", .opaque = true},
+      {ZEB_FIELD(iIsViscoFacByElongation), .key = "IsViscoFacByElongation", .label = "m_iIsViscoFacByElongation = ",
+       .doc = "Switch: viscosity factor by elongation."},
+      {ZEB_FIELD(iDisplayElongResult), .key = "DisplayElongationResult", .label = "m_iDisplayElongResult = ",
+       .doc = "Switch: display of the elongation result."},
+      {ZEB_FIELD(iElongModel), .key = "ElongationModel", .label = "m_iElongModel = ", .known = "Elongation model."},
       {.field = field<&T::m_dElongModel_A, &T::ElongModel_A>(), .key = "Parm_A", .label = "A = ",
        .doc = "Coefficient A of the elongation model."},
       {.field = field<&T::m_dElongModel_B, &T::ElongModel_B>(), .key = "Parm_B", .label = "B = ",
        .doc = "Coefficient B of the elongation model."},
       {.field = field<&T::m_dElongModel_E_cri, &T::ElongModel_E_cri>(), .key = "Parm_E_cri", .label = "E_cri = ",
        .doc = "Coefficient E_cri of the elongation model."},
-      {.field = field<&T::m_iCalcShearRateMethod, &T::iCalcShearRateMethod>(), .key = "CalcShearRateMethod",
-       .label = "m_iCalcShearRateMethod = ", .doc = "Method of calculating the shear rate.", .opaque = true},
+      {ZEB_FIELD(iCalcShearRateMethod), .key = "CalcShearRateMethod", .label = "m_iCalcShearRateMethod = ",
+       .known = "Method of calculating the shear rate."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"Elongation", kRows>()};

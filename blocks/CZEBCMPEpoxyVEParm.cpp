@@ -13,11 +13,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPEpoxyVEParm>() {
   using T = CZEBCMPEpoxyVEParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsRIMVE, &T::iIsRIMVE>(), .key = "FlagEpoxy_VE", .tabs = 2,
-       .doc = "Switch: epoxy viscoelasticity."},
-      {.field = field<&T::m_iRIMVEModel, &T::iRIMVEModel>(), .key = "VEModel", .tabs = 1,
-       .doc = "Viscoelastic model of the epoxy.", .opaque = true},
-      {.field = field<&T::m_dEpoxy_VE_G, &T::dEpoxy_VE_G>(), .key = "Model_G", .lookup = Lookup::kInt, .tabs = 1,
+      {ZEB_FIELD(iIsRIMVE), .key = "FlagEpoxy_VE", .tabs = 2, .doc = "Switch: epoxy viscoelasticity."},
+      {ZEB_FIELD(iRIMVEModel), .key = "VEModel", .tabs = 1, .known = "Viscoelastic model of the epoxy."},
+      {ZEB_FIELD(dEpoxy_VE_G), .key = "Model_G", .lookup = Lookup::kInt, .tabs = 1,
        .doc = "Parameter G of the viscoelastic model; the file gives an integer."},
   };
   // clang-format on

@@ -11,7 +11,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPFEMParm>() {
   using T = CZEBCMPFEMParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsFEM, &T::iIsFEM>(), .key = "IsFEM", .tabs = 4, .doc = "Switch: finite-element variant."},
+      {ZEB_FIELD(iIsFEM), .key = "IsFEM", .tabs = 4, .doc = "Switch: finite-element variant."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"FEM", kRows>()};

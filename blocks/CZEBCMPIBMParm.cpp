@@ -11,8 +11,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPIBMParm>() {
   using T = CZEBCMPIBMParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsIBM, &T::iIsIBM>(), .key = "IsIBM", .tabs = 2,
-       .doc = "Switch: immersed-boundary variant."},
+      {ZEB_FIELD(iIsIBM), .key = "IsIBM", .tabs = 2, .doc = "Switch: immersed-boundary variant."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"IBM", kRows>()};

@@ -13,12 +13,10 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPInletVelocitySettingParm>() {
   using T = CZEBCMPInletVelocitySettingParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iCalcInletVelo, &T::iCalcInletVelo>(), .key = "CalcInletVelo", .tabs = 2,
-       .doc = "Calculation of the inlet velocity.", .opaque = true},
-      {.field = field<&T::m_iMaxIterationNo, &T::iMaxIterationNo>(), .key = "MaxIterationNo", .tabs = 2,
+      {ZEB_FIELD(iCalcInletVelo), .key = "CalcInletVelo", .tabs = 2, .known = "Calculation of the inlet velocity."},
+      {ZEB_FIELD(iMaxIterationNo), .key = "MaxIterationNo", .tabs = 2,
        .doc = "Largest number of iterations of the inlet velocity."},
-      {.field = field<&T::m_dCriterion, &T::dCriterion>(), .key = "Criterion", .tabs = 3,
-       .doc = "Convergence criterion of the iteration."},
+      {ZEB_FIELD(dCriterion), .key = "Criterion", .tabs = 3, .doc = "Convergence criterion of the iteration."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"InletVelocitySetting", kRows>()};

@@ -13,11 +13,10 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPMAFVMParm>() {
   using T = CZEBCMPMAFVMParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsMAFVM, &T::iIsMAFVM>(), .key = "IsMAFVM", .tabs = 4,
-       .doc = "Switch: multi-algorithm finite-volume variant."},
-      {.field = field<&T::m_iIsMAFVM_Flow, &T::iIsMAFVM_Flow>(), .key = "IsFlow", .tabs = 2,
+      {ZEB_FIELD(iIsMAFVM), .key = "IsMAFVM", .tabs = 4, .doc = "Switch: multi-algorithm finite-volume variant."},
+      {ZEB_FIELD(iIsMAFVM_Flow), .key = "IsFlow", .tabs = 2,
        .doc = "Switch: multi-algorithm finite-volume variant of the flow."},
-      {.field = field<&T::m_iIsMAFVM_Thermal, &T::iIsMAFVM_Thermal>(), .key = "IsThermal", .tabs = 2,
+      {ZEB_FIELD(iIsMAFVM_Thermal), .key = "IsThermal", .tabs = 2,
        .doc = "Switch: multi-algorithm finite-volume variant of the thermal part."},
   };
   // clang-format on

@@ -16,18 +16,14 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPMicroMoldingParm>() {
   using T = CZEBCMPMicroMoldingParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iFlagMicroMolding, &T::iFlagMicroMolding>(), .key = "FlagMicroMolding", .tabs = 1,
-       .doc = "Switch: micro-molding."},
-      {.field = field<&T::m_dRunnerHTC, &T::dRunnerHTC>(), .key = "RunnerHTC", .tabs = 3,
-       .doc = "Heat transfer coefficient in the runner."},
-      {.field = field<&T::m_dCavityHTC, &T::dCavityHTC>(), .key = "CavityHTC", .tabs = 3,
-       .doc = "Heat transfer coefficient in the cavity."},
-      {.field = field<&T::m_dRunnerCeLowerBound, &T::dRunnerCeLowerBound>(), .key = "RunnerTimeStepSize", .tabs = 1,
-       .doc = "Time step size of the runner: lower bound of its Ce.", .opaque = true},
-      {.field = field<&T::m_dCavityCeLowerBound, &T::dCavityCeLowerBound>(), .key = "CavityTimeStepSize", .tabs = 1,
-       .doc = "Time step size of the cavity: lower bound of its Ce.", .opaque = true},
-      {.field = field<&T::m_iIsCTGSTLRunner, &T::iIsCTGSTLRunner>(), .key = "IsCTGSTLRunner", .tabs = 2,
-       .opaque = true},
+      {ZEB_FIELD(iFlagMicroMolding), .key = "FlagMicroMolding", .tabs = 1, .doc = "Switch: micro-molding."},
+      {ZEB_FIELD(dRunnerHTC), .key = "RunnerHTC", .tabs = 3, .doc = "Heat transfer coefficient in the runner."},
+      {ZEB_FIELD(dCavityHTC), .key = "CavityHTC", .tabs = 3, .doc = "Heat transfer coefficient in the cavity."},
+      {ZEB_FIELD(dRunnerCeLowerBound), .key = "RunnerTimeStepSize", .tabs = 1,
+       .known = "Time step size of the runner: lower bound of its Ce."},
+      {ZEB_FIELD(dCavityCeLowerBound), .key = "CavityTimeStepSize", .tabs = 1,
+       .known = "Time step size of the cavity: lower bound of its Ce."},
+      {ZEB_FIELD(iIsCTGSTLRunner), .key = "IsCTGSTLRunner", .tabs = 2, .opaque = true},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"MicroMolding", kRows>()};

@@ -15,15 +15,15 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPMuCellParm>() {
   using T = CZEBCMPMuCellParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsViscoFacByFoaming, &T::iIsViscoFacByFoaming>(), .key = "IsViscoFacByFoaming", .tabs = 1,
+      {ZEB_FIELD(iIsViscoFacByFoaming), .key = "IsViscoFacByFoaming", .tabs = 1,
        .doc = "Switch: foaming changes the viscosity."},
-      {.field = field<&T::m_iViscoFoamMixingMethod, &T::iViscoFoamMixingMethod>(), .key = "ViscoFoamMixingMethod",
-       .tabs = 1, .doc = "Mixing method for the viscosity of the foam.", .opaque = true},
+      {ZEB_FIELD(iViscoFoamMixingMethod), .key = "ViscoFoamMixingMethod", .tabs = 1,
+       .known = "Mixing method for the viscosity of the foam."},
       {.field = field<&T::m_iIsOutputBubbleNucleationAndGrowthRate, &T::OutputBubbleNucleationAndGrowthRate>(),
        .key = "OutputBubbleNucleationAndGrowthRate", .tabs = 1,
        .doc = "Switch: output of the nucleation and growth rates of the bubbles."},
-      {.field = field<&T::m_iCpFoamMixingMethod, &T::iCpFoamMixingMethod>(), .key = "CpFoamMixingMethod", .tabs = 1,
-       .doc = "Mixing method for the specific heat of the foam.", .opaque = true},
+      {ZEB_FIELD(iCpFoamMixingMethod), .key = "CpFoamMixingMethod", .tabs = 1,
+       .known = "Mixing method for the specific heat of the foam."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"MuCell", kRows>()};

@@ -12,10 +12,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPOutletParm>() {
   using T = CZEBCMPOutletParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsOutlet, &T::iIsOutlet>(), .key = "IsOutlet", .tabs = 4,
-       .doc = "Switch: the cavity has air outlets."},
-      {.field = field<&T::m_dAirPressure, &T::dAirPressure>(), .key = "AirPressure", .rule = {.scale = 1e7}, .tabs = 4,
-       .unit = "dyn/cm^2 (file: MPa)", .doc = "Pressure of the air at the outlets."},
+      {ZEB_FIELD(iIsOutlet), .key = "IsOutlet", .tabs = 4, .doc = "Switch: the cavity has air outlets."},
+      {ZEB_FIELD(dAirPressure), .key = "AirPressure", .rule = {.scale = 1e7}, .tabs = 4, .unit = "dyn/cm^2 (file: MPa)",
+       .doc = "Pressure of the air at the outlets."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"Outlet", kRows>()};

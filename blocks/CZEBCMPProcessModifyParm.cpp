@@ -12,11 +12,10 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPProcessModifyParm>() {
   using T = CZEBCMPProcessModifyParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_dProcessFRChangeUpperBound, &T::dProcessFRChangeUpperBound>(),
-       .key = "FlowRateChangeUpperBound", .rule = {.replace = {below(1.0, 1.0)}}, .tabs = 1,
-       .doc = "Upper bound of the change of the flow rate; a value below 1.0 becomes 1.0."},
-      {.field = field<&T::m_dProcessFRChangeLowerBound, &T::dProcessFRChangeLowerBound>(),
-       .key = "FlowRateChangeLowerBound", .rule = {.replace = {above(0.999, 0.999), below(0.001, 0.001)}}, .tabs = 1,
+      {ZEB_FIELD(dProcessFRChangeUpperBound), .key = "FlowRateChangeUpperBound", .rule = {.replace = {below(1.0, 1.0)}},
+       .tabs = 1, .doc = "Upper bound of the change of the flow rate; a value below 1.0 becomes 1.0."},
+      {ZEB_FIELD(dProcessFRChangeLowerBound), .key = "FlowRateChangeLowerBound",
+       .rule = {.replace = {above(0.999, 0.999), below(0.001, 0.001)}}, .tabs = 1,
        .doc = "Lower bound of the change of the flow rate; kept between 0.001 and 0.999."},
   };
   // clang-format on

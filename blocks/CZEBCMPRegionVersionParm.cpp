@@ -11,8 +11,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRegionVersionParm>() {
   using T = CZEBCMPRegionVersionParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iRegionVersion, &T::iRegionVersion>(), .key = "RegionVersion", .tabs = 2,
-       .doc = "Region version.", .opaque = true},
+      {ZEB_FIELD(iRegionVersion), .key = "RegionVersion", .tabs = 2, .known = "Region version."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"RegionVersion", kRows>()};

@@ -17,17 +17,13 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPSAMGCtrlParm>() {
   // clang-format off
   static constexpr Row kRows[] = {
       {.field = field<&T::m_iDebugMode, &T::DebugMode>(), .key = "DebugMode", .tabs = 1,
-       .doc = "Debug mode of the SAMG linear solver.", .opaque = true},
-      {.field = field<&T::m_n_Default, &T::n_Default>(), .key = "n_Default", .tabs = 1,
-       .doc = "Control n_Default of the SAMG linear solver.", .opaque = true},
-      {.field = field<&T::m_n_nrd, &T::n_nrd>(), .key = "n_nrd", .tabs = 2,
-       .doc = "Control n_nrd of the SAMG linear solver.", .opaque = true},
-      {.field = field<&T::m_n_levelx, &T::n_levelx>(), .key = "n_levelx",
-       .doc = "Control n_levelx of the SAMG linear solver.", .opaque = true},
-      {.field = field<&T::m_n_nru, &T::n_nru>(), .key = "n_nru", .tabs = 2,
-       .doc = "Control n_nru of the SAMG linear solver.", .opaque = true},
-      {.field = field<&T::m_n_RES_SCRATCH, &T::n_RES_SCRATCH>(), .key = "n_RES_SCRATCH", .label = "m_n_RES_SCRATC = ",
-       .doc = "Control n_RES_SCRATCH of the SAMG linear solver.", .opaque = true},
+       .known = "Debug mode of the SAMG linear solver."},
+      {ZEB_FIELD(n_Default), .key = "n_Default", .tabs = 1, .known = "Control n_Default of the SAMG linear solver."},
+      {ZEB_FIELD(n_nrd), .key = "n_nrd", .tabs = 2, .known = "Control n_nrd of the SAMG linear solver."},
+      {ZEB_FIELD(n_levelx), .key = "n_levelx", .known = "Control n_levelx of the SAMG linear solver."},
+      {ZEB_FIELD(n_nru), .key = "n_nru", .tabs = 2, .known = "Control n_nru of the SAMG linear solver."},
+      {ZEB_FIELD(n_RES_SCRATCH), .key = "n_RES_SCRATCH", .label = "m_n_RES_SCRATC = ",
+       .known = "Control n_RES_SCRATCH of the SAMG linear solver."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"SAMGParaCtrl", kRows>()};

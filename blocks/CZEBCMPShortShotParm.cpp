@@ -12,10 +12,8 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPShortShotParm>() {
   using T = CZEBCMPShortShotParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_dTimeLimit, &T::dTimeLimit>(), .key = "TimeLimit", .tabs = 1, .doc = "Limit of the time.",
-       .opaque = true},
-      {.field = field<&T::m_dFRLimit, &T::dFRLimit>(), .key = "FRLimit", .tabs = 2, .doc = "Limit of the flow rate.",
-       .opaque = true},
+      {ZEB_FIELD(dTimeLimit), .key = "TimeLimit", .tabs = 1, .known = "Limit of the time."},
+      {ZEB_FIELD(dFRLimit), .key = "FRLimit", .tabs = 2, .known = "Limit of the flow rate."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"ShortShot", kRows>()};

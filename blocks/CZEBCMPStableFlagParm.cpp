@@ -18,16 +18,12 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPStableFlagParm>() {
   using T = CZEBCMPStableFlagParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_nSmooth_dP, &T::nSmooth_dP>(), .key = "nSmooth_dP", .tabs = 6,
-       .doc = "Number of smoothings of dP."},
-      {.field = field<&T::m_nPJMSmooth_dP, &T::nPJMSmooth_dP>(), .key = "nPJMSmooth_dP", .tabs = 5,
-       .doc = "Number of PJM smoothings of dP."},
-      {.field = field<&T::m_iGradType, &T::iGradType>(), .key = "iGradType", .tabs = 6, .doc = "Gradient type.",
-       .opaque = true},
-      {.field = field<&T::m_iRead_f2f, &T::iRead_f2f>(), .key = "Read_f2f", .tabs = 6, .doc = "Flag for reading f2f.",
-       .opaque = true},
-      {.field = field<&T::m_iIterNum_MeltFrontTemperature, &T::iIterNum_MeltFrontTemperature>(),
-       .key = "IterNum_MeltFrontTemperature", .tabs = 1, .doc = "Number of iterations of the melt-front temperature."},
+      {ZEB_FIELD(nSmooth_dP), .key = "nSmooth_dP", .tabs = 6, .doc = "Number of smoothings of dP."},
+      {ZEB_FIELD(nPJMSmooth_dP), .key = "nPJMSmooth_dP", .tabs = 5, .doc = "Number of PJM smoothings of dP."},
+      {ZEB_FIELD(iGradType), .key = "iGradType", .tabs = 6, .known = "Gradient type."},
+      {ZEB_FIELD(iRead_f2f), .key = "Read_f2f", .tabs = 6, .known = "Flag for reading f2f."},
+      {ZEB_FIELD(iIterNum_MeltFrontTemperature), .key = "IterNum_MeltFrontTemperature", .tabs = 1,
+       .doc = "Number of iterations of the melt-front temperature."},
   };
   static constexpr Order<5> kReadingOrder{
       "nSmooth_dP", "nPJMSmooth_dP", "Read_f2f", "IterNum_MeltFrontTemperature", "iGradType"};

@@ -22,19 +22,14 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPTimeStepSizeCtrlParm>() {
   using T = CZEBCMPTimeStepSizeCtrlParm;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iNewMethod, &T::iNewMethod>(), .key = "NewMethod", .tabs = 2,
-       .doc = "Method of the time-step control.", .opaque = true},
-      {.field = field<&T::m_dInitialDt, &T::dInitialDt>(), .key = "InitialDt", .tabs = 2,
-       .doc = "Initial time-step size."},
-      {.field = field<&T::m_iVof_Scheme, &T::iVof_Scheme>(), .key = "FrontMethod", .tabs = 2,
-       .doc = "Volume-fraction scheme of the front.", .opaque = true},
-      {.field = field<&T::m_iHRVof, &T::iHRVof>(), .key = "HRVof", .tabs = 3,
-       .doc = "High-resolution option of the volume fraction.", .opaque = true},
-      {.field = field<&T::m_dFixDt, &T::dFixDt>(), .key = "FixDt", .tabs = 3, .doc = "Fixed time-step size."},
-      {.field = field<&T::m_iMFType, &T::iMFType>(), .key = "MFType", .tabs = 3, .opaque = true},
-      {.field = field<&T::m_iRTMVof, &T::iRTMVof>(), .key = "RTMVof", .tabs = 3,
-       .doc = "Volume-fraction option of RTM.", .opaque = true},
-      {.field = field<&T::m_iRTMFrontNSubdt, &T::iRTMFrontNSubdt>(), .key = "RTMFrontNSubdt", .tabs = 1,
+      {ZEB_FIELD(iNewMethod), .key = "NewMethod", .tabs = 2, .known = "Method of the time-step control."},
+      {ZEB_FIELD(dInitialDt), .key = "InitialDt", .tabs = 2, .doc = "Initial time-step size."},
+      {ZEB_FIELD(iVof_Scheme), .key = "FrontMethod", .tabs = 2, .known = "Volume-fraction scheme of the front."},
+      {ZEB_FIELD(iHRVof), .key = "HRVof", .tabs = 3, .known = "High-resolution option of the volume fraction."},
+      {ZEB_FIELD(dFixDt), .key = "FixDt", .tabs = 3, .doc = "Fixed time-step size."},
+      {ZEB_FIELD(iMFType), .key = "MFType", .tabs = 3, .opaque = true},
+      {ZEB_FIELD(iRTMVof), .key = "RTMVof", .tabs = 3, .known = "Volume-fraction option of RTM."},
+      {ZEB_FIELD(iRTMFrontNSubdt), .key = "RTMFrontNSubdt", .tabs = 1,
        .doc = "Number of sub-steps in time of the RTM front."},
   };
   // clang-format on

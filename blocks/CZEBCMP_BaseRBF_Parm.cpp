@@ -18,8 +18,8 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMP_BaseRBF_Parm>() {
       rbfVersion(field<&T::m_iVersion, &T::Version>()),
       rbfSpan(field<&T::m_iSpan, &T::Span>()),
       {.field = field<&T::m_nShapeNormalize, &T::ShapeNormalize>(), .key = "Shape_Normalize", .tabs = 1,
-       .doc = "Shape normalization.", .opaque = true},
-      {.field = field<&T::m_iDebugMode, &T::DebugMode>(), .tabs = 2, .doc = "Debug mode.", .opaque = true},
+       .known = "Shape normalization."},
+      {.field = field<&T::m_iDebugMode, &T::DebugMode>(), .tabs = 2, .known = "Debug mode."},
   };
   // clang-format on
   static constexpr Section kSections[] = {keyedSection<"BaseRBF", kRows>()};

@@ -10,11 +10,11 @@ namespace zeb {
 // clang-format off
 constexpr Row rbfVersion(const Field& field) {
   return {.field = field, .key = "Version", .label = "m_iVersion\t\t\t= ",
-          .doc = "Version of the RBF interpolation.", .opaque = true};
+          .known = "Version of the RBF interpolation."};
 }
 
 constexpr Row rbfSpan(const Field& field) {
-  return {.field = field, .key = "Span", .label = "m_iSpan\t\t\t= ", .doc = "Span.", .opaque = true};
+  return {.field = field, .key = "Span", .label = "m_iSpan\t\t\t= ", .known = "Span."};
 }
 
 /// The members of an RBF block that searches its neighbours.
@@ -32,12 +32,12 @@ constexpr std::array<Row, 6> rbfSearchRows(const RbfSearchFields& of) {
   return {{
       rbfVersion(of.version),
       rbfSpan(of.span),
-      {.field = of.searchMethod, .key = "iSearch_method", .label = "m_iSearch_method\t= ", .doc = "Search method.",
-       .opaque = true},
+      {.field = of.searchMethod, .key = "iSearch_method", .label = "m_iSearch_method\t= ", 
+       .known = "Search method."},
       {.field = of.searchDistance, .key = "Search_distance", .label = "m_dSearch_distance\t= ",
        .doc = "Search distance."},
       {.field = of.searchNumber, .key = "Search_number", .label = "m_iSearch_number\t= ", .doc = "Search number."},
-      {.field = of.debugMode, .key = "Debug", .label = "m_iDebugMode\t\t= ", .doc = "Debug mode.", .opaque = true},
+      {.field = of.debugMode, .key = "Debug", .label = "m_iDebugMode\t\t= ", .known = "Debug mode."},
   }};
 }
 // clang-format on

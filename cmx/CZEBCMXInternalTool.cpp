@@ -64,7 +64,7 @@ template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMXInternalTool>() {
   using T = CZEBCMXInternalTool;
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_nCMXVersion, &T::nCMXVersion>(), .key = "Version", .doc = "Version of the file."},
+      {ZEB_FIELD(nCMXVersion), .key = "Version", .doc = "Version of the file."},
   };
   static constexpr Section kSections[] = {taggedSection<"SUMMARY", kRows>()};
   static constexpr BlockTable kTable = blockTable<T, kSections>("");

@@ -12,9 +12,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_Dyna_Forming>() {
   using T = CZEBCMX_Dyna_Forming;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iIsRunIBFSIforfibermat, &T::iIsRunIBFSIforfibermat>(), .key = "RunIBFSIforfibermat",
+      {ZEB_FIELD(iIsRunIBFSIforfibermat), .key = "RunIBFSIforfibermat",
        .doc = "Switch: the IBFSI calculation runs for fiber mats."},
-      {.field = field<&T::m_iRunfibermatCycle, &T::iRunfibermatCycle>(), .key = "RunfibermatCycle",
+      {ZEB_FIELD(iRunfibermatCycle), .key = "RunfibermatCycle",
        .doc = "Number of cycles of the fiber mat calculation."},
   };
   // clang-format on

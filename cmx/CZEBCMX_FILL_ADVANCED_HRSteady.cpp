@@ -18,18 +18,17 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_HRSteady>() {
   using T = CZEBCMX_FILL_ADVANCED_HRSteady;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_dHRFlowRate, &T::dHRFlowRate>(), .key = "ValueFlowRate", .doc = "Flow rate."},
-      {.field = field<&T::m_dHRConvergenceCriteria, &T::dHRConvergenceCriteria>(), .key = "ValueConvergenceCriteria",
-       .otherKey = "ValueFlowRateDiffRatio", .doc = "Convergence criterion: ratio of the flow rate difference."},
-      {.field = field<&T::m_iNHRGate, &T::iNHRGate>(), .key = "ValueNoHRGate", .count = Count::kYes,
+      {ZEB_FIELD(dHRFlowRate), .key = "ValueFlowRate", .doc = "Flow rate."},
+      {ZEB_FIELD(dHRConvergenceCriteria), .key = "ValueConvergenceCriteria", .otherKey = "ValueFlowRateDiffRatio",
+       .doc = "Convergence criterion: ratio of the flow rate difference."},
+      {ZEB_FIELD(iNHRGate), .key = "ValueNoHRGate", .count = Count::kYes,
        .list = {.array = field<&T::m_pHRGateBC>(), .hasLines = false},
        .doc = "Number of hot runner gates, 0 to 1,000,000."},
       {.field = field<&T::m_iHRGateType, &T::iHRGateType>(), .key = "ValueHRGateType",
        // A line without a value leaves its gate as it is; the next line is the next gate's all the same.
        .list = {.array = field<&T::m_pHRGateBC>(), .count = field<&T::m_iNHRGate>(), .makesRoom = false},
-       .doc = "Type of the gates' boundary condition.", .opaque = true},
-      {.field = field<&T::m_pHRGateBC, &T::pHRGateBC>(),
-       .doc = "Values of the gates' boundary condition, one line each behind ValueHRGateType."},
+       .known = "Type of the gates' boundary condition."},
+      {ZEB_FIELD(pHRGateBC), .doc = "Values of the gates' boundary condition, one line each behind ValueHRGateType."},
   };
   // clang-format on
   static constexpr Section kSections[] = {taggedSection<"FILL_ADVANCED_HRSteady", kRows>()};

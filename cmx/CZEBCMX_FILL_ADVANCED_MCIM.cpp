@@ -21,12 +21,11 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_MCIM>() {
   using T = CZEBCMX_FILL_ADVANCED_MCIM;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iEstimateBubble, &T::iEstimateBubble>(), .key = "FlagEstimateBubble",
-       .doc = "Switch: bubble growth is calculated."},
+      {ZEB_FIELD(iEstimateBubble), .key = "FlagEstimateBubble", .doc = "Switch: bubble growth is calculated."},
       {.field = field<&T::m_iVersion, &T::Version>(), .key = "Version", .doc = "Version of the block."},
-      {.field = field<&T::m_iGasType, &T::GasType>(), .key = "GasType", .doc = "Type of the gas.", .opaque = true},
+      {.field = field<&T::m_iGasType, &T::GasType>(), .key = "GasType", .known = "Type of the gas."},
       {.field = field<&T::m_iBubbleGrowthModel, &T::BubbleGrowthModel>(), .key = "BubbleGrowthModel",
-       .doc = "Model of the bubble growth.", .opaque = true},
+       .known = "Model of the bubble growth."},
       {.field = field<&T::m_dPolymerMolecularWeight, &T::PolymerMolecularWeight>(), .key = "PolymerMolecularWeight",
        .doc = "Molecular weight of the polymer."},
       {.field = field<&T::m_dGasDiffusionCoefficient, &T::GasDiffusionCoefficient>(), .key = "GasDiffusionCoefficient",
@@ -36,11 +35,11 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_MCIM>() {
       {.field = field<&T::m_dSurfaceTension, &T::SurfaceTension>(), .key = "SurfaceTension",
        .doc = "Surface tension of the melt."},
       {.field = field<&T::m_dCorrectionFactorf0, &T::CorrectionFactorf0>(), .key = "CorrectionFactorf0",
-       .doc = "Correction factor f0.", .opaque = true},
+       .known = "Correction factor f0."},
       {.field = field<&T::m_dCorrectionFactorF, &T::CorrectionFactorF>(), .key = "CorrectionFactorF",
-       .doc = "Correction factor F.", .opaque = true},
+       .known = "Correction factor F."},
       {.field = field<&T::m_dThresholdofBubbleFt, &T::ThresholdofBubbleFt>(), .key = "ThresholdofBubbleFt",
-       .doc = "Threshold Ft of the bubbles.", .opaque = true},
+       .known = "Threshold Ft of the bubbles."},
   };
   // clang-format on
   static constexpr Section kSections[] = {taggedSection<"FILL_ADVANCED_MCIM", kRows>()};

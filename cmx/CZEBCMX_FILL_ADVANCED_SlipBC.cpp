@@ -17,9 +17,8 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_SlipBC>() {
   using T = CZEBCMX_FILL_ADVANCED_SlipBC;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iSlipBC, &T::iSlipBC>(), .key = "FlagSlipBC", .doc = "Switch: the melt slips at the wall."},
-      {.field = field<&T::m_iSlipBCDebug, &T::iSlipBCDebug>(), .key = "FlagSlipBCDebug",
-       .doc = "Switch: debugging of the slip."},
+      {ZEB_FIELD(iSlipBC), .key = "FlagSlipBC", .doc = "Switch: the melt slips at the wall."},
+      {ZEB_FIELD(iSlipBCDebug), .key = "FlagSlipBCDebug", .doc = "Switch: debugging of the slip."},
       {.field = field<&T::m_dFrictionCoeff, &T::FrictionCoeff>(), .key = "ValueSlipCoeff",
        .doc = "Friction coefficient of the slip."},
       {.field = field<&T::m_dSlipUnderRelax, &T::SlipUnderRelax>(), .key = "ValueSlipUnderRelax",

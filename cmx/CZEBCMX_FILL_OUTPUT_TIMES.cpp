@@ -24,7 +24,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_OUTPUT_TIMES>() {
       {.field = field<&T::m_iNoOutTimeStep, &T::NoOutTimeStep>(), .key = "ValueNoFillOutputTime", .count = Count::kYes,
        .list = {.array = field<&T::m_pOutTimeStep>(), .entry = Entry::kNumbered},
        .doc = "Number of output moments, 0 to 1,000,000."},
-      {.field = field<&T::m_pOutTimeStep, &T::pOutTimeStep>(), .doc = "Output moments in the order of their lines."},
+      {ZEB_FIELD(pOutTimeStep), .doc = "Output moments in the order of their lines."},
   };
   // clang-format on
   static constexpr Section kSections[] = {taggedSection<"FILL_OUTPUT_TIMES", kRows>()};

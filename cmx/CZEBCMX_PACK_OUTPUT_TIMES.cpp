@@ -12,10 +12,10 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_PACK_OUTPUT_TIMES>() {
   using T = CZEBCMX_PACK_OUTPUT_TIMES;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iNoOutTimeStep, &T::iNoOutTimeStep>(), .key = "ValueNoPackOutputTime", .count = Count::kYes,
+      {ZEB_FIELD(iNoOutTimeStep), .key = "ValueNoPackOutputTime", .count = Count::kYes,
        .list = {.array = field<&T::m_pOutTimeStep>(), .entry = Entry::kNumbered},
        .doc = "Number of output moments, 0 to 1,000,000."},
-      {.field = field<&T::m_pOutTimeStep, &T::pOutTimeStep>(), .doc = "Output moments in the order of their lines."},
+      {ZEB_FIELD(pOutTimeStep), .doc = "Output moments in the order of their lines."},
   };
   // clang-format on
   static constexpr Section kSections[] = {taggedSection<"PACK_OUTPUT_TIMES", kRows>()};

@@ -11,8 +11,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_SOLID_COOL>() {
   using T = CZEBCMX_SOLID_COOL;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iTransientCoolType, &T::iTransientCoolType>(), .key = "IDSolver",
-       .doc = "Type of the transient cooling solver.", .opaque = true},
+      {ZEB_FIELD(iTransientCoolType), .key = "IDSolver", .known = "Type of the transient cooling solver."},
   };
   // clang-format on
   static constexpr Section kSections[] = {taggedSection<"SOLID_COOL", kRows>()};

@@ -14,14 +14,13 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_SOLID_PACK>() {
   using T = CZEBCMX_SOLID_PACK;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iExtendPackCalculation, &T::iExtendPackCalculation>(), .key = "FlagexPackingCalculation",
+      {ZEB_FIELD(iExtendPackCalculation), .key = "FlagexPackingCalculation",
        .doc = "Switch: the packing calculation is extended."},
-      {.field = field<&T::m_iExtendPackType, &T::iExtendPackType>(), .key = "FlagexPackingType",
-       .doc = "Type of the extended packing calculation.", .opaque = true},
-      {.field = field<&T::m_dExtendPackCrystal, &T::dExtendPackCrystal>(), .key = "ValueexPackingCrystal",
-       .doc = "Value of the extended packing for crystalline materials.", .opaque = true},
-      {.field = field<&T::m_dExtendPackNoCrystal, &T::dExtendPackNoCrystal>(), .key = "ValueexPackingNoCrystal",
-       .doc = "Value of the extended packing for non-crystalline materials.", .opaque = true},
+      {ZEB_FIELD(iExtendPackType), .key = "FlagexPackingType", .known = "Type of the extended packing calculation."},
+      {ZEB_FIELD(dExtendPackCrystal), .key = "ValueexPackingCrystal",
+       .known = "Value of the extended packing for crystalline materials."},
+      {ZEB_FIELD(dExtendPackNoCrystal), .key = "ValueexPackingNoCrystal",
+       .known = "Value of the extended packing for non-crystalline materials."},
   };
   // clang-format on
   static constexpr Section kSections[] = {taggedSection<"SOLID_PACK", kRows>()};

@@ -16,7 +16,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_SOLID_VE>() {
   using T = CZEBCMX_SOLID_VE;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iEstimateResidualStress, &T::iEstimateResidualStress>(), .key = "FlagEstimateFlowPackStage",
+      {ZEB_FIELD(iEstimateResidualStress), .key = "FlagEstimateFlowPackStage",
        .doc = "Switch: the residual stress of filling and packing is calculated."},
   };
   // clang-format on

@@ -11,8 +11,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_TASKMANAGER>() {
   using T = CZEBCMX_TASKMANAGER;
   // clang-format off
   static constexpr Row kRows[] = {
-      {.field = field<&T::m_iFlagAccelerationType, &T::iFlagAccelerationType>(), .key = "flagAccelerationType",
-       .doc = "Type of the acceleration.", .opaque = true},
+      {ZEB_FIELD(iFlagAccelerationType), .key = "flagAccelerationType", .known = "Type of the acceleration."},
   };
   // clang-format on
   static constexpr Section kSections[] = {taggedSection<"TASKMANAGER", kRows>()};

@@ -163,8 +163,9 @@ struct Row {
   DumpFormat dump = DumpFormat::kByType;
   Position at[2] = {};  // in a positional section; the later one wins
   std::string_view unit = {};
-  std::string_view doc = {};  // what the member means, with its unit
-  bool opaque = false;        // what it means, or means beyond `doc`, is the solver's to say
+  std::string_view doc = {};    // what the member means
+  std::string_view known = {};  // in place of `doc`: what is known of it where only the solver knows what it means
+  bool opaque = false;          // nothing is known of it
 
   constexpr bool isDumped() const { return tabs != kNoLabel || !label.empty(); }
   constexpr bool isElement() const { return element != 0; }

@@ -65,7 +65,7 @@ constexpr RowProblem problemOf(const Row& row) {
   if (const RowProblem problem = problemOfList(row); problem != RowProblem::kNone) return problem;
   if (row.rule.isBounded() && row.at[0].line == 0) return RowProblem::kLimitOutsideOfAHead;
   if (row.tabs != kNoLabel && !row.label.empty()) return RowProblem::kTwoLabels;
-  if (row.doc.empty() && !row.opaque) return RowProblem::kNoMeaning;
+  if (row.doc.empty() && row.known.empty() && !row.opaque) return RowProblem::kNoMeaning;
   if (!row.key.empty() && row.at[0].line > 0) return RowProblem::kKeyAndPlace;
   if (row.key.find('=') != row.key.npos || row.otherKey.find('=') != row.otherKey.npos) {
     return RowProblem::kKeyHoldsEquals;
@@ -103,7 +103,7 @@ struct RowOf {
   static_assert(!is(RowProblem::kLowBitsOfNoDouble), "DumpFormat::kLowBits is for doubles");
   static_assert(!is(RowProblem::kTwoLabels), ".tabs and .label exclude each other");
   static_assert(!is(RowProblem::kNoMeaning),
-                "say in .doc what the member means; .opaque = true where only the solver knows");
+                "say in .doc what the member means; .known what is known where only the solver knows");
   static_assert(!is(RowProblem::kKeyAndPlace), "a member is set by a key or by its place: take .key or .at away");
   static_assert(!is(RowProblem::kKeyHoldsEquals), "a key ends before the line's '='");
 };
@@ -120,7 +120,8 @@ consteval bool areRowsRight() {
   if constexpr (kWrong < kCount) {
     return []<std::size_t... At>(std::index_sequence<At...>) {
       return sizeof(RowOf<problemOf(Rows[kWrong]), Rows[kWrong].field.member[At]...>) > 0;
-    }(std::make_index_sequence<Rows[kWrong].field.member.size()>());
+    }
+    (std::make_index_sequence<Rows[kWrong].field.member.size()>());
   }
   return true;
 }

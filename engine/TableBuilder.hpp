@@ -16,6 +16,9 @@
   Block::~Block() = default;                  \
   Block& Block::operator=(const Block& other) = default;
 
+/// The field of a row whose getter is called as the member without its "m_", in a table where T is the block.
+#define ZEB_FIELD(getter) .field = zeb::field<&T::m_##getter, &T::getter>()
+
 namespace zeb {
 
 /// An order of keys or members that differs from the order of declaration.

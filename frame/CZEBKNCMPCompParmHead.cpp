@@ -1,110 +1,95 @@
 // The fixed-line head handed back line by line, for callers that still think in head lines.
-#include <tuple>
+#include <type_traits>
 
 #include "blocks/CZEBCMPIteratParm.h"
+#include "engine/ParameterTable.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
 
 namespace {
 
-using Iterat = CZEBCMPIteratParm;
+// The value of the member with this place in the head; where the place has none, `value` stays as it is.
+template <class Value>
+void take(CZEBCMPIteratParm* block, zeb::Position place, Value& value) {
+  for (const zeb::Slot& slot : zeb::tableOf<CZEBCMPIteratParm>().sections.front().positional.slots) {
+    const bool isIt = slot.at.line == place.line && slot.at.field == place.field;
+    if (isIt && slot.row != nullptr && slot.type == zeb::detail::fieldType<Value>())
+      value = slot.row->field.in<Value>(block);
+  }
+}
 
-// Calls the getters one after the other. Returns 1, or -1 without a block: then nothing is written.
-template <class... Values, class... Getters>
-int handOut(const Iterat* block, std::tuple<Values&...> values, Getters... getters) {
+// Hands out the fields of a line in their order. Returns 1, or -1 without a block: then nothing is written.
+template <class... Values>
+int handOut(CZEBCMPIteratParm* block, std::uint8_t line, Values&... values) {
   if (block == nullptr) return -1;
-  values = std::make_tuple((block->*getters)()...);
+  std::uint8_t field = 0;
+  (take(block, {line, ++field}, values), ...);
   return 1;
 }
 
 }  // namespace
 
 int CZEBKNCMPCompParm::getLine1(int& lsolvU, int& lsolvV, int& lsolvW, int& lsolvP, int& lsolvF, int& lsolvT) const {
-  return handOut(getIteratParm(), std::tie(lsolvU, lsolvV, lsolvW, lsolvP, lsolvF, lsolvT), &Iterat::ilsolvU,
-                 &Iterat::ilsolvV, &Iterat::ilsolvW, &Iterat::ilsolvP, &Iterat::ilsolvF, &Iterat::ilsolvT);
+  return handOut(getIteratParm(), 1, lsolvU, lsolvV, lsolvW, lsolvP, lsolvF, lsolvT);
 }
 
 int CZEBKNCMPCompParm::getLine2(int& nRestartIU, int& nRestartIV, int& nRestartIW, int& nRestartIP) const {
-  return handOut(getIteratParm(), std::tie(nRestartIU, nRestartIV, nRestartIW, nRestartIP), &Iterat::iNRestartIU,
-                 &Iterat::iNRestartIV, &Iterat::iNRestartIW, &Iterat::iNRestartIP);
+  return handOut(getIteratParm(), 2, nRestartIU, nRestartIV, nRestartIW, nRestartIP);
 }
 
-int CZEBKNCMPCompParm::getLine3(int& preCond) const {
-  return handOut(getIteratParm(), std::tie(preCond), &Iterat::iPreCond);
-}
+int CZEBKNCMPCompParm::getLine3(int& preCond) const { return handOut(getIteratParm(), 3, preCond); }
 
 int CZEBKNCMPCompParm::getLine4(int& niter, int& iterStep, int& ijPresFix, int& ijProb, int& nPPCorr,
                                 int& niterGrad) const {
-  return handOut(getIteratParm(), std::tie(niter, iterStep, ijPresFix, ijProb, nPPCorr, niterGrad), &Iterat::iNiter,
-                 &Iterat::iiterStep, &Iterat::iijPresFix, &Iterat::iijProb, &Iterat::iNPPCorr, &Iterat::iNiterGrad);
+  return handOut(getIteratParm(), 4, niter, iterStep, ijPresFix, ijProb, nPPCorr, niterGrad);
 }
 
 int CZEBKNCMPCompParm::getLine5(int& nTimeStep, int& timeStep, double& dt, double& blendTime) const {
-  return handOut(getIteratParm(), std::tie(nTimeStep, timeStep, dt, blendTime), &Iterat::iNTimeStep, &Iterat::iTimeStep,
-                 &Iterat::ddt, &Iterat::dBlendTime);
+  return handOut(getIteratParm(), 5, nTimeStep, timeStep, dt, blendTime);
 }
 
-int CZEBKNCMPCompParm::getLine6(double& toler) const {
-  return handOut(getIteratParm(), std::tie(toler), &Iterat::dtoler);
-}
+int CZEBKNCMPCompParm::getLine6(double& toler) const { return handOut(getIteratParm(), 6, toler); }
 
 int CZEBKNCMPCompParm::getLine7(double& blendIU, double& blendIV, double& blendIW, double& blendIP, double& blendIF,
                                 double& blendIT) const {
-  return handOut(getIteratParm(), std::tie(blendIU, blendIV, blendIW, blendIP, blendIF, blendIT), &Iterat::dBlendIU,
-                 &Iterat::dBlendIV, &Iterat::dBlendIW, &Iterat::dBlendIP, &Iterat::dBlendIF, &Iterat::dBlendIT);
+  return handOut(getIteratParm(), 7, blendIU, blendIV, blendIW, blendIP, blendIF, blendIT);
 }
 
 int CZEBKNCMPCompParm::getLine8(int& niterInIU, int& niterInIV, int& niterInIW, int& niterInIP, int& niterInIF,
                                 int& niterInIT) const {
-  return handOut(getIteratParm(), std::tie(niterInIU, niterInIV, niterInIW, niterInIP, niterInIF, niterInIT),
-                 &Iterat::iNiterInIU, &Iterat::iNiterInIV, &Iterat::iNiterInIW, &Iterat::iNiterInIP,
-                 &Iterat::iNiterInIF, &Iterat::iNiterInIT);
+  return handOut(getIteratParm(), 8, niterInIU, niterInIV, niterInIW, niterInIP, niterInIF, niterInIT);
 }
 
 int CZEBKNCMPCompParm::getLine9(double& tolerInIU, double& tolerInIV, double& tolerInIW, double& tolerInIP,
                                 double& tolerInIF, double& tolerInIT) const {
-  return handOut(getIteratParm(), std::tie(tolerInIU, tolerInIV, tolerInIW, tolerInIP, tolerInIF, tolerInIT),
-                 &Iterat::dtolerInIU, &Iterat::dtolerInIV, &Iterat::dtolerInIW, &Iterat::dtolerInIP,
-                 &Iterat::dtolerInIF, &Iterat::dtolerInIT);
+  return handOut(getIteratParm(), 9, tolerInIU, tolerInIV, tolerInIW, tolerInIP, tolerInIF, tolerInIT);
 }
 
 int CZEBKNCMPCompParm::getLine10(double& relaxIU, double& relaxIV, double& relaxIW, double& relaxIP, double& relaxIF,
                                  double& relaxIT) const {
-  return handOut(getIteratParm(), std::tie(relaxIU, relaxIV, relaxIW, relaxIP, relaxIF, relaxIT), &Iterat::drelaxIU,
-                 &Iterat::drelaxIV, &Iterat::drelaxIW, &Iterat::drelaxIP, &Iterat::drelaxIF, &Iterat::drelaxIT);
+  return handOut(getIteratParm(), 10, relaxIU, relaxIV, relaxIW, relaxIP, relaxIF, relaxIT);
 }
 
-int CZEBKNCMPCompParm::getLine12(int& lCmpChk) const {
-  return handOut(getIteratParm(), std::tie(lCmpChk), &Iterat::ilCmpChk);
-}
+int CZEBKNCMPCompParm::getLine12(int& lCmpChk) const { return handOut(getIteratParm(), 12, lCmpChk); }
 
 int CZEBKNCMPCompParm::getLine14(double& srRelax, double& visRelax) const {
-  return handOut(getIteratParm(), std::tie(srRelax, visRelax), &Iterat::dSRRelax, &Iterat::dVisRelax);
+  return handOut(getIteratParm(), 14, srRelax, visRelax);
 }
 
 int CZEBKNCMPCompParm::getLine16(int& coupleType, double& nonOrthLimitFactor) const {
-  return handOut(getIteratParm(), std::tie(coupleType, nonOrthLimitFactor), &Iterat::iCouple_Type,
-                 &Iterat::dnonOrthLimitFactor);
+  return handOut(getIteratParm(), 16, coupleType, nonOrthLimitFactor);
 }
 
-int CZEBKNCMPCompParm::getLine18(double& /*unused1*/, int& isLowTempVisCorr, double& crossModel2VisEps,
-                                 double& visTempLimiter, int& /*unused5*/, double& crossModelTs, double& crossModelTTx,
+int CZEBKNCMPCompParm::getLine18(double& unused1, int& isLowTempVisCorr, double& crossModel2VisEps,
+                                 double& visTempLimiter, int& unused5, double& crossModelTs, double& crossModelTTx,
                                  double& crossModelTTxSlp, int& spruePressCorrLevel,
                                  double& ultraHighSRVisTuning) const {
-  return handOut(getIteratParm(),
-                 std::tie(isLowTempVisCorr, crossModel2VisEps, visTempLimiter, crossModelTs, crossModelTTx,
-                          crossModelTTxSlp, spruePressCorrLevel, ultraHighSRVisTuning),
-                 &Iterat::iIsLowTempVisCorr, &Iterat::dMat_CrossModel2_VisEps, &Iterat::dVisTempLimiter,
-                 &Iterat::dMat_CrossModel_Ts, &Iterat::dMat_CrossModel_TTx, &Iterat::dMat_CrossModel_TTxSlp,
-                 &Iterat::iSpruePressCorrLevel, &Iterat::dUltraHighSRVisTuning);
+  return handOut(getIteratParm(), 18, unused1, isLowTempVisCorr, crossModel2VisEps, visTempLimiter, unused5,
+                 crossModelTs, crossModelTTx, crossModelTTxSlp, spruePressCorrLevel, ultraHighSRVisTuning);
 }
 
 int CZEBKNCMPCompParm::getLine19(double& wireEffectWeighting, int& isToUseMomSink, int& notToUseBinary, int& mfvDebug,
                                  int& level1, int& level2, int& outputMaxShearStressShearRate, int& isUseVolFDLL,
                                  int& isSurfaceTension, double& highTempEPS) const {
-  return handOut(getIteratParm(),
-                 std::tie(wireEffectWeighting, isToUseMomSink, notToUseBinary, mfvDebug, level1, level2,
-                          outputMaxShearStressShearRate, isUseVolFDLL, isSurfaceTension, highTempEPS),
-                 &Iterat::dWireEffectWeighting, &Iterat::iIsToUseMomSink, &Iterat::iNotToUseBinary, &Iterat::iMFVDebug,
-                 &Iterat::iLevel1, &Iterat::iLevel2, &Iterat::iOutputMaxShearStressShearRate, &Iterat::iIsUseVolFDLL,
-                 &Iterat::iIsSurfaceTension, &Iterat::dHighTempEPS);
+  return handOut(getIteratParm(), 19, wireEffectWeighting, isToUseMomSink, notToUseBinary, mfvDebug, level1, level2,
+                 outputMaxShearStressShearRate, isUseVolFDLL, isSurfaceTension, highTempEPS);
 }

@@ -37,7 +37,9 @@ std::string exact(int value) { return std::to_string(value); }
 std::string valueOf(const Row& row, void* block) { return visit(row.field, block, ValueText()); }
 
 std::string describe(const Row& row) {
-  if (row.opaque) return std::string(row.doc) + (row.doc.empty() ? "" : " ") + "Meaning defined by the solver.";
+  constexpr const char* kDefinedElsewhere = "Meaning defined by the solver.";
+  if (row.opaque) return kDefinedElsewhere;
+  if (!row.known.empty()) return std::string(row.known) + " " + kDefinedElsewhere;
   if (!row.rule.isBounded()) return std::string(row.doc);
   const double limit = row.rule.takenAbove;
   const auto fileUnit = row.unit.find("file: ");
