@@ -1,6 +1,8 @@
 // What hosts call of the General block. Its keys stand in CZEBCMPGeneralParmTable.cpp.
 #include "blocks/CZEBCMPGeneralParm.h"
 
+#include "engine/TableBuilder.hpp"
+
 ZEB_DEFAULTED(CZEBCMPGeneralParm)
 
 int CZEBCMPGeneralParm::iDeleteMultiTimeVox() const { return m_iDeleteMultiTimeVox; }

@@ -76,7 +76,8 @@ int CZEBKNCMPCompParm::getLine14(double& srRelax, double& visRelax) const {
 }
 
 int CZEBKNCMPCompParm::getLine16(int& coupleType, double& nonOrthLimitFactor) const {
-  return handOut(getIteratParm(), 16, coupleType, nonOrthLimitFactor);
+  int unused2 = 0;
+  return handOut(getIteratParm(), 16, coupleType, unused2, nonOrthLimitFactor);
 }
 
 int CZEBKNCMPCompParm::getLine18(double& unused1, int& isLowTempVisCorr, double& crossModel2VisEps,
