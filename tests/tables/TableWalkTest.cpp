@@ -8,12 +8,10 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "blocks/CZEBCMPGeneralParm.h"
 #include "engine/SectionEngine.hpp"
 #include "frame/CMPReader.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "inspect/set/Inspection.hpp"
-#include "inspect/set/OutputCapture.hpp"
 #include "inspect/set/Values.hpp"
 #include "tests/support/Tsv.hpp"
 
@@ -64,26 +62,6 @@ std::set<std::string> column(const char* table, const char* name) {
   std::set<std::string> cells;
   for (const TsvRow& row : zebtest::readTsv(table)) cells.insert(unquoted(row.at(name)));
   return cells;
-}
-
-// All other tests leave what the tables in tests/data do not know alone: this one asks for the missing rows.
-TEST(TestData, KnowsEveryBlockSectionAndMoldingType) {
-  const CZEBKNCMPCompParm set(0, 0);
-  const auto classes = column("blocks.tsv", "class"), openings = column("dispatch.tsv", "opening");
-  for (const BlockView& view : zeb::blocksOf(set)) {
-    EXPECT_TRUE(classes.contains(std::string(view.table->className)))
-        << "blocks.tsv lacks the block " << view.table->className;
-  }
-  for (const zeb::DispatchEntry& entry : zeb::cmpSections(*zeb::Inspection::tool(set))) {
-    EXPECT_TRUE(openings.contains(std::string(entry.section->open)))
-        << "dispatch.tsv (and cmp_keys.tsv or positional.tsv) lacks the section " << entry.section->open;
-  }
-  const std::set<int> codes = zebtest::moldingCodes();
-  for (int code = 0; code <= static_cast<int>(codes.size()); ++code) {
-    const zeb::OutputCapture capture;
-    const bool isDefined = CZEBKNCMPCompParm(code, 0).getGeneralParm() != nullptr;
-    EXPECT_EQ(isDefined, codes.contains(code)) << "molding.tsv lacks the molding type " << code;
-  }
 }
 
 TEST_F(TableWalk, TheBlocksComeInTheirOrderUnderTheirHeadings) {
