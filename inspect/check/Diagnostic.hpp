@@ -53,7 +53,7 @@ class DiagnosticList {
   void continueFile(int number) { m_file = number; }
   int currentFile() const { return m_file; }
 
-  std::vector<Diagnostic>& all() { return m_all; }
+  const std::vector<Diagnostic>& all() const { return m_all; }
   /// By file, line and column.
   void sort();
   /// Found and not kept.

@@ -30,13 +30,15 @@ struct Events final : zeb::TraceReader {
     if (line.part == Part::kKeyed && line.hits.empty() && !line.end) {
       ADD_FAILURE() << "line " << line.number << ": " << line.text;
     }
-    if (line.part == Part::kPositional && !line.hits.empty()) {
-      if (line.expected > 0) EXPECT_EQ(line.converted, line.expected) << "line " << line.number;
+    if (line.part == Part::kPositional && line.expected > 0) {
+      EXPECT_EQ(line.converted, line.expected) << "line " << line.number;
     }
     for (const zeb::Hit& hit : line.hits) {
       // A shorter key inside another key's line takes what it can of that key's value; its own line follows.
       const bool isOwnLine = hit.key.empty() || line.text.starts_with(hit.key);
-      if (hit.sets() && isOwnLine && line.text[hit.key.size()] == ' ') EXPECT_EQ(line.left(hit), "") << line.text;
+      if (hit.sets() && isOwnLine && line.text[hit.key.size()] == ' ') {
+        EXPECT_EQ(line.left(hit), "") << line.text;
+      }
       EXPECT_TRUE(hit.outcome == zeb::KeyOutcome::kStored || hit.outcome == zeb::KeyOutcome::kConfirmed) << line.text;
     }
   }

@@ -1,10 +1,13 @@
 // compparm check: says what the formats forgive silently, before a job is queued.
+#include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <memory>
 #include <optional>
 
 #include "inspect/check/Check.hpp"
 #include "inspect/check/DiagnosticOutput.hpp"
+#include "inspect/check/KnownNames.hpp"
 #include "inspect/check/Manual.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
@@ -22,7 +25,7 @@ struct CheckArguments {
   bool manual = false;
 };
 
-void printText(zeb::DiagnosticList& found, const std::string& severity) {
+void printText(const zeb::DiagnosticList& found, const std::string& severity) {
   for (const zeb::Diagnostic& one : found.all()) {
     std::cout << coloured(Colour::kBold, zeb::headline(one, severity)) << '\n'
               << zeb::excerpt(one) << "  hint: " << one.hint << '\n';
@@ -33,14 +36,33 @@ void printText(zeb::DiagnosticList& found, const std::string& severity) {
   }
 }
 
-void printFindings(const CheckArguments& arguments, zeb::DiagnosticList& found) {
-  const std::string severity = arguments.errors ? "error" : "warning";
-  using Handler = nlohmann::ordered_json::error_handler_t;
-  if (arguments.format == "text") return printText(found, severity);
-  const auto document = arguments.format == "json" ? zeb::diagnosticsAsJson(found.all(), severity)
-                                                   : zeb::diagnosticsAsSarif(found.all(), severity);
-  // The names of files and keys may be no UTF-8: what is not is replaced.
-  std::cout << document.dump(2, ' ', false, Handler::replace) << '\n';
+// The names of files and keys may be no UTF-8: what is not is replaced.
+void printDocument(const nlohmann::ordered_json& document) {
+  std::cout << document.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
+}
+
+struct OutputFormat {
+  const char* name;
+  void (*print)(const zeb::DiagnosticList& found, const std::string& severity);
+};
+
+constexpr OutputFormat kFormats[] = {
+    {"text", printText},
+    {"json", [](const auto& found, const auto& severity) { printDocument(diagnosticsAsJson(found.all(), severity)); }},
+    {"sarif",
+     [](const auto& found, const auto& severity) { printDocument(diagnosticsAsSarif(found.all(), severity)); }},
+};
+
+void printFindings(const CheckArguments& arguments, const zeb::DiagnosticList& found) {
+  const auto format = std::find_if(std::begin(kFormats), std::end(kFormats),
+                                   [&](const OutputFormat& candidate) { return arguments.format == candidate.name; });
+  format->print(found, arguments.errors ? "error" : "warning");
+}
+
+std::vector<std::string_view> formatNames() {
+  std::vector<std::string_view> names;
+  for (const OutputFormat& format : kFormats) names.emplace_back(format.name);
+  return names;
 }
 
 int run(const CheckArguments& arguments) {
@@ -93,8 +115,9 @@ void addCheck(CLI::App& app, int& exitCode) {
   };
   addRules("-W", arguments->enabled, "Switch a rule on that is off by default (equals-default)");
   addRules("--no-rule", arguments->disabled, "Switch a rule off");
-  command->add_option("--format", arguments->format, "text, json or sarif")
-      ->check(CLI::IsMember({"text", "json", "sarif"}))
+  const std::vector<std::string_view> formats = formatNames();
+  command->add_option("--format", arguments->format, zeb::orList(formats))
+      ->check(CLI::IsMember(std::vector<std::string>(formats.begin(), formats.end())))
       ->type_name("FORMAT");
   command->add_flag("--rules", arguments->manual, "Print the manual of all rules, with examples");
   command->add_flag("--error-on-warning", arguments->errors, "Report findings as errors");
