@@ -1,7 +1,7 @@
 // The one place that makes blocks, and so the one that is compiled anew with every one of them.
 #include "cmx/CMXBlocks.hpp"
 
-#include "ZEBKNCompParm.h"
+#include "cmx/AllBlocks.h"
 
 namespace zeb {
 

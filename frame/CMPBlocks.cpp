@@ -1,7 +1,7 @@
 // The one place that makes blocks, and so the one that is compiled anew with every one of them.
 #include "frame/CMPBlocks.hpp"
 
-#include "ZEBKNCompParm.h"
+#include "blocks/AllBlocks.h"
 
 namespace zeb {
 
