@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "engine/ReadObserver.hpp"
-#include "engine/SectionEngine.hpp"
 #include "engine/TextOutput.hpp"
+#include "engine/ValueText.hpp"
 
 namespace zeb {
 

@@ -8,7 +8,8 @@
 namespace zeb {
 
 struct TemplateOptions {
-  std::optional<int> molding;         ///< 0 to 14: tells which members this molding type changes after reading
+  std::optional<int>
+      molding;  ///< the place in moldingTypes(): tells which members this molding type changes after reading
   std::vector<std::string> sections;  ///< section or block names, "VER" for the fixed-line head; empty: all
   bool cmx = false;
 };

@@ -14,7 +14,7 @@
 namespace zeb {
 
 struct AnalysisOptions {
-  int molding = 0;  ///< 0 to 14
+  int molding = 0;  ///< the place in moldingTypes()
   int material = 0;
   bool wax = false;
   bool viscoelastic = false;

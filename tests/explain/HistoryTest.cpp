@@ -107,6 +107,20 @@ TEST(History, KeepsOnlyTheLinesThatTouchWhatIsWanted) {
   EXPECT_TRUE(history.stepsOf(*other->row, block).empty());
 }
 
+TEST(History, KeepsTheFirstAndTheLastStepsOfAMemberThatIsSetVeryOften) {
+  std::string text = "[ShortShot]\n";
+  for (int i = 0; i < 3000; ++i) text += "TimeLimit = " + std::to_string(i) + "\n";
+  const Analysed analysed(text + "[/ShortShot]\n");
+  const auto steps = analysed.steps("TimeLimit");
+  ASSERT_EQ(steps.size(), 2000u);
+  EXPECT_EQ(steps.front()->lineNumber, 2);
+  EXPECT_EQ(steps[999]->lineNumber, 1001);
+  EXPECT_EQ(steps[1000]->lineNumber, 2002);
+  EXPECT_EQ(steps[1000]->leftOut, 1000u);
+  EXPECT_EQ(steps.back()->after, "2999");
+  EXPECT_EQ(steps.back()->leftOut, 0u);
+}
+
 TEST(History, TellsKeysBehindAClosedGate) {
   const Analysed analysed("[UNFSetting]\nSpeed_V = 3\nFillType = 2\nSpeed_V = 4\n[/UNFSetting]\n");
   const auto steps = analysed.steps("Speed_V");

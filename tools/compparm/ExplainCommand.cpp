@@ -119,6 +119,7 @@ Json jsonStep(const zeb::HistoryStep& step, const Explained& explained) {
   using Kind = zeb::HistoryStep::Kind;
   const zeb::Row& row = *explained.entry->row;
   Json json = {{"kind", kindText(step.kind)}};
+  if (step.leftOut > 0) json["leftOut"] = step.leftOut;
   if (step.kind == Kind::kRepair) {
     json["condition"] = step.condition;
     json["before"] = jsonOf(row, step.before);
@@ -272,6 +273,7 @@ void printText(const Explained& explained, const zeb::History& history) {
   bool touched = false;
   const std::vector<const zeb::HistoryStep*> steps = explained.steps(history);
   for (const zeb::HistoryStep* step : steps) {
+    if (step->leftOut > 0) std::cout << "  ... " << step->leftOut << " steps that are not kept\n";
     if (step->kind == zeb::HistoryStep::Kind::kRepair) {
       std::cout << "  " << coloured(Colour::kCyan, "repair") << "  " << step->condition
                 << (step->before == step->after ? ": nothing to change" : "") << '\n';
