@@ -60,17 +60,17 @@ bool printsName(Format::NameLine when, const LineSource& source) {
 
 void dispatchLine(std::span<const DispatchEntry> entries, const std::string& line, LineReader& lines) {
   // All openings of a format begin with the same character.
-  const char bracket = entries.front().opening.front();
+  const char bracket = entries.front().opening().front();
   const std::size_t first = line.find(bracket);
   if (first == line.npos) return;
   const int lineNumber = lines.lineNumber();
   const std::string_view candidates = std::string_view(line).substr(first);
   const bool hasMore = candidates.find(bracket, 1) != candidates.npos;
   const char initial = line.c_str()[first + 1];
-  const auto mayOpen = [=](const DispatchEntry& entry) { return hasMore || entry.opening[1] == initial; };
+  const auto mayOpen = [=](const DispatchEntry& entry) { return entry.initial == initial || hasMore; };
   auto entry = entries.begin();
   while ((entry = std::find_if(entry, entries.end(), mayOpen)) != entries.end()) {
-    if (holds(candidates, hasMore, entry->opening)) run(*entry, line, lineNumber, lines);
+    if (holds(candidates, hasMore, entry->opening())) run(*entry, line, lineNumber, lines);
     ++entry;
   }
 }

@@ -14,10 +14,11 @@ namespace zeb {
 struct DispatchEntry {
   const Section* section;
   void* block;
-  /// What announces the section: its opening or, for a head, the version line. It begins with the format's bracket.
-  std::string_view opening = section->headVersion != 0 ? kVersionTag : section->open;
+  /// What follows the opening's bracket, at hand for the test that refuses most sections.
+  char initial = opening()[1];
 
-  static constexpr std::string_view kVersionTag = "[VER]";
+  /// What announces the section: its opening or, for a head, the version line. It begins with the format's bracket.
+  std::string_view opening() const { return section->headVersion != 0 ? "[VER]" : section->open; }
 };
 
 /// How one format's readers talk to the outside.

@@ -18,6 +18,7 @@
 namespace zeb {
 
 struct ListContext;
+struct Parsed;
 struct Row;
 struct Section;
 
@@ -67,6 +68,8 @@ struct Rule {
   constexpr bool isBounded() const { return takenAbove != -std::numeric_limits<double>::infinity(); }
   constexpr bool none() const { return scale == 1.0 && replace[0].when == Replacement::When::kNever; }
   double apply(double value) const;
+  /// The same for a number on its way into a member; notes the replacement that fired.
+  double applyTo(Parsed& parsed) const;
   /// The replacement that fits the scaled value; null where it stays.
   const Replacement* replacementOf(double scaled) const;
 };

@@ -45,10 +45,7 @@ struct PositionalReader {
   }
 
   void store(const Slot& slot, Parsed& parsed) const {
-    const Rule& rule = slot.row->rule;
-    const double scaled = rule.none() ? parsed.number : parsed.number * rule.scale;
-    parsed.replaced = rule.replacementOf(scaled);
-    const double value = parsed.replaced != nullptr ? parsed.replaced->value : scaled;
+    const double value = slot.row->rule.applyTo(parsed);
     if (slot.type == FieldType::kInt) {
       slot.row->field.in<int>(block) = static_cast<int>(value);
     } else {

@@ -52,15 +52,8 @@ KeyOutcome storeElement(const Found& found, double value) {
   return KeyOutcome::kStored;
 }
 
-double applyRule(const Rule& rule, Parsed& parsed) {
-  if (rule.none()) return parsed.number;
-  const double scaled = parsed.number * rule.scale;
-  parsed.replaced = rule.replacementOf(scaled);
-  return parsed.replaced != nullptr ? parsed.replaced->value : scaled;
-}
-
 void storeDouble(const Found& found, Stored& stored) {
-  const double value = applyRule(found.row.rule, stored.parsed);
+  const double value = found.row.rule.applyTo(stored.parsed);
   stored.outcome = KeyOutcome::kStored;
   if (found.row.isElement()) {
     stored.outcome = storeElement(found, value);
@@ -74,7 +67,7 @@ void storeInt(const Found& found, int value, Stored& stored) {
   const bool refused = row.count != Count::kNo && !isValidCount(row.count, value);
   if (refused) refuseCount(found.section, row, found.block, found.key, value, found.lines);
   stored.outcome = refused ? KeyOutcome::kRefused : KeyOutcome::kStored;
-  member<int>(found) = refused ? 0 : static_cast<int>(applyRule(row.rule, stored.parsed));
+  member<int>(found) = refused ? 0 : static_cast<int>(row.rule.applyTo(stored.parsed));
 }
 
 Stored storePresence(const Found& found, std::string_view value) {
@@ -167,6 +160,13 @@ double Rule::apply(double value) const {
   value *= scale;
   const Replacement* replacement = replacementOf(value);
   return replacement != nullptr ? replacement->value : value;
+}
+
+double Rule::applyTo(Parsed& parsed) const {
+  if (none()) return parsed.number;
+  const double scaled = parsed.number * scale;
+  parsed.replaced = replacementOf(scaled);
+  return parsed.replaced != nullptr ? parsed.replaced->value : scaled;
 }
 
 const Replacement* Rule::replacementOf(double scaled) const {

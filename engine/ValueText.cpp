@@ -211,15 +211,6 @@ const char* scanDouble(const char* at, const char* end, double& value) {
 
 }  // namespace
 
-std::string_view valueText(std::string_view line) {
-  const void* equals = std::memchr(line.data(), '=', line.size());
-  if (equals == nullptr) return {};
-  const char* end = line.data() + line.size();
-  const char* at = static_cast<const char*>(equals) + 1;
-  while (at != end && *at == ' ') ++at;
-  return {at, static_cast<std::size_t>(end - at)};
-}
-
 std::size_t extractDouble(std::string_view text, double& value) {
   constexpr double kTooLarge = std::numeric_limits<double>::infinity();
   const char* end = text.data() + text.size();
@@ -234,17 +225,18 @@ std::size_t extractDouble(std::string_view text, double& value) {
 
 bool isDoubleOutOfRange(std::string_view text) {
   const char* end = text.data() + text.size();
-  double read = 0.0;
-  return readDecimal(skipSpace(text.data(), end), end, std::numeric_limits<double>::infinity(), read) != nullptr &&
-         std::abs(read) == std::numeric_limits<double>::infinity();
+  const char* at = skipSpace(text.data(), end);
+  double value = 0.0;
+  if (!isDecimal(at, end)) return false;
+  const auto result = std::from_chars(skipPlus(at, end), end, value);
+  return result.ec == std::errc::result_out_of_range && !isTooSmall(at, result.ptr);
 }
 
 bool isIntOutOfRange(std::string_view text) {
   const char* end = text.data() + text.size();
   const char* at = skipSpace(text.data(), end);
   int value = 0;
-  if (at != end && isSign(*at)) ++at;
-  return at != end && isDigit(*at) && readInt(skipSpace(text.data(), end), end, value) == nullptr;
+  return std::from_chars(skipPlus(at, end), end, value).ec == std::errc::result_out_of_range;
 }
 
 std::size_t extractInt(std::string_view text, int& value) {

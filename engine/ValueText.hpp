@@ -1,12 +1,20 @@
 // From text to value: the two number grammars of the parameter files, and where a line keeps its value.
 #pragma once
 
+#include <cstring>
 #include <string_view>
 
 namespace zeb {
 
 /// The text after the line's first '=', leading spaces (not tabs) removed; empty when there is no '='.
-std::string_view valueText(std::string_view line);
+inline std::string_view valueText(std::string_view line) {
+  const void* equals = std::memchr(line.data(), '=', line.size());
+  if (equals == nullptr) return {};
+  const char* end = line.data() + line.size();
+  const char* at = static_cast<const char*>(equals) + 1;
+  while (at != end && *at == ' ') ++at;
+  return {at, static_cast<std::size_t>(end - at)};
+}
 
 /// What a stream's `>>` in the classic locale takes from the text. Each returns the number of characters used, 0 when
 /// the extraction fails; `value` is then untouched. Out of range and an exponent without digits ("1e") fail; nan, inf

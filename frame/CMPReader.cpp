@@ -3,10 +3,25 @@
 
 namespace zeb {
 
-std::vector<DispatchEntry> cmpSections(CZEBCMPInternalTool& tool) {
+namespace {
+
+std::vector<DispatchEntry> sectionsWithoutBlocks() {
   std::vector<DispatchEntry> entries;
   for (const BlockEntry& block : dispatchedBlocks()) {
-    for (const Section* section : block.table().dispatchOrder) entries.push_back({section, block.locate(tool)});
+    for (const Section* section : block.table().dispatchOrder) entries.push_back({section, nullptr});
+  }
+  return entries;
+}
+
+}  // namespace
+
+std::vector<DispatchEntry> cmpSections(CZEBCMPInternalTool& tool) {
+  static const std::vector<DispatchEntry> kSections = sectionsWithoutBlocks();
+  std::vector<DispatchEntry> entries = kSections;
+  auto entry = entries.begin();
+  for (const BlockEntry& block : dispatchedBlocks()) {
+    void* const located = block.locate(tool);
+    for (std::size_t i = block.table().dispatchOrder.size(); i > 0; --i) (entry++)->block = located;
   }
   return entries;
 }

@@ -70,7 +70,7 @@ TEST_F(StdTables, SectionsAndKeysAreTestedInTheirOrder) {
   for (const zeb::DispatchEntry& entry : parameters.sections()) {
     const std::string name(entry.section->name);
     if (entry.section->headVersion != 0) {
-      EXPECT_EQ(entry.opening, "[VER]");
+      EXPECT_EQ(entry.opening(), "[VER]");
       continue;
     }
     EXPECT_EQ(entry.section->open, "[" + name + "]");

@@ -101,7 +101,7 @@ TEST(SectionList, IsThatOfTheDefinition) {
   for (const std::string& opening : columnOf("dispatch.tsv", "opening")) defined.insert(zebtest::unquoted(opening));
   CZEBCMPIM cmp;
   for (const zeb::DispatchEntry& entry : zeb::cmpSections(cmp)) {
-    listed.emplace(entry.section->open.empty() ? entry.opening : entry.section->open);
+    listed.emplace(entry.section->open.empty() ? entry.opening() : entry.section->open);
   }
   for (const std::string& opening : listed) {
     EXPECT_TRUE(defined.contains(opening)) << "tests/data/dispatch.tsv (and what tells its keys) lacks " << opening;
