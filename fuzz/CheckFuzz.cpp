@@ -10,8 +10,8 @@
 
 #include "frame/MoldingTypes.hpp"
 #include "fuzz/FuzzSupport.hpp"
+#include "inspect/check/Bytes.hpp"
 #include "inspect/check/Check.hpp"
-#include "inspect/check/CheckRawFile.hpp"
 #include "inspect/check/DiagnosticOutput.hpp"
 
 namespace {
