@@ -108,7 +108,7 @@ HistoryStep History::stepOf(const Hit& hit, const ReadLine& line) const {
     step.used = hit.key;
     step.left.clear();
   }
-  step.others = othersOf(*hit.row);
+  if (line.number == m_keysLine) step.others = othersOf(*hit.row);
   step.positionalLine = line.positionalLine;
   if (step.kind == Kind::kNotTaken) {
     step.reason = kWhyNotTaken;
