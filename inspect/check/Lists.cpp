@@ -255,7 +255,7 @@ void Checker::judgeMissingElements() {
       if (!element.isElement() || !fills(count, element) || m_setAt.contains(&element)) continue;
       // Only what the list has room for can be stored.
       const auto& array = element.field.in<SharedArray<double>>(announced->second.block);
-      if (element.element < array.size()) missing.push_back(element.key);
+      if (element.element != kNoElement && element.element < array.size()) missing.push_back(element.key);
     }
     if (missing.empty()) continue;
     m_found.add(
