@@ -10,7 +10,7 @@
 
 namespace zeb {
 
-/// The order of the enumerators is that of the types in visit().
+/// kNone stands only where there is no field: field() makes none of it.
 enum class FieldType : std::uint8_t { kNone, kInt, kDouble, kBool, kText, kInts, kDoubles };
 
 namespace detail {

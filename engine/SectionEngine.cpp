@@ -157,9 +157,8 @@ bool repeatsFirstSpelling(const Found& found, std::string_view line) {
 }  // namespace
 
 double Rule::apply(double value) const {
-  value *= scale;
-  const Replacement* replacement = replacementOf(value);
-  return replacement != nullptr ? replacement->value : value;
+  Parsed parsed{.number = value};
+  return applyTo(parsed);
 }
 
 double Rule::applyTo(Parsed& parsed) const {

@@ -100,13 +100,10 @@ bool isJoinedByEquals(std::string_view line) {
 
 // Lists begin and end among the keys of a line.
 void Checker::judgeLists() {
-  auto list = m_line->lists.begin();
-  for (std::size_t i = 0; i <= m_line->hits.size(); ++i) {
-    for (; list != m_line->lists.end() && list->hitsBefore == i; ++list) endList();
-    if (i == m_line->hits.size()) break;
-    const Hit& hit = m_line->hits[i];
+  const auto open = [&](const Hit& hit) {
     if (hit.row->opensList() && hit.outcome == KeyOutcome::kStored) startList(hit);
-  }
+  };
+  m_line->inOrder(open, [&](const ListTaken&) { endList(); });
 }
 
 void Checker::startList(const Hit& hit) {

@@ -154,11 +154,8 @@ void History::addHits(const ReadLine& line) {
   } else if (line.part != ReadLine::Part::kEntry) {
     m_keys.clear();
   }
-  auto list = line.lists.begin();
-  for (std::size_t i = 0; i <= line.hits.size(); ++i) {
-    for (; list != line.lists.end() && list->hitsBefore == i; ++list) addList(*list, line);
-    if (i < line.hits.size()) add(*line.hits[i].row, stepOf(line.hits[i], line));
-  }
+  line.inOrder([&](const Hit& hit) { add(*hit.row, stepOf(hit, line)); },
+               [&](const ListTaken& list) { addList(list, line); });
 }
 
 void History::addList(const ListTaken& list, const ReadLine& line) {

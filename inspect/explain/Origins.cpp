@@ -37,11 +37,7 @@ void Origins::line(const ReadLine& line) {
     m_linesRead = std::max(m_linesRead, line.number);
     m_hasSections = m_hasSections || !line.openings.empty();
   }
-  auto list = line.lists.begin();
-  for (std::size_t i = 0; i <= line.hits.size(); ++i) {
-    for (; list != line.lists.end() && list->hitsBefore == i; ++list) take(*list);
-    if (i < line.hits.size()) take(line.hits[i], line.number);
-  }
+  line.inOrder([&](const Hit& hit) { take(hit, line.number); }, [&](const ListTaken& list) { take(list); });
   takeAbsent(line);
 }
 

@@ -104,6 +104,15 @@ struct ReadLine {
 
   std::string_view value(const Hit& hit) const { return part_(hit.valueAt, hit.valueEnd); }
   std::string_view convertedText(const Hit& hit) const { return part_(hit.valueAt, hit.usedEnd); }
+  /// Calls `onHit` and `onList` for the hits and the lists that ended among them, in the order in which they came.
+  template <class OnHit, class OnList>
+  void inOrder(OnHit onHit, OnList onList) const {
+    auto list = lists.begin();
+    for (std::size_t i = 0; i <= hits.size(); ++i) {
+      for (; list != lists.end() && list->hitsBefore == i; ++list) onList(*list);
+      if (i < hits.size()) onHit(hits[i]);
+    }
+  }
   std::string_view left(const Hit& hit) const { return part_(hit.usedEnd, hit.valueEnd); }
 
  private:
