@@ -4,14 +4,8 @@
 
 ZEB_DEFAULTED(CZEBCMPAutoVPCtrlParm)
 
-int CZEBCMPAutoVPCtrlParm::iIsAutoVPCtrl() const { return m_iIsAutoVPCtrl; }
-int CZEBCMPAutoVPCtrlParm::iAutoVPCtrlDebug() const { return m_iAutoVPCtrlDebug; }
-int CZEBCMPAutoVPCtrlParm::iAutoVPCtrlFullShotMode() const { return m_iAutoVPCtrlFullShotMode; }
-int CZEBCMPAutoVPCtrlParm::iAutoVPCtrlBarrelEffect() const { return m_iAutoVPCtrlBarrelEffect; }
-double CZEBCMPAutoVPCtrlParm::dAutoVPCtrlExtraInjWeightRatio() const { return m_dAutoVPCtrlExtraInjWeightRatio; }
-double CZEBCMPAutoVPCtrlParm::dAutoVPCtrlHRAbsorbRatioCtrl() const { return m_dAutoVPCtrlHRAbsorbRatioCtrl; }
-double CZEBCMPAutoVPCtrlParm::dAutoVPCtrlCavityPres() const { return m_dAutoVPCtrlCavityPres; }
-double CZEBCMPAutoVPCtrlParm::dAutoVPCtrlCavityTemp() const { return m_dAutoVPCtrlCavityTemp; }
+ZEB_GETTERS(CZEBCMPAutoVPCtrlParm, iIsAutoVPCtrl, iAutoVPCtrlDebug, iAutoVPCtrlFullShotMode, iAutoVPCtrlBarrelEffect,
+            dAutoVPCtrlExtraInjWeightRatio, dAutoVPCtrlHRAbsorbRatioCtrl, dAutoVPCtrlCavityPres, dAutoVPCtrlCavityTemp)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPAutoVPCtrlParm>() {

@@ -4,8 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMPBiIMParm)
 
-int CZEBCMPBiIMParm::iBiIMABA() const { return m_iBiIMABA; }
-int CZEBCMPBiIMParm::iCalculateVOFtoPack() const { return m_iCalculateVOFtoPack; }
+ZEB_GETTERS(CZEBCMPBiIMParm, iBiIMABA, iCalculateVOFtoPack)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPBiIMParm>() {

@@ -4,23 +4,10 @@
 
 ZEB_DEFAULTED(CZEBCMPCompressibleFlowParm)
 
-int CZEBCMPCompressibleFlowParm::iCompressible() const { return m_iCompressible; }
-int CZEBCMPCompressibleFlowParm::iUseNormalStressTerm() const { return m_iUseNormalStressTerm; }
-int CZEBCMPCompressibleFlowParm::iCompressible_SIMPLER_Niter() const { return m_iCompressible_SIMPLER_Niter; }
-int CZEBCMPCompressibleFlowParm::iCompressible_CM_Niter() const { return m_iCompressible_CM_Niter; }
-double CZEBCMPCompressibleFlowParm::dCompressible_SIMPLER_Tol() const { return m_dCompressible_SIMPLER_Tol; }
-double CZEBCMPCompressibleFlowParm::dCompressible_PISO_Tol() const { return m_dCompressible_PISO_Tol; }
-double CZEBCMPCompressibleFlowParm::dCompressible_TolPres() const { return m_dCompressible_TolPres; }
-double CZEBCMPCompressibleFlowParm::dCompressible_U_Tol() const { return m_dCompressible_U_Tol; }
-double CZEBCMPCompressibleFlowParm::dCompressible_V_Tol() const { return m_dCompressible_V_Tol; }
-double CZEBCMPCompressibleFlowParm::dCompressible_W_Tol() const { return m_dCompressible_W_Tol; }
-double CZEBCMPCompressibleFlowParm::dCompressible_U_Relax() const { return m_dCompressible_U_Relax; }
-double CZEBCMPCompressibleFlowParm::dCompressible_V_Relax() const { return m_dCompressible_V_Relax; }
-double CZEBCMPCompressibleFlowParm::dCompressible_W_Relax() const { return m_dCompressible_W_Relax; }
-double CZEBCMPCompressibleFlowParm::dCompressible_CM_P_Tol() const { return m_dCompressible_CM_P_Tol; }
-double CZEBCMPCompressibleFlowParm::dCompressible_CM_P_Relax() const { return m_dCompressible_CM_P_Relax; }
-double CZEBCMPCompressibleFlowParm::dAirdDdp() const { return m_dAirdDdp; }
-double CZEBCMPCompressibleFlowParm::dVentAirDdp() const { return m_dVentAirDdp; }
+ZEB_GETTERS(CZEBCMPCompressibleFlowParm, iCompressible, iUseNormalStressTerm, iCompressible_SIMPLER_Niter,
+            iCompressible_CM_Niter, dCompressible_SIMPLER_Tol, dCompressible_PISO_Tol, dCompressible_TolPres,
+            dCompressible_U_Tol, dCompressible_V_Tol, dCompressible_W_Tol, dCompressible_U_Relax, dCompressible_V_Relax,
+            dCompressible_W_Relax, dCompressible_CM_P_Tol, dCompressible_CM_P_Relax, dAirdDdp, dVentAirDdp)
 
 void CZEBCMPCompressibleFlowParm::SetVentAirDdp(double value) { m_dVentAirDdp = value; }
 

@@ -4,16 +4,11 @@
 
 ZEB_DEFAULTED(CZEBCMPCompressionParm)
 
-int CZEBCMPCompressionParm::iIsInitialData() const { return m_iIsInitialData; }
-int CZEBCMPCompressionParm::iIsCalConversionFromTemp() const { return m_iIsCalConversionFromTemp; }
-int CZEBCMPCompressionParm::iIsInitialStress() const { return m_iIsInitialStress; }
-int CZEBCMPCompressionParm::iIsInitialTemp() const { return m_iIsInitialTemp; }
-int CZEBCMPCompressionParm::iIsInitialFiber() const { return m_iIsInitialFiber; }
-double CZEBCMPCompressionParm::dMapFactor() const { return m_dMapFactor; }
-double CZEBCMPCompressionParm::dPreHeatTimeInInitialData() const { return m_dPreHeatTimeInInitialData; }
+ZEB_GETTERS(CZEBCMPCompressionParm, iIsInitialData, iIsCalConversionFromTemp, iIsInitialStress, iIsInitialTemp,
+            iIsInitialFiber, dMapFactor, dPreHeatTimeInInitialData)
 const char* CZEBCMPCompressionParm::szFilePathOfInitialData() const { return m_szFilePathOfInitialData.get(); }
 const char* CZEBCMPCompressionParm::szFilePathOfLocation() const { return m_szFilePathOfLocation.get(); }
-int CZEBCMPCompressionParm::iAbaqusMeshType() const { return m_iAbaqusMeshType; }
+ZEB_GETTERS(CZEBCMPCompressionParm, iAbaqusMeshType)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPCompressionParm>() {

@@ -4,22 +4,9 @@
 
 ZEB_DEFAULTED(CZEBCMPCrystallineParm)
 
-int CZEBCMPCrystallineParm::iFlagDebug() const { return m_iFlagDebug; }
-int CZEBCMPCrystallineParm::iFlagIsPlotDynamic() const { return m_iFlagIsPlotDynamic; }
-double CZEBCMPCrystallineParm::PlotStartTemper() const { return m_PlotStartTemper; }
-double CZEBCMPCrystallineParm::PlotEndTemper() const { return m_PlotEndTemper; }
-double CZEBCMPCrystallineParm::PlotQ() const { return m_PlotQ; }
-double CZEBCMPCrystallineParm::PlotStress() const { return m_PlotStress; }
-double CZEBCMPCrystallineParm::PlotPressure() const { return m_PlotPressure; }
-int CZEBCMPCrystallineParm::iCrystalModel() const { return m_iCrystalModel; }
-double CZEBCMPCrystallineParm::dParm_n() const { return m_dParm_n; }
-double CZEBCMPCrystallineParm::dParm_n_2nd() const { return m_dParm_n_2nd; }
-double CZEBCMPCrystallineParm::dU_activeEenergy() const { return m_dU_activeEenergy; }
-double CZEBCMPCrystallineParm::dU_activeEenergy_2nd() const { return m_dU_activeEenergy_2nd; }
-double CZEBCMPCrystallineParm::dHalfCrystallTime_0() const { return m_dHalfCrystallTime_0; }
-double CZEBCMPCrystallineParm::dHalfCrystallTime_0_2nd() const { return m_dHalfCrystallTime_0_2nd; }
-double CZEBCMPCrystallineParm::dSpheruliteGrowthRate() const { return m_dSpheruliteGrowthRate; }
-double CZEBCMPCrystallineParm::dSpheruliteGrowthRate_2nd() const { return m_dSpheruliteGrowthRate_2nd; }
+ZEB_GETTERS(CZEBCMPCrystallineParm, iFlagDebug, iFlagIsPlotDynamic, PlotStartTemper, PlotEndTemper, PlotQ, PlotStress,
+            PlotPressure, iCrystalModel, dParm_n, dParm_n_2nd, dU_activeEenergy, dU_activeEenergy_2nd,
+            dHalfCrystallTime_0, dHalfCrystallTime_0_2nd, dSpheruliteGrowthRate, dSpheruliteGrowthRate_2nd)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPCrystallineParm>() {
@@ -41,7 +28,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPCrystallineParm>() {
        .doc = "Parameter n of the secondary crystallization."},
       {ZEB_FIELD(dU_activeEenergy), .key = "Parm_Ustar_Primary", .label = "m_dU_activeEenergy     = ",
        .doc = "Activation energy U* of the primary crystallization."},
-      {ZEB_FIELD(dU_activeEenergy_2nd), .key = "Parm_Ustar_Secondary", .label = "m_dU_activeEenergy_2nd = ",
+      {ZEB_FIELD(dU_activeEenergy_2nd), .key = "Parm_Ustar_Secondary", .tabs = kOneSpace,
        .doc = "Activation energy U* of the secondary crystallization."},
       {ZEB_FIELD(dHalfCrystallTime_0), .key = "Parm_K0_Primary", .label = "m_dHalfCrystallTime_0  = ",
        .doc = "Parameter K0 (half-crystallization time) of the primary crystallization."},
@@ -49,7 +36,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPCrystallineParm>() {
        .doc = "Parameter K0 (half-crystallization time) of the secondary crystallization."},
       {ZEB_FIELD(dSpheruliteGrowthRate), .key = "Parm_Kg_Primary", .label = "m_dSpheruliteGrowthRate     = ",
        .doc = "Parameter Kg (spherulite growth rate) of the primary crystallization."},
-      {ZEB_FIELD(dSpheruliteGrowthRate_2nd), .key = "Parm_Kg_Secondary", .label = "m_dSpheruliteGrowthRate_2nd = ",
+      {ZEB_FIELD(dSpheruliteGrowthRate_2nd), .key = "Parm_Kg_Secondary", .tabs = kOneSpace,
        .doc = "Parameter Kg (spherulite growth rate) of the secondary crystallization."},
   };
   // clang-format on

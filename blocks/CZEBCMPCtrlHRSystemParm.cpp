@@ -4,10 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMPCtrlHRSystemParm)
 
-int CZEBCMPCtrlHRSystemParm::iHRShearRateCtrl() const { return m_iHRShearRateCtrl; }
-int CZEBCMPCtrlHRSystemParm::iHRDtCtrlMethod() const { return m_iHRDtCtrlMethod; }
-double CZEBCMPCtrlHRSystemParm::dHRDtCtrlFactor() const { return m_dHRDtCtrlFactor; }
-double CZEBCMPCtrlHRSystemParm::dHRDtCtrlFactor_2() const { return m_dHRDtCtrlFactor_2; }
+ZEB_GETTERS(CZEBCMPCtrlHRSystemParm, iHRShearRateCtrl, iHRDtCtrlMethod, dHRDtCtrlFactor, dHRDtCtrlFactor_2)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPCtrlHRSystemParm>() {

@@ -4,9 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMPEpoxyVEParm)
 
-int CZEBCMPEpoxyVEParm::iIsRIMVE() const { return m_iIsRIMVE; }
-int CZEBCMPEpoxyVEParm::iRIMVEModel() const { return m_iRIMVEModel; }
-double CZEBCMPEpoxyVEParm::dEpoxy_VE_G() const { return m_dEpoxy_VE_G; }
+ZEB_GETTERS(CZEBCMPEpoxyVEParm, iIsRIMVE, iRIMVEModel, dEpoxy_VE_G)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPEpoxyVEParm>() {

@@ -4,25 +4,11 @@
 
 ZEB_DEFAULTED(CZEBCMPFAIMParm)
 
-double CZEBCMPFAIMParm::dFluidFCRI() const { return m_dFluidFCRI; }
-double CZEBCMPFAIMParm::dMeltFCRI() const { return m_dMeltFCRI; }
-double CZEBCMPFAIMParm::dFluidVisFactor() const { return m_dFluidVisFactor; }
-double CZEBCMPFAIMParm::dFluidRealxFactor() const { return m_dFluidRealxFactor; }
-double CZEBCMPFAIMParm::dSecondFactor() const { return m_dSecondFactor; }
-int CZEBCMPFAIMParm::iSecondModel() const { return m_iSecondModel; }
-int CZEBCMPFAIMParm::iIsCoIM() const { return m_iIsCoIM; }
-int CZEBCMPFAIMParm::iIsCoIMGNF() const { return m_iIsCoIMGNF; }
+ZEB_GETTERS(CZEBCMPFAIMParm, dFluidFCRI, dMeltFCRI, dFluidVisFactor, dFluidRealxFactor, dSecondFactor, iSecondModel,
+            iIsCoIM, iIsCoIMGNF)
 const char* CZEBCMPFAIMParm::CoMatName() const { return m_szCoMatName.get(); }
-int CZEBCMPFAIMParm::iIsCoIM121() const { return m_iIsCoIM121; }
-double CZEBCMPFAIMParm::dMeltReEnterTime() const { return m_dMeltReEnterTime; }
-int CZEBCMPFAIMParm::iIsBiIM() const { return m_iIsBiIM; }
-int CZEBCMPFAIMParm::iFAIM123() const { return m_iFAIM123; }
-int CZEBCMPFAIMParm::iFAIMPushBack() const { return m_iFAIMPushBack; }
-int CZEBCMPFAIMParm::iShowOverflowGateData() const { return m_iShowOverflowGateData; }
-double CZEBCMPFAIMParm::dFluidEnterTime() const { return m_dFluidEnterTime; }
-double CZEBCMPFAIMParm::dPushBackTime() const { return m_dPushBackTime; }
-double CZEBCMPFAIMParm::dPushBackCloseTime() const { return m_dPushBackCloseTime; }
-double CZEBCMPFAIMParm::dFrozenRatio() const { return m_dFrozenRatio; }
+ZEB_GETTERS(CZEBCMPFAIMParm, iIsCoIM121, dMeltReEnterTime, iIsBiIM, iFAIM123, iFAIMPushBack, iShowOverflowGateData,
+            dFluidEnterTime, dPushBackTime, dPushBackCloseTime, dFrozenRatio)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPFAIMParm>() {

@@ -4,7 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMPFEMParm)
 
-int CZEBCMPFEMParm::iIsFEM() const { return m_iIsFEM; }
+ZEB_GETTERS(CZEBCMPFEMParm, iIsFEM)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPFEMParm>() {

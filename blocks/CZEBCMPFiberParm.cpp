@@ -6,70 +6,22 @@
 
 ZEB_DEFAULTED(CZEBCMPFiberParm)
 
-int CZEBCMPFiberParm::PLOT_DYNAMIC_iFlagIsPlotDynamic() const { return m_PLOT_DYNAMIC_iFlagIsPlotDynamic; }
-double CZEBCMPFiberParm::PLOT_DYNAMIC_dExtenRate() const { return m_PLOT_DYNAMIC_dExtenRate; }
-double CZEBCMPFiberParm::PLOT_DYNAMIC_dShearRate() const { return m_PLOT_DYNAMIC_dShearRate; }
-double CZEBCMPFiberParm::PLOT_DYNAMIC_dObserTime() const { return m_PLOT_DYNAMIC_dObserTime; }
-int CZEBCMPFiberParm::FIBER_ARD_iFlagIsARD() const { return m_FIBER_ARD_iFlagIsARD; }
-double CZEBCMPFiberParm::FIBER_ARD_db1() const { return m_FIBER_ARD_db1; }
-double CZEBCMPFiberParm::FIBER_ARD_db2() const { return m_FIBER_ARD_db2; }
-double CZEBCMPFiberParm::FIBER_ARD_db3() const { return m_FIBER_ARD_db3; }
-double CZEBCMPFiberParm::FIBER_ARD_db4() const { return m_FIBER_ARD_db4; }
-double CZEBCMPFiberParm::FIBER_ARD_db5() const { return m_FIBER_ARD_db5; }
-int CZEBCMPFiberParm::FIBER_SLOW_iFlagIsSLOW() const { return m_FIBER_SLOW_iFlagIsSLOW; }
-double CZEBCMPFiberParm::FIBER_SLOW_dk() const { return m_FIBER_SLOW_dk; }
-double CZEBCMPFiberParm::FIBER_SLOW_db() const { return m_FIBER_SLOW_db; }
-int CZEBCMPFiberParm::FIBER_CLOSURE_iFlagClosureMode() const { return m_FIBER_CLOSURE_iFlagClosureMode; }
-int CZEBCMPFiberParm::FIBER_Breakage_iFlagBreakage() const { return m_FIBER_Breakage_iFlagBreakage; }
-int CZEBCMPFiberParm::FIBER_Breakage_iFlagBreakInScrewAndNozzle() const {
-  return m_FIBER_Breakage_iFlagBreakInScrewAndNozzle;
-}
-double CZEBCMPFiberParm::FIBER_Breakage_dShearInScrew() const { return m_FIBER_Breakage_dShearInScrew; }
-double CZEBCMPFiberParm::FIBER_Breakage_dDurationInScrew() const { return m_FIBER_Breakage_dDurationInScrew; }
-double CZEBCMPFiberParm::FIBER_Breakage_dShearInNozzle() const { return m_FIBER_Breakage_dShearInNozzle; }
-double CZEBCMPFiberParm::FIBER_Breakage_dDurationInNozzle() const { return m_FIBER_Breakage_dDurationInNozzle; }
-int CZEBCMPFiberParm::FIBER_Breakage_iFlagScrewOwnBreakSetting() const {
-  return m_FIBER_Breakage_iFlagScrewOwnBreakSetting;
-}
-double CZEBCMPFiberParm::FIBER_Breakage_dScrewBreak_CD() const { return m_FIBER_Breakage_dScrewBreak_CD; }
-double CZEBCMPFiberParm::FIBER_Breakage_dScrewBreak_CB() const { return m_FIBER_Breakage_dScrewBreak_CB; }
-double CZEBCMPFiberParm::FIBER_Breakage_dScrewBreak_S() const { return m_FIBER_Breakage_dScrewBreak_S; }
-int CZEBCMPFiberParm::FIBER_ImproveRPR_iFlagObjectiveARD() const { return m_FIBER_ImproveRPR_iFlagObjectiveARD; }
-int CZEBCMPFiberParm::FIBER_ImproveRPR_iFlagImproveRPR() const { return m_FIBER_ImproveRPR_iFlagImproveRPR; }
-double CZEBCMPFiberParm::FIBER_ImproveRPR_dra_SR() const { return m_FIBER_ImproveRPR_dra_SR; }
-double CZEBCMPFiberParm::FIBER_ImproveRPR_dCI_SR() const { return m_FIBER_ImproveRPR_dCI_SR; }
-double CZEBCMPFiberParm::FIBER_ImproveRPR_dra_N() const { return m_FIBER_ImproveRPR_dra_N; }
-double CZEBCMPFiberParm::FIBER_ImproveRPR_dCI_N() const { return m_FIBER_ImproveRPR_dCI_N; }
-double CZEBCMPFiberParm::FIBER_ImproveRPR_dCI_Kappa() const { return m_FIBER_ImproveRPR_dCI_Kappa; }
-int CZEBCMPFiberParm::FIBER_InletCondition_iInletCondition() const { return m_FIBER_InletCondition_iInletCondition; }
-double CZEBCMPFiberParm::FIBER_InletCondition_da0() const { return m_FIBER_InletCondition_da0; }
-double CZEBCMPFiberParm::FIBER_InletCondition_da1() const { return m_FIBER_InletCondition_da1; }
-double CZEBCMPFiberParm::FIBER_InletCondition_da2() const { return m_FIBER_InletCondition_da2; }
-double CZEBCMPFiberParm::FIBER_InletCondition_da3() const { return m_FIBER_InletCondition_da3; }
-double CZEBCMPFiberParm::FIBER_InletCondition_da4() const { return m_FIBER_InletCondition_da4; }
-double CZEBCMPFiberParm::FIBER_InletCondition_da5() const { return m_FIBER_InletCondition_da5; }
-int CZEBCMPFiberParm::FIBER_FlowCoupling_iFlowCoupling() const { return m_FIBER_FlowCoupling_iFlowCoupling; }
-double CZEBCMPFiberParm::FIBER_FlowCoupling_dCof_N() const { return m_FIBER_FlowCoupling_dCof_N; }
-double CZEBCMPFiberParm::FIBER_FlowCoupling_dCof_C1() const { return m_FIBER_FlowCoupling_dCof_C1; }
-int CZEBCMPFiberParm::FIBER_FlowCoupling_iFixedFiberOrientation() const {
-  return m_FIBER_FlowCoupling_iFixedFiberOrientation;
-}
-int CZEBCMPFiberParm::FIBER_FlowCoupling_iExcludeRunner() const { return m_FIBER_FlowCoupling_iExcludeRunner; }
-double CZEBCMPFiberParm::FIBER_FlowCoupling_dAxx() const { return m_FIBER_FlowCoupling_dAxx; }
-double CZEBCMPFiberParm::FIBER_FlowCoupling_dAyy() const { return m_FIBER_FlowCoupling_dAyy; }
-double CZEBCMPFiberParm::FIBER_FlowCoupling_dAzz() const { return m_FIBER_FlowCoupling_dAzz; }
-int CZEBCMPFiberParm::FIBER_DEBUG_iFlagDebug() const { return m_FIBER_DEBUG_iFlagDebug; }
-double CZEBCMPFiberParm::FIBER_DEBUG_dSmallGradVRatio() const { return m_FIBER_DEBUG_dSmallGradVRatio; }
-int CZEBCMPFiberParm::FIBER_COMPUPARAS_iBreakTransIter() const { return m_FIBER_COMPUPARAS_iBreakTransIter; }
-int CZEBCMPFiberParm::FIBER_COMPUPARAS_iBreakIntegralIter() const { return m_FIBER_COMPUPARAS_iBreakIntegralIter; }
-double CZEBCMPFiberParm::FIBER_COMPUPARAS_dBreakTransMatrixToler() const {
-  return m_FIBER_COMPUPARAS_dBreakTransMatrixToler;
-}
-int CZEBCMPFiberParm::FIBER_COMPUPARAS_iBreakTransMatrixIter() const {
-  return m_FIBER_COMPUPARAS_iBreakTransMatrixIter;
-}
-double CZEBCMPFiberParm::FIBER_LENGTH_DISTRIBUTION_dMean() const { return m_FIBER_LENGTH_DISTRIBUTION_dMean; }
-double CZEBCMPFiberParm::FIBER_LENGTH_DISTRIBUTION_dVariance() const { return m_FIBER_LENGTH_DISTRIBUTION_dVariance; }
+ZEB_GETTERS(CZEBCMPFiberParm, PLOT_DYNAMIC_iFlagIsPlotDynamic, PLOT_DYNAMIC_dExtenRate, PLOT_DYNAMIC_dShearRate,
+            PLOT_DYNAMIC_dObserTime, FIBER_ARD_iFlagIsARD, FIBER_ARD_db1, FIBER_ARD_db2, FIBER_ARD_db3, FIBER_ARD_db4,
+            FIBER_ARD_db5, FIBER_SLOW_iFlagIsSLOW, FIBER_SLOW_dk, FIBER_SLOW_db, FIBER_CLOSURE_iFlagClosureMode,
+            FIBER_Breakage_iFlagBreakage, FIBER_Breakage_iFlagBreakInScrewAndNozzle, FIBER_Breakage_dShearInScrew,
+            FIBER_Breakage_dDurationInScrew, FIBER_Breakage_dShearInNozzle, FIBER_Breakage_dDurationInNozzle,
+            FIBER_Breakage_iFlagScrewOwnBreakSetting, FIBER_Breakage_dScrewBreak_CD, FIBER_Breakage_dScrewBreak_CB,
+            FIBER_Breakage_dScrewBreak_S, FIBER_ImproveRPR_iFlagObjectiveARD, FIBER_ImproveRPR_iFlagImproveRPR,
+            FIBER_ImproveRPR_dra_SR, FIBER_ImproveRPR_dCI_SR, FIBER_ImproveRPR_dra_N, FIBER_ImproveRPR_dCI_N,
+            FIBER_ImproveRPR_dCI_Kappa, FIBER_InletCondition_iInletCondition, FIBER_InletCondition_da0,
+            FIBER_InletCondition_da1, FIBER_InletCondition_da2, FIBER_InletCondition_da3, FIBER_InletCondition_da4,
+            FIBER_InletCondition_da5, FIBER_FlowCoupling_iFlowCoupling, FIBER_FlowCoupling_dCof_N,
+            FIBER_FlowCoupling_dCof_C1, FIBER_FlowCoupling_iFixedFiberOrientation, FIBER_FlowCoupling_iExcludeRunner,
+            FIBER_FlowCoupling_dAxx, FIBER_FlowCoupling_dAyy, FIBER_FlowCoupling_dAzz, FIBER_DEBUG_iFlagDebug,
+            FIBER_DEBUG_dSmallGradVRatio, FIBER_COMPUPARAS_iBreakTransIter, FIBER_COMPUPARAS_iBreakIntegralIter,
+            FIBER_COMPUPARAS_dBreakTransMatrixToler, FIBER_COMPUPARAS_iBreakTransMatrixIter,
+            FIBER_LENGTH_DISTRIBUTION_dMean, FIBER_LENGTH_DISTRIBUTION_dVariance)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPFiberParm>() {
@@ -78,136 +30,126 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPFiberParm>() {
   static constexpr Row kPlotDynamicRows[] = {
       {ZEB_FIELD(PLOT_DYNAMIC_iFlagIsPlotDynamic), .key = "FlagIsPlotDynamic",
        .label = "m_PLOT_DYNAMIC_iFlagIsPlotDynamic", .doc = "Switch: dynamic plot of the fibre models."},
-      {ZEB_FIELD(PLOT_DYNAMIC_dExtenRate), .key = "ExtenRate", .label = "m_PLOT_DYNAMIC_dExtenRate = ",
+      {ZEB_FIELD(PLOT_DYNAMIC_dExtenRate), .key = "ExtenRate", .tabs = kOneSpace,
        .doc = "Reference extension rate of the dynamic plot."},
-      {ZEB_FIELD(PLOT_DYNAMIC_dShearRate), .key = "ShearRate", .label = "m_PLOT_DYNAMIC_dShearRate = ",
+      {ZEB_FIELD(PLOT_DYNAMIC_dShearRate), .key = "ShearRate", .tabs = kOneSpace,
        .doc = "Reference shear rate of the dynamic plot."},
-      {ZEB_FIELD(PLOT_DYNAMIC_dObserTime), .key = "ObserTime", .label = "m_PLOT_DYNAMIC_dObserTime = ",
+      {ZEB_FIELD(PLOT_DYNAMIC_dObserTime), .key = "ObserTime", .tabs = kOneSpace,
        .doc = "Observation time of the dynamic plot."},
   };
   static constexpr Row kArdRows[] = {
-      {ZEB_FIELD(FIBER_ARD_iFlagIsARD), .key = "FlagIsARD", .label = "m_FIBER_ARD_iFlagIsARD = ",
-       .doc = "Switch: ARD orientation model."},
-      {ZEB_FIELD(FIBER_ARD_db1), .key = "b1", .label = "m_FIBER_ARD_db1 = ",
-       .doc = "Coefficient b1 of the ARD orientation model."},
-      {ZEB_FIELD(FIBER_ARD_db2), .key = "b2", .label = "m_FIBER_ARD_db2 = ",
-       .doc = "Coefficient b2 of the ARD orientation model."},
-      {ZEB_FIELD(FIBER_ARD_db3), .key = "b3", .label = "m_FIBER_ARD_db3 = ",
-       .doc = "Coefficient b3 of the ARD orientation model."},
-      {ZEB_FIELD(FIBER_ARD_db4), .key = "b4", .label = "m_FIBER_ARD_db4 = ",
-       .doc = "Coefficient b4 of the ARD orientation model."},
-      {ZEB_FIELD(FIBER_ARD_db5), .key = "b5", .label = "m_FIBER_ARD_db5 = ",
-       .doc = "Coefficient b5 of the ARD orientation model."},
+      {ZEB_FIELD(FIBER_ARD_iFlagIsARD), .key = "FlagIsARD", .tabs = kOneSpace, .doc = "Switch: ARD orientation model."},
+      {ZEB_FIELD(FIBER_ARD_db1), .key = "b1", .tabs = kOneSpace, .doc = "Coefficient b1 of the ARD orientation model."},
+      {ZEB_FIELD(FIBER_ARD_db2), .key = "b2", .tabs = kOneSpace, .doc = "Coefficient b2 of the ARD orientation model."},
+      {ZEB_FIELD(FIBER_ARD_db3), .key = "b3", .tabs = kOneSpace, .doc = "Coefficient b3 of the ARD orientation model."},
+      {ZEB_FIELD(FIBER_ARD_db4), .key = "b4", .tabs = kOneSpace, .doc = "Coefficient b4 of the ARD orientation model."},
+      {ZEB_FIELD(FIBER_ARD_db5), .key = "b5", .tabs = kOneSpace, .doc = "Coefficient b5 of the ARD orientation model."},
   };
   static constexpr Row kSlowRows[] = {
-      {ZEB_FIELD(FIBER_SLOW_iFlagIsSLOW), .key = "FlagIsSLOW", .label = "m_FIBER_SLOW_iFlagIsSLOW = ",
+      {ZEB_FIELD(FIBER_SLOW_iFlagIsSLOW), .key = "FlagIsSLOW", .tabs = kOneSpace,
        .doc = "Switch: SLOW orientation model."},
-      {ZEB_FIELD(FIBER_SLOW_dk), .key = "k", .label = "m_FIBER_SLOW_dk = ",
+      {ZEB_FIELD(FIBER_SLOW_dk), .key = "k", .tabs = kOneSpace,
        .doc = "Coefficient k of the SLOW orientation model; every line with a letter k is taken for it."},
-      {ZEB_FIELD(FIBER_SLOW_db), .key = "b", .label = "m_FIBER_SLOW_db = ",
+      {ZEB_FIELD(FIBER_SLOW_db), .key = "b", .tabs = kOneSpace,
        .doc = "Coefficient b of the SLOW orientation model; every line with a letter b is taken for it."},
   };
   static constexpr Row kClosureRows[] = {
-      {ZEB_FIELD(FIBER_CLOSURE_iFlagClosureMode), .key = "FlagClosureMode",
-       .label = "m_FIBER_CLOSURE_iFlagClosureMode = ", .known = "Closure mode of the orientation tensor."},
+      {ZEB_FIELD(FIBER_CLOSURE_iFlagClosureMode), .key = "FlagClosureMode", .tabs = kOneSpace,
+       .known = "Closure mode of the orientation tensor."},
   };
   static constexpr Row kBreakageRows[] = {
-      {ZEB_FIELD(FIBER_Breakage_iFlagBreakage), .key = "FlagBreakage", .label = "m_FIBER_Breakage_iFlagBreakage = ",
+      {ZEB_FIELD(FIBER_Breakage_iFlagBreakage), .key = "FlagBreakage", .tabs = kOneSpace,
        .doc = "Switch: fibre breakage."},
-      {ZEB_FIELD(FIBER_Breakage_iFlagBreakInScrewAndNozzle), .key = "FlagBreakInScrewAndNozzle",
-       .label = "m_FIBER_Breakage_iFlagBreakInScrewAndNozzle = ", .doc = "Switch: fibre breakage in screw and nozzle."},
-      {ZEB_FIELD(FIBER_Breakage_dShearInScrew), .key = "ShearInScrew", .label = "m_FIBER_Breakage_dShearInScrew = ",
+      {ZEB_FIELD(FIBER_Breakage_iFlagBreakInScrewAndNozzle), .key = "FlagBreakInScrewAndNozzle", .tabs = kOneSpace,
+       .doc = "Switch: fibre breakage in screw and nozzle."},
+      {ZEB_FIELD(FIBER_Breakage_dShearInScrew), .key = "ShearInScrew", .tabs = kOneSpace,
        .known = "Shear of the fibres in the screw."},
-      {ZEB_FIELD(FIBER_Breakage_dDurationInScrew), .key = "DurationInScrew",
-       .label = "m_FIBER_Breakage_dDurationInScrew = ", .doc = "Duration of the shear in the screw."},
-      {ZEB_FIELD(FIBER_Breakage_dShearInNozzle), .key = "ShearInNozzle", .label = "m_FIBER_Breakage_dShearInNozzle = ",
+      {ZEB_FIELD(FIBER_Breakage_dDurationInScrew), .key = "DurationInScrew", .tabs = kOneSpace,
+       .doc = "Duration of the shear in the screw."},
+      {ZEB_FIELD(FIBER_Breakage_dShearInNozzle), .key = "ShearInNozzle", .tabs = kOneSpace,
        .known = "Shear of the fibres in the nozzle."},
-      {ZEB_FIELD(FIBER_Breakage_dDurationInNozzle), .key = "DurationInNozzle",
-       .label = "m_FIBER_Breakage_dDurationInNozzle = ", .doc = "Duration of the shear in the nozzle."},
-      {ZEB_FIELD(FIBER_Breakage_iFlagScrewOwnBreakSetting), .key = "FlagScrewOwnBreakSetting",
-       .label = "m_FIBER_Breakage_iFlagScrewOwnBreakSetting = ",
+      {ZEB_FIELD(FIBER_Breakage_dDurationInNozzle), .key = "DurationInNozzle", .tabs = kOneSpace,
+       .doc = "Duration of the shear in the nozzle."},
+      {ZEB_FIELD(FIBER_Breakage_iFlagScrewOwnBreakSetting), .key = "FlagScrewOwnBreakSetting", .tabs = kOneSpace,
        .doc = "Switch: the screw has breakage coefficients of its own."},
-      {ZEB_FIELD(FIBER_Breakage_dScrewBreak_CD), .key = "ScrewBreak_CD", .label = "m_FIBER_Breakage_dScrewBreak_CD = ",
+      {ZEB_FIELD(FIBER_Breakage_dScrewBreak_CD), .key = "ScrewBreak_CD", .tabs = kOneSpace,
        .doc = "Breakage coefficient CD of the screw."},
-      {ZEB_FIELD(FIBER_Breakage_dScrewBreak_CB), .key = "ScrewBreak_CB", .label = "m_FIBER_Breakage_dScrewBreak_CB = ",
+      {ZEB_FIELD(FIBER_Breakage_dScrewBreak_CB), .key = "ScrewBreak_CB", .tabs = kOneSpace,
        .doc = "Breakage coefficient CB of the screw."},
-      {ZEB_FIELD(FIBER_Breakage_dScrewBreak_S), .key = "ScrewBreak_S", .label = "m_FIBER_Breakage_dScrewBreak_S = ",
+      {ZEB_FIELD(FIBER_Breakage_dScrewBreak_S), .key = "ScrewBreak_S", .tabs = kOneSpace,
        .doc = "Breakage coefficient S of the screw."},
   };
   static constexpr Row kImproveRprRows[] = {
-      {ZEB_FIELD(FIBER_ImproveRPR_iFlagObjectiveARD), .key = "FlagObjectiveARD",
-       .label = "m_FIBER_ImproveRPR_iFlagObjectiveARD = ", .doc = "Switch: objective ARD in the improved RPR model."},
-      {ZEB_FIELD(FIBER_ImproveRPR_iFlagImproveRPR), .key = "FlagImproveRPR",
-       .label = "m_FIBER_ImproveRPR_iFlagImproveRPR = ", .doc = "Switch: improved RPR model."},
-      {ZEB_FIELD(FIBER_ImproveRPR_dra_SR), .key = "ra_SR", .label = "m_FIBER_ImproveRPR_dra_SR = ",
+      {ZEB_FIELD(FIBER_ImproveRPR_iFlagObjectiveARD), .key = "FlagObjectiveARD", .tabs = kOneSpace,
+       .doc = "Switch: objective ARD in the improved RPR model."},
+      {ZEB_FIELD(FIBER_ImproveRPR_iFlagImproveRPR), .key = "FlagImproveRPR", .tabs = kOneSpace,
+       .doc = "Switch: improved RPR model."},
+      {ZEB_FIELD(FIBER_ImproveRPR_dra_SR), .key = "ra_SR", .tabs = kOneSpace,
        .known = "Shear rate of ra in the improved RPR model."},
-      {ZEB_FIELD(FIBER_ImproveRPR_dCI_SR), .key = "CI_SR", .label = "m_FIBER_ImproveRPR_dCI_SR = ",
+      {ZEB_FIELD(FIBER_ImproveRPR_dCI_SR), .key = "CI_SR", .tabs = kOneSpace,
        .known = "Shear rate of CI in the improved RPR model."},
-      {ZEB_FIELD(FIBER_ImproveRPR_dra_N), .key = "ra_N", .label = "m_FIBER_ImproveRPR_dra_N = ",
+      {ZEB_FIELD(FIBER_ImproveRPR_dra_N), .key = "ra_N", .tabs = kOneSpace,
        .known = "Exponent of ra in the improved RPR model."},
-      {ZEB_FIELD(FIBER_ImproveRPR_dCI_N), .key = "CI_N", .label = "m_FIBER_ImproveRPR_dCI_N = ",
+      {ZEB_FIELD(FIBER_ImproveRPR_dCI_N), .key = "CI_N", .tabs = kOneSpace,
        .known = "Exponent of CI in the improved RPR model."},
-      {ZEB_FIELD(FIBER_ImproveRPR_dCI_Kappa), .key = "CI_Kappa", .label = "m_FIBER_ImproveRPR_dCI_Kappa = ",
+      {ZEB_FIELD(FIBER_ImproveRPR_dCI_Kappa), .key = "CI_Kappa", .tabs = kOneSpace,
        .known = "Coefficient kappa of CI in the improved RPR model."},
   };
   static constexpr Row kInletConditionRows[] = {
-      {ZEB_FIELD(FIBER_InletCondition_iInletCondition), .key = "InletCondition",
-       .label = "m_FIBER_InletCondition_iInletCondition = ", .known = "Option of the fibre orientation at the inlet."},
-      {ZEB_FIELD(FIBER_InletCondition_da0), .key = "a0", .label = "m_FIBER_InletCondition_da0 = ",
+      {ZEB_FIELD(FIBER_InletCondition_iInletCondition), .key = "InletCondition", .tabs = kOneSpace,
+       .known = "Option of the fibre orientation at the inlet."},
+      {ZEB_FIELD(FIBER_InletCondition_da0), .key = "a0", .tabs = kOneSpace,
        .doc = "Coefficient a0 of the inlet orientation polynomial."},
-      {ZEB_FIELD(FIBER_InletCondition_da1), .key = "a1", .label = "m_FIBER_InletCondition_da1 = ",
+      {ZEB_FIELD(FIBER_InletCondition_da1), .key = "a1", .tabs = kOneSpace,
        .doc = "Coefficient a1 of the inlet orientation polynomial."},
-      {ZEB_FIELD(FIBER_InletCondition_da2), .key = "a2", .label = "m_FIBER_InletCondition_da2 = ",
+      {ZEB_FIELD(FIBER_InletCondition_da2), .key = "a2", .tabs = kOneSpace,
        .doc = "Coefficient a2 of the inlet orientation polynomial."},
-      {ZEB_FIELD(FIBER_InletCondition_da3), .key = "a3", .label = "m_FIBER_InletCondition_da3 = ",
+      {ZEB_FIELD(FIBER_InletCondition_da3), .key = "a3", .tabs = kOneSpace,
        .doc = "Coefficient a3 of the inlet orientation polynomial."},
-      {ZEB_FIELD(FIBER_InletCondition_da4), .key = "a4", .label = "m_FIBER_InletCondition_da4 = ",
+      {ZEB_FIELD(FIBER_InletCondition_da4), .key = "a4", .tabs = kOneSpace,
        .doc = "Coefficient a4 of the inlet orientation polynomial."},
-      {ZEB_FIELD(FIBER_InletCondition_da5), .key = "a5", .label = "m_FIBER_InletCondition_da5 = ",
+      {ZEB_FIELD(FIBER_InletCondition_da5), .key = "a5", .tabs = kOneSpace,
        .doc = "Coefficient a5 of the inlet orientation polynomial."},
   };
   static constexpr Row kFlowCouplingRows[] = {
-      {ZEB_FIELD(FIBER_FlowCoupling_iFlowCoupling), .key = "FlowCoupling",
-       .label = "m_FIBER_FlowCoupling_iFlowCoupling = ", .doc = "Switch: coupling of flow and fibre orientation."},
-      {ZEB_FIELD(FIBER_FlowCoupling_dCof_N), .key = "Cof_N", .label = "m_FIBER_FlowCoupling_dCof_N = ",
+      {ZEB_FIELD(FIBER_FlowCoupling_iFlowCoupling), .key = "FlowCoupling", .tabs = kOneSpace,
+       .doc = "Switch: coupling of flow and fibre orientation."},
+      {ZEB_FIELD(FIBER_FlowCoupling_dCof_N), .key = "Cof_N", .tabs = kOneSpace,
        .doc = "Coefficient N of the flow coupling."},
-      {ZEB_FIELD(FIBER_FlowCoupling_dCof_C1), .key = "Cof_C1", .label = "m_FIBER_FlowCoupling_dCof_C1 = ",
+      {ZEB_FIELD(FIBER_FlowCoupling_dCof_C1), .key = "Cof_C1", .tabs = kOneSpace,
        .doc = "Coefficient C1 of the flow coupling."},
-      {ZEB_FIELD(FIBER_FlowCoupling_iFixedFiberOrientation), .key = "FixedFiberOrientation",
-       .label = "m_FIBER_FlowCoupling_iFixedFiberOrientation = ",
+      {ZEB_FIELD(FIBER_FlowCoupling_iFixedFiberOrientation), .key = "FixedFiberOrientation", .tabs = kOneSpace,
        .doc = "Switch: flow coupling with a fixed orientation tensor."},
-      {ZEB_FIELD(FIBER_FlowCoupling_iExcludeRunner), .key = "ExcludeRunner",
-       .label = "m_FIBER_FlowCoupling_iExcludeRunner = ", .doc = "Switch: flow coupling leaves the runner out."},
-      {ZEB_FIELD(FIBER_FlowCoupling_dAxx), .key = "Axx", .label = "m_FIBER_FlowCoupling_dAxx = ",
+      {ZEB_FIELD(FIBER_FlowCoupling_iExcludeRunner), .key = "ExcludeRunner", .tabs = kOneSpace,
+       .doc = "Switch: flow coupling leaves the runner out."},
+      {ZEB_FIELD(FIBER_FlowCoupling_dAxx), .key = "Axx", .tabs = kOneSpace,
        .doc = "Component xx of the fixed orientation tensor."},
-      {ZEB_FIELD(FIBER_FlowCoupling_dAyy), .key = "Ayy", .label = "m_FIBER_FlowCoupling_dAyy = ",
+      {ZEB_FIELD(FIBER_FlowCoupling_dAyy), .key = "Ayy", .tabs = kOneSpace,
        .doc = "Component yy of the fixed orientation tensor."},
-      {ZEB_FIELD(FIBER_FlowCoupling_dAzz), .key = "Azz", .label = "m_FIBER_FlowCoupling_dAzz = ",
+      {ZEB_FIELD(FIBER_FlowCoupling_dAzz), .key = "Azz", .tabs = kOneSpace,
        .doc = "Component zz of the fixed orientation tensor."},
   };
   static constexpr Row kDebugRows[] = {
-      {ZEB_FIELD(FIBER_DEBUG_iFlagDebug), .key = "FlagDebug", .label = "m_FIBER_DEBUG_iFlagDebug = ",
+      {ZEB_FIELD(FIBER_DEBUG_iFlagDebug), .key = "FlagDebug", .tabs = kOneSpace,
        .doc = "Switch: debugging of the fibre models."},
-      {ZEB_FIELD(FIBER_DEBUG_dSmallGradVRatio), .key = "SmallGradVRatio", .label = "m_FIBER_DEBUG_dSmallGradVRatio = ",
+      {ZEB_FIELD(FIBER_DEBUG_dSmallGradVRatio), .key = "SmallGradVRatio", .tabs = kOneSpace,
        .known = "Ratio for small velocity gradients."},
   };
   static constexpr Row kCompuParasRows[] = {
-      {ZEB_FIELD(FIBER_COMPUPARAS_iBreakTransIter), .key = "BreakTransIter",
-       .label = "m_FIBER_COMPUPARAS_iBreakTransIter = ", .doc = "Iterations of the breakage transport."},
-      {ZEB_FIELD(FIBER_COMPUPARAS_iBreakIntegralIter), .key = "BreakIntegralIter",
-       .label = "m_FIBER_COMPUPARAS_iBreakIntegralIter = ", .doc = "Iterations of the breakage integral."},
-      {ZEB_FIELD(FIBER_COMPUPARAS_dBreakTransMatrixToler), .key = "BreakTransMatrixToler",
-       .label = "m_FIBER_COMPUPARAS_dBreakTransMatrixToler = ",
+      {ZEB_FIELD(FIBER_COMPUPARAS_iBreakTransIter), .key = "BreakTransIter", .tabs = kOneSpace,
+       .doc = "Iterations of the breakage transport."},
+      {ZEB_FIELD(FIBER_COMPUPARAS_iBreakIntegralIter), .key = "BreakIntegralIter", .tabs = kOneSpace,
+       .doc = "Iterations of the breakage integral."},
+      {ZEB_FIELD(FIBER_COMPUPARAS_dBreakTransMatrixToler), .key = "BreakTransMatrixToler", .tabs = kOneSpace,
        .doc = "Tolerance of the matrix solver for the breakage transport."},
-      {ZEB_FIELD(FIBER_COMPUPARAS_iBreakTransMatrixIter), .key = "BreakTransMatrixIter",
-       .label = "m_FIBER_COMPUPARAS_iBreakTransMatrixIter = ",
+      {ZEB_FIELD(FIBER_COMPUPARAS_iBreakTransMatrixIter), .key = "BreakTransMatrixIter", .tabs = kOneSpace,
        .doc = "Iterations of the matrix solver for the breakage transport."},
   };
   static constexpr Row kLengthDistributionRows[] = {
-      {ZEB_FIELD(FIBER_LENGTH_DISTRIBUTION_dMean), .key = "Mean", .label = "m_FIBER_LENGTH_DISTRIBUTION_dMean = ",
+      {ZEB_FIELD(FIBER_LENGTH_DISTRIBUTION_dMean), .key = "Mean", .tabs = kOneSpace,
        .doc = "Mean of the fibre length distribution."},
-      {ZEB_FIELD(FIBER_LENGTH_DISTRIBUTION_dVariance), .key = "Variance",
-       .label = "m_FIBER_LENGTH_DISTRIBUTION_dVariance = ", .doc = "Variance of the fibre length distribution."},
+      {ZEB_FIELD(FIBER_LENGTH_DISTRIBUTION_dVariance), .key = "Variance", .tabs = kOneSpace,
+       .doc = "Variance of the fibre length distribution."},
   };
   // clang-format on
   static constexpr Section kSections[] = {

@@ -4,15 +4,8 @@
 
 ZEB_DEFAULTED(CZEBCMPHRSchemesParm)
 
-int CZEBCMPHRSchemesParm::iHRMethod() const { return m_iHRMethod; }
-double CZEBCMPHRSchemesParm::dHRKr() const { return m_dHRKr; }
-int CZEBCMPHRSchemesParm::iHRDtMethod() const { return m_iHRDtMethod; }
-int CZEBCMPHRSchemesParm::iHRPhaseField() const { return m_iHRPhaseField; }
-double CZEBCMPHRSchemesParm::dHRCompressiveC() const { return m_dHRCompressiveC; }
-double CZEBCMPHRSchemesParm::dHRRatio() const { return m_dHRRatio; }
-int CZEBCMPHRSchemesParm::iHRSkewness() const { return m_iHRSkewness; }
-double CZEBCMPHRSchemesParm::dFCRI() const { return m_dFCRI; }
-int CZEBCMPHRSchemesParm::iNSmoothVolF() const { return m_iNSmoothVolF; }
+ZEB_GETTERS(CZEBCMPHRSchemesParm, iHRMethod, dHRKr, iHRDtMethod, iHRPhaseField, dHRCompressiveC, dHRRatio, iHRSkewness,
+            dFCRI, iNSmoothVolF)
 
 void CZEBCMPHRSchemesParm::SetHRMethod(int value) { m_iHRMethod = value; }
 

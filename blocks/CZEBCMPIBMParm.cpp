@@ -4,7 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMPIBMParm)
 
-int CZEBCMPIBMParm::iIsIBM() const { return m_iIsIBM; }
+ZEB_GETTERS(CZEBCMPIBMParm, iIsIBM)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPIBMParm>() {

@@ -4,9 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMPInletVelocitySettingParm)
 
-int CZEBCMPInletVelocitySettingParm::iCalcInletVelo() const { return m_iCalcInletVelo; }
-int CZEBCMPInletVelocitySettingParm::iMaxIterationNo() const { return m_iMaxIterationNo; }
-double CZEBCMPInletVelocitySettingParm::dCriterion() const { return m_dCriterion; }
+ZEB_GETTERS(CZEBCMPInletVelocitySettingParm, iCalcInletVelo, iMaxIterationNo, dCriterion)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPInletVelocitySettingParm>() {

@@ -5,78 +5,16 @@
 
 ZEB_DEFAULTED(CZEBCMPIteratParm)
 
-int CZEBCMPIteratParm::ilsolvU() const { return m_ilsolvU; }
-int CZEBCMPIteratParm::ilsolvV() const { return m_ilsolvV; }
-int CZEBCMPIteratParm::ilsolvW() const { return m_ilsolvW; }
-int CZEBCMPIteratParm::ilsolvP() const { return m_ilsolvP; }
-int CZEBCMPIteratParm::ilsolvF() const { return m_ilsolvF; }
-int CZEBCMPIteratParm::ilsolvT() const { return m_ilsolvT; }
-int CZEBCMPIteratParm::iNRestartIU() const { return m_iNRestartIU; }
-int CZEBCMPIteratParm::iNRestartIV() const { return m_iNRestartIV; }
-int CZEBCMPIteratParm::iNRestartIW() const { return m_iNRestartIW; }
-int CZEBCMPIteratParm::iNRestartIP() const { return m_iNRestartIP; }
-int CZEBCMPIteratParm::iPreCond() const { return m_iPreCond; }
-int CZEBCMPIteratParm::iNiter() const { return m_iNiter; }
-int CZEBCMPIteratParm::iiterStep() const { return m_iiterStep; }
-int CZEBCMPIteratParm::iijPresFix() const { return m_iijPresFix; }
-int CZEBCMPIteratParm::iijProb() const { return m_iijProb; }
-int CZEBCMPIteratParm::iNPPCorr() const { return m_iNPPCorr; }
-int CZEBCMPIteratParm::iNiterGrad() const { return m_iNiterGrad; }
-int CZEBCMPIteratParm::iNTimeStep() const { return m_iNTimeStep; }
-int CZEBCMPIteratParm::iTimeStep() const { return m_iTimeStep; }
-double CZEBCMPIteratParm::ddt() const { return m_ddt; }
-double CZEBCMPIteratParm::dBlendTime() const { return m_dBlendTime; }
-double CZEBCMPIteratParm::dtoler() const { return m_dtoler; }
-double CZEBCMPIteratParm::dBlendIU() const { return m_dBlendIU; }
-double CZEBCMPIteratParm::dBlendIV() const { return m_dBlendIV; }
-double CZEBCMPIteratParm::dBlendIW() const { return m_dBlendIW; }
-double CZEBCMPIteratParm::dBlendIP() const { return m_dBlendIP; }
-double CZEBCMPIteratParm::dBlendIF() const { return m_dBlendIF; }
-double CZEBCMPIteratParm::dBlendIT() const { return m_dBlendIT; }
-int CZEBCMPIteratParm::iNiterInIU() const { return m_iNiterInIU; }
-int CZEBCMPIteratParm::iNiterInIV() const { return m_iNiterInIV; }
-int CZEBCMPIteratParm::iNiterInIW() const { return m_iNiterInIW; }
-int CZEBCMPIteratParm::iNiterInIP() const { return m_iNiterInIP; }
-int CZEBCMPIteratParm::iNiterInIF() const { return m_iNiterInIF; }
-int CZEBCMPIteratParm::iNiterInIT() const { return m_iNiterInIT; }
-double CZEBCMPIteratParm::dtolerInIU() const { return m_dtolerInIU; }
-double CZEBCMPIteratParm::dtolerInIV() const { return m_dtolerInIV; }
-double CZEBCMPIteratParm::dtolerInIW() const { return m_dtolerInIW; }
-double CZEBCMPIteratParm::dtolerInIP() const { return m_dtolerInIP; }
-double CZEBCMPIteratParm::dtolerInIF() const { return m_dtolerInIF; }
-double CZEBCMPIteratParm::dtolerInIT() const { return m_dtolerInIT; }
-double CZEBCMPIteratParm::drelaxIU() const { return m_drelaxIU; }
-double CZEBCMPIteratParm::drelaxIV() const { return m_drelaxIV; }
-double CZEBCMPIteratParm::drelaxIW() const { return m_drelaxIW; }
-double CZEBCMPIteratParm::drelaxIP() const { return m_drelaxIP; }
-double CZEBCMPIteratParm::drelaxIF() const { return m_drelaxIF; }
-double CZEBCMPIteratParm::drelaxIT() const { return m_drelaxIT; }
-int CZEBCMPIteratParm::ilCmpChk() const { return m_ilCmpChk; }
-double CZEBCMPIteratParm::dSRRelax() const { return m_dSRRelax; }
-double CZEBCMPIteratParm::dVisRelax() const { return m_dVisRelax; }
-int CZEBCMPIteratParm::iCouple_Type() const { return m_iCouple_Type; }
-double CZEBCMPIteratParm::dnonOrthLimitFactor() const { return m_dnonOrthLimitFactor; }
-double CZEBCMPIteratParm::dCMPMoreParmVersion() const { return m_dCMPMoreParmVersion; }
-int CZEBCMPIteratParm::iIsLowTempVisCorr() const { return m_iIsLowTempVisCorr; }
-double CZEBCMPIteratParm::dMat_CrossModel2_VisEps() const { return m_dMat_CrossModel2_VisEps; }
-double CZEBCMPIteratParm::dVisTempLimiter() const { return m_dVisTempLimiter; }
-int CZEBCMPIteratParm::iIsFaceMassFluxStab() const { return m_iIsFaceMassFluxStab; }
-double CZEBCMPIteratParm::dMat_CrossModel_Ts() const { return m_dMat_CrossModel_Ts; }
-double CZEBCMPIteratParm::dMat_CrossModel_TTx() const { return m_dMat_CrossModel_TTx; }
-double CZEBCMPIteratParm::dMat_CrossModel_TTxSlp() const { return m_dMat_CrossModel_TTxSlp; }
-int CZEBCMPIteratParm::iSpruePressCorrLevel() const { return m_iSpruePressCorrLevel; }
-double CZEBCMPIteratParm::dUltraHighSRVisTuning() const { return m_dUltraHighSRVisTuning; }
-double CZEBCMPIteratParm::dtolerP() const { return m_dtolerP; }
-double CZEBCMPIteratParm::dWireEffectWeighting() const { return m_dWireEffectWeighting; }
-int CZEBCMPIteratParm::iIsToUseMomSink() const { return m_iIsToUseMomSink; }
-int CZEBCMPIteratParm::iNotToUseBinary() const { return m_iNotToUseBinary; }
-int CZEBCMPIteratParm::iMFVDebug() const { return m_iMFVDebug; }
-int CZEBCMPIteratParm::iLevel1() const { return m_iLevel1; }
-int CZEBCMPIteratParm::iLevel2() const { return m_iLevel2; }
-int CZEBCMPIteratParm::iOutputMaxShearStressShearRate() const { return m_iOutputMaxShearStressShearRate; }
-int CZEBCMPIteratParm::iIsUseVolFDLL() const { return m_iIsUseVolFDLL; }
-int CZEBCMPIteratParm::iIsSurfaceTension() const { return m_iIsSurfaceTension; }
-double CZEBCMPIteratParm::dHighTempEPS() const { return m_dHighTempEPS; }
+ZEB_GETTERS(CZEBCMPIteratParm, ilsolvU, ilsolvV, ilsolvW, ilsolvP, ilsolvF, ilsolvT, iNRestartIU, iNRestartIV,
+            iNRestartIW, iNRestartIP, iPreCond, iNiter, iiterStep, iijPresFix, iijProb, iNPPCorr, iNiterGrad,
+            iNTimeStep, iTimeStep, ddt, dBlendTime, dtoler, dBlendIU, dBlendIV, dBlendIW, dBlendIP, dBlendIF, dBlendIT,
+            iNiterInIU, iNiterInIV, iNiterInIW, iNiterInIP, iNiterInIF, iNiterInIT, dtolerInIU, dtolerInIV, dtolerInIW,
+            dtolerInIP, dtolerInIF, dtolerInIT, drelaxIU, drelaxIV, drelaxIW, drelaxIP, drelaxIF, drelaxIT, ilCmpChk,
+            dSRRelax, dVisRelax, iCouple_Type, dnonOrthLimitFactor, dCMPMoreParmVersion, iIsLowTempVisCorr,
+            dMat_CrossModel2_VisEps, dVisTempLimiter, iIsFaceMassFluxStab, dMat_CrossModel_Ts, dMat_CrossModel_TTx,
+            dMat_CrossModel_TTxSlp, iSpruePressCorrLevel, dUltraHighSRVisTuning, dtolerP, dWireEffectWeighting,
+            iIsToUseMomSink, iNotToUseBinary, iMFVDebug, iLevel1, iLevel2, iOutputMaxShearStressShearRate,
+            iIsUseVolFDLL, iIsSurfaceTension, dHighTempEPS)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPIteratParm>() {

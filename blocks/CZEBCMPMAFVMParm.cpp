@@ -4,9 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMPMAFVMParm)
 
-int CZEBCMPMAFVMParm::iIsMAFVM() const { return m_iIsMAFVM; }
-int CZEBCMPMAFVMParm::iIsMAFVM_Flow() const { return m_iIsMAFVM_Flow; }
-int CZEBCMPMAFVMParm::iIsMAFVM_Thermal() const { return m_iIsMAFVM_Thermal; }
+ZEB_GETTERS(CZEBCMPMAFVMParm, iIsMAFVM, iIsMAFVM_Flow, iIsMAFVM_Thermal)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPMAFVMParm>() {

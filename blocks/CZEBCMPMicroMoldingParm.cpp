@@ -4,12 +4,8 @@
 
 ZEB_DEFAULTED(CZEBCMPMicroMoldingParm)
 
-int CZEBCMPMicroMoldingParm::iFlagMicroMolding() const { return m_iFlagMicroMolding; }
-double CZEBCMPMicroMoldingParm::dRunnerHTC() const { return m_dRunnerHTC; }
-double CZEBCMPMicroMoldingParm::dCavityHTC() const { return m_dCavityHTC; }
-double CZEBCMPMicroMoldingParm::dRunnerCeLowerBound() const { return m_dRunnerCeLowerBound; }
-double CZEBCMPMicroMoldingParm::dCavityCeLowerBound() const { return m_dCavityCeLowerBound; }
-int CZEBCMPMicroMoldingParm::iIsCTGSTLRunner() const { return m_iIsCTGSTLRunner; }
+ZEB_GETTERS(CZEBCMPMicroMoldingParm, iFlagMicroMolding, dRunnerHTC, dCavityHTC, dRunnerCeLowerBound,
+            dCavityCeLowerBound, iIsCTGSTLRunner)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPMicroMoldingParm>() {

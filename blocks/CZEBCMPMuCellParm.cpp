@@ -5,10 +5,9 @@
 
 ZEB_DEFAULTED(CZEBCMPMuCellParm)
 
-int CZEBCMPMuCellParm::iIsViscoFacByFoaming() const { return m_iIsViscoFacByFoaming; }
-int CZEBCMPMuCellParm::iViscoFoamMixingMethod() const { return m_iViscoFoamMixingMethod; }
+ZEB_GETTERS(CZEBCMPMuCellParm, iIsViscoFacByFoaming, iViscoFoamMixingMethod)
 int CZEBCMPMuCellParm::OutputBubbleNucleationAndGrowthRate() const { return m_iIsOutputBubbleNucleationAndGrowthRate; }
-int CZEBCMPMuCellParm::iCpFoamMixingMethod() const { return m_iCpFoamMixingMethod; }
+ZEB_GETTERS(CZEBCMPMuCellParm, iCpFoamMixingMethod)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPMuCellParm>() {

@@ -4,18 +4,9 @@
 
 ZEB_DEFAULTED(CZEBCMPMultiGateParm)
 
-int CZEBCMPMultiGateParm::iMultipleGateDebug() const { return m_iMultipleGateDebug; }
-int CZEBCMPMultiGateParm::iMultipleGateMethod() const { return m_iMultipleGateMethod; }
-int CZEBCMPMultiGateParm::iMultipleGateType() const { return m_iMultipleGateType; }
-int CZEBCMPMultiGateParm::iMultipleGateByTimeStep() const { return m_iMultipleGateByTimeStep; }
-double CZEBCMPMultiGateParm::dMultipleGateByVolume() const { return m_dMultipleGateByVolume; }
-double CZEBCMPMultiGateParm::dMultipleGateByCtrlCRRatio() const { return m_dMultipleGateByCtrlCRRatio; }
-int CZEBCMPMultiGateParm::iMultiGateOuteriteration() const { return m_iMultiGateOuteriteration; }
-double CZEBCMPMultiGateParm::dMultipleGateTolTargetQ() const { return m_dMultipleGateTolTargetQ; }
-double CZEBCMPMultiGateParm::dMultipleGateSPAdjustCoeff() const { return m_dMultipleGateSPAdjustCoeff; }
-double CZEBCMPMultiGateParm::dMultipleGateTolInletQ() const { return m_dMultipleGateTolInletQ; }
-double CZEBCMPMultiGateParm::dMultipleGateSPVariationLimit() const { return m_dMultipleGateSPVariationLimit; }
-int CZEBCMPMultiGateParm::iNumberofInletGroups() const { return m_iNumberofInletGroups; }
+ZEB_GETTERS(CZEBCMPMultiGateParm, iMultipleGateDebug, iMultipleGateMethod, iMultipleGateType, iMultipleGateByTimeStep,
+            dMultipleGateByVolume, dMultipleGateByCtrlCRRatio, iMultiGateOuteriteration, dMultipleGateTolTargetQ,
+            dMultipleGateSPAdjustCoeff, dMultipleGateTolInletQ, dMultipleGateSPVariationLimit, iNumberofInletGroups)
 const double* CZEBCMPMultiGateParm::pdInletWeightings() const { return m_pdInletWeightings.get(); }
 
 int CZEBCMPMultiGateParm::InletWeightings(double* out) const {

@@ -4,8 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMPOutletParm)
 
-int CZEBCMPOutletParm::iIsOutlet() const { return m_iIsOutlet; }
-double CZEBCMPOutletParm::dAirPressure() const { return m_dAirPressure; }
+ZEB_GETTERS(CZEBCMPOutletParm, iIsOutlet, dAirPressure)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPOutletParm>() {

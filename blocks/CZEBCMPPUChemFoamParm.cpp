@@ -4,22 +4,10 @@
 
 ZEB_DEFAULTED(CZEBCMPPUChemFoamParm)
 
-int CZEBCMPPUChemFoamParm::iIsPUChemFoam() const { return m_iIsPUChemFoam; }
-double CZEBCMPPUChemFoamParm::dPUConcentration_polyol() const { return m_dPUConcentration_polyol; }
-double CZEBCMPPUChemFoamParm::dPUConcentration_isocyanate() const { return m_dPUConcentration_isocyanate; }
-double CZEBCMPPUChemFoamParm::dPUConcentration_water() const { return m_dPUConcentration_water; }
-double CZEBCMPPUChemFoamParm::dPUReactionHeat_gelling() const { return m_dPUReactionHeat_gelling; }
-double CZEBCMPPUChemFoamParm::dPUReactionHeat_blowing() const { return m_dPUReactionHeat_blowing; }
-double CZEBCMPPUChemFoamParm::dPUA_gelling() const { return m_dPUA_gelling; }
-double CZEBCMPPUChemFoamParm::dPUEa_gelling() const { return m_dPUEa_gelling; }
-double CZEBCMPPUChemFoamParm::dPUA_blowing() const { return m_dPUA_blowing; }
-double CZEBCMPPUChemFoamParm::dPUEa_blowing() const { return m_dPUEa_blowing; }
-double CZEBCMPPUChemFoamParm::dPUDelayTime() const { return m_dPUDelayTime; }
-double CZEBCMPPUChemFoamParm::dPUCompressibleFactor() const { return m_dPUCompressibleFactor; }
-int CZEBCMPPUChemFoamParm::iPUKineticModel() const { return m_iPUKineticModel; }
-double CZEBCMPPUChemFoamParm::dPUVis_Gas_ParmN() const { return m_dPUVis_Gas_ParmN; }
-double CZEBCMPPUChemFoamParm::dPUExpansionRatio() const { return m_dPUExpansionRatio; }
-double CZEBCMPPUChemFoamParm::dKineticParasbyMacro() const { return m_dKineticParasbyMacro; }
+ZEB_GETTERS(CZEBCMPPUChemFoamParm, iIsPUChemFoam, dPUConcentration_polyol, dPUConcentration_isocyanate,
+            dPUConcentration_water, dPUReactionHeat_gelling, dPUReactionHeat_blowing, dPUA_gelling, dPUEa_gelling,
+            dPUA_blowing, dPUEa_blowing, dPUDelayTime, dPUCompressibleFactor, iPUKineticModel, dPUVis_Gas_ParmN,
+            dPUExpansionRatio, dKineticParasbyMacro)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPPUChemFoamParm>() {

@@ -4,19 +4,8 @@
 
 ZEB_DEFAULTED(CZEBCMPPVTcParm)
 
-int CZEBCMPPVTcParm::iIsPVTc() const { return m_iIsPVTc; }
-double CZEBCMPPVTcParm::dPVTc_a0() const { return m_dPVTc_a0; }
-double CZEBCMPPVTcParm::dPVTc_a1() const { return m_dPVTc_a1; }
-double CZEBCMPPVTcParm::dPVTc_a2() const { return m_dPVTc_a2; }
-double CZEBCMPPVTcParm::dPVTc_b0() const { return m_dPVTc_b0; }
-double CZEBCMPPVTcParm::dPVTc_b1() const { return m_dPVTc_b1; }
-double CZEBCMPPVTcParm::dPVTc_b2() const { return m_dPVTc_b2; }
-double CZEBCMPPVTcParm::dPVTc_c0() const { return m_dPVTc_c0; }
-double CZEBCMPPVTcParm::dPVTc_c1() const { return m_dPVTc_c1; }
-double CZEBCMPPVTcParm::dPVTc_c2() const { return m_dPVTc_c2; }
-double CZEBCMPPVTcParm::dPVTc_d0() const { return m_dPVTc_d0; }
-double CZEBCMPPVTcParm::dPVTc_d1() const { return m_dPVTc_d1; }
-double CZEBCMPPVTcParm::dPVTc_d2() const { return m_dPVTc_d2; }
+ZEB_GETTERS(CZEBCMPPVTcParm, iIsPVTc, dPVTc_a0, dPVTc_a1, dPVTc_a2, dPVTc_b0, dPVTc_b1, dPVTc_b2, dPVTc_c0, dPVTc_c1,
+            dPVTc_c2, dPVTc_d0, dPVTc_d1, dPVTc_d2)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPPVTcParm>() {

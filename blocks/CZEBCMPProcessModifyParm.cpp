@@ -4,8 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMPProcessModifyParm)
 
-double CZEBCMPProcessModifyParm::dProcessFRChangeUpperBound() const { return m_dProcessFRChangeUpperBound; }
-double CZEBCMPProcessModifyParm::dProcessFRChangeLowerBound() const { return m_dProcessFRChangeLowerBound; }
+ZEB_GETTERS(CZEBCMPProcessModifyParm, dProcessFRChangeUpperBound, dProcessFRChangeLowerBound)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPProcessModifyParm>() {

@@ -17,67 +17,16 @@ constexpr std::string_view kVentKey = "VentInletID";
 
 ZEB_DEFAULTED(CZEBCMPRTMParm)
 
-int CZEBCMPRTMParm::iUseDllTemp() const { return m_iUseDllTemp; }
-int CZEBCMPRTMParm::iOutputM3K() const { return m_iOutputM3K; }
-int CZEBCMPRTMParm::iUseMessage() const { return m_iUseMessage; }
-int CZEBCMPRTMParm::iShowVentBC() const { return m_iShowVentBC; }
-int CZEBCMPRTMParm::iUseShowK11() const { return m_iUseShowK11; }
-int CZEBCMPRTMParm::iUseShowK22() const { return m_iUseShowK22; }
-int CZEBCMPRTMParm::iUseShowK33() const { return m_iUseShowK33; }
-int CZEBCMPRTMParm::iSurf_XYZ() const { return m_iSurf_XYZ; }
-int CZEBCMPRTMParm::iCell_XYZ() const { return m_iCell_XYZ; }
-int CZEBCMPRTMParm::iOutputKPTID() const { return m_iOutputKPTID; }
-int CZEBCMPRTMParm::iUseErrMesh() const { return m_iUseErrMesh; }
-int CZEBCMPRTMParm::iUsePARDISO() const { return m_iUsePARDISO; }
-int CZEBCMPRTMParm::iUsePCG() const { return m_iUsePCG; }
-int CZEBCMPRTMParm::iRTMAlgorithm() const { return m_iRTMAlgorithm; }
-int CZEBCMPRTMParm::iVoidPrediction() const { return m_iVoidPrediction; }
-double CZEBCMPRTMParm::dKTube() const { return m_dKTube; }
-double CZEBCMPRTMParm::dKTow() const { return m_dKTow; }
-double CZEBCMPRTMParm::dTowThick() const { return m_dTowThick; }
-double CZEBCMPRTMParm::dMacroCoeff1() const { return m_dMacroCoeff1; }
-double CZEBCMPRTMParm::dMacroCoeff2() const { return m_dMacroCoeff2; }
-double CZEBCMPRTMParm::dmicroCoeff1() const { return m_dmicroCoeff1; }
-double CZEBCMPRTMParm::dmicroCoeff2() const { return m_dmicroCoeff2; }
-double CZEBCMPRTMParm::dRTMTimeConstant() const { return m_dRTMTimeConstant; }
-double CZEBCMPRTMParm::dTCTol() const { return m_dTCTol; }
-int CZEBCMPRTMParm::iGCStable() const { return m_iGCStable; }
-int CZEBCMPRTMParm::iUseSetInitialdt() const { return m_iUseSetInitialdt; }
-int CZEBCMPRTMParm::iBarrelPressureDrop() const { return m_iBarrelPressureDrop; }
-double CZEBCMPRTMParm::dBarrelHTop() const { return m_dBarrelHTop; }
-double CZEBCMPRTMParm::dBarrelHBottom() const { return m_dBarrelHBottom; }
-double CZEBCMPRTMParm::dBarrelDiameter() const { return m_dBarrelDiameter; }
-double CZEBCMPRTMParm::dInletH() const { return m_dInletH; }
-int CZEBCMPRTMParm::iUseFiberConv() const { return m_iUseFiberConv; }
-double CZEBCMPRTMParm::dDenfiber() const { return m_dDenfiber; }
-double CZEBCMPRTMParm::dDenresin() const { return m_dDenresin; }
-double CZEBCMPRTMParm::dCpfiber() const { return m_dCpfiber; }
-double CZEBCMPRTMParm::dCpresin() const { return m_dCpresin; }
-double CZEBCMPRTMParm::dKfiber() const { return m_dKfiber; }
-double CZEBCMPRTMParm::dKresin() const { return m_dKresin; }
-int CZEBCMPRTMParm::iUseAirP() const { return m_iUseAirP; }
-double CZEBCMPRTMParm::dVentPressure() const { return m_dVentPressure; }
-int CZEBCMPRTMParm::iUseShowFiberOnly() const { return m_iUseShowFiberOnly; }
-int CZEBCMPRTMParm::iOutputFiberMatOrient() const { return m_iOutputFiberMatOrient; }
-int CZEBCMPRTMParm::iRTMTubeRunner() const { return m_iRTMTubeRunner; }
-int CZEBCMPRTMParm::iRTMVentingBoundaryConditionType() const { return m_iRTMVentingBoundaryConditionType; }
-int CZEBCMPRTMParm::iRTMCureSpeedUp() const { return m_iRTMCureSpeedUp; }
-int CZEBCMPRTMParm::iUseRTMPultrusionPreprocessor() const { return m_iUseRTMPultrusionPreprocessor; }
-int CZEBCMPRTMParm::iUseRTMPultrusionCalc() const { return m_iUseRTMPultrusionCalc; }
-double CZEBCMPRTMParm::dPultrusionPorosity() const { return m_dPultrusionPorosity; }
-double CZEBCMPRTMParm::dPultrusionK11() const { return m_dPultrusionK11; }
-double CZEBCMPRTMParm::dPultrusionK33() const { return m_dPultrusionK33; }
-double CZEBCMPRTMParm::dPultrusionVelocity() const { return m_dPultrusionVelocity; }
-int CZEBCMPRTMParm::iUseOutletVelBC() const { return m_iUseOutletVelBC; }
-int CZEBCMPRTMParm::iUseDrapePorosity() const { return m_iUseDrapePorosity; }
-int CZEBCMPRTMParm::iReadFilePorosity() const { return m_iReadFilePorosity; }
-double CZEBCMPRTMParm::dModifyProperitybyPressure_Coeff() const { return m_dModifyProperitybyPressure_Coeff; }
-double CZEBCMPRTMParm::dModifyProperitybyPressure_P0() const { return m_dModifyProperitybyPressure_P0; }
-int CZEBCMPRTMParm::iModifyProperitybyFiberAngle() const { return m_iModifyProperitybyFiberAngle; }
-int CZEBCMPRTMParm::iUseKozenyCarmanShearAngle() const { return m_iUseKozenyCarmanShearAngle; }
-int CZEBCMPRTMParm::iOutputErrorMesh() const { return m_iOutputErrorMesh; }
-int CZEBCMPRTMParm::iIsVentInlet() const { return m_iIsVentInlet; }
-int CZEBCMPRTMParm::iNVentInlet() const { return m_iNVentInlet; }
+ZEB_GETTERS(CZEBCMPRTMParm, iUseDllTemp, iOutputM3K, iUseMessage, iShowVentBC, iUseShowK11, iUseShowK22, iUseShowK33,
+            iSurf_XYZ, iCell_XYZ, iOutputKPTID, iUseErrMesh, iUsePARDISO, iUsePCG, iRTMAlgorithm, iVoidPrediction,
+            dKTube, dKTow, dTowThick, dMacroCoeff1, dMacroCoeff2, dmicroCoeff1, dmicroCoeff2, dRTMTimeConstant, dTCTol,
+            iGCStable, iUseSetInitialdt, iBarrelPressureDrop, dBarrelHTop, dBarrelHBottom, dBarrelDiameter, dInletH,
+            iUseFiberConv, dDenfiber, dDenresin, dCpfiber, dCpresin, dKfiber, dKresin, iUseAirP, dVentPressure,
+            iUseShowFiberOnly, iOutputFiberMatOrient, iRTMTubeRunner, iRTMVentingBoundaryConditionType, iRTMCureSpeedUp,
+            iUseRTMPultrusionPreprocessor, iUseRTMPultrusionCalc, dPultrusionPorosity, dPultrusionK11, dPultrusionK33,
+            dPultrusionVelocity, iUseOutletVelBC, iUseDrapePorosity, iReadFilePorosity,
+            dModifyProperitybyPressure_Coeff, dModifyProperitybyPressure_P0, iModifyProperitybyFiberAngle,
+            iUseKozenyCarmanShearAngle, iOutputErrorMesh, iIsVentInlet, iNVentInlet)
 
 int CZEBCMPRTMParm::getVentInletID(int* out) const {
   if (m_iNVentInlet < 1) return 0;

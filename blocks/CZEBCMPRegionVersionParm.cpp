@@ -4,7 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMPRegionVersionParm)
 
-int CZEBCMPRegionVersionParm::iRegionVersion() const { return m_iRegionVersion; }
+ZEB_GETTERS(CZEBCMPRegionVersionParm, iRegionVersion)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPRegionVersionParm>() {

@@ -5,11 +5,7 @@
 ZEB_DEFAULTED(CZEBCMPSAMGCtrlParm)
 
 int CZEBCMPSAMGCtrlParm::DebugMode() const { return m_iDebugMode; }
-int CZEBCMPSAMGCtrlParm::n_Default() const { return m_n_Default; }
-int CZEBCMPSAMGCtrlParm::n_nrd() const { return m_n_nrd; }
-int CZEBCMPSAMGCtrlParm::n_levelx() const { return m_n_levelx; }
-int CZEBCMPSAMGCtrlParm::n_nru() const { return m_n_nru; }
-int CZEBCMPSAMGCtrlParm::n_RES_SCRATCH() const { return m_n_RES_SCRATCH; }
+ZEB_GETTERS(CZEBCMPSAMGCtrlParm, n_Default, n_nrd, n_levelx, n_nru, n_RES_SCRATCH)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPSAMGCtrlParm>() {

@@ -4,8 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMPShortShotParm)
 
-double CZEBCMPShortShotParm::dTimeLimit() const { return m_dTimeLimit; }
-double CZEBCMPShortShotParm::dFRLimit() const { return m_dFRLimit; }
+ZEB_GETTERS(CZEBCMPShortShotParm, dTimeLimit, dFRLimit)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMPShortShotParm>() {

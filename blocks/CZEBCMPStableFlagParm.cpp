@@ -4,11 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMPStableFlagParm)
 
-int CZEBCMPStableFlagParm::nSmooth_dP() const { return m_nSmooth_dP; }
-int CZEBCMPStableFlagParm::nPJMSmooth_dP() const { return m_nPJMSmooth_dP; }
-int CZEBCMPStableFlagParm::iGradType() const { return m_iGradType; }
-int CZEBCMPStableFlagParm::iRead_f2f() const { return m_iRead_f2f; }
-int CZEBCMPStableFlagParm::iIterNum_MeltFrontTemperature() const { return m_iIterNum_MeltFrontTemperature; }
+ZEB_GETTERS(CZEBCMPStableFlagParm, nSmooth_dP, nPJMSmooth_dP, iGradType, iRead_f2f, iIterNum_MeltFrontTemperature)
 
 void CZEBCMPStableFlagParm::SetnSmooth_dP(int value) { m_nSmooth_dP = value; }
 void CZEBCMPStableFlagParm::SetnPJMSmooth_dP(int value) { m_nPJMSmooth_dP = value; }

@@ -4,14 +4,8 @@
 
 ZEB_DEFAULTED(CZEBCMPTimeStepSizeCtrlParm)
 
-int CZEBCMPTimeStepSizeCtrlParm::iNewMethod() const { return m_iNewMethod; }
-double CZEBCMPTimeStepSizeCtrlParm::dInitialDt() const { return m_dInitialDt; }
-int CZEBCMPTimeStepSizeCtrlParm::iVof_Scheme() const { return m_iVof_Scheme; }
-int CZEBCMPTimeStepSizeCtrlParm::iHRVof() const { return m_iHRVof; }
-double CZEBCMPTimeStepSizeCtrlParm::dFixDt() const { return m_dFixDt; }
-int CZEBCMPTimeStepSizeCtrlParm::iMFType() const { return m_iMFType; }
-int CZEBCMPTimeStepSizeCtrlParm::iRTMVof() const { return m_iRTMVof; }
-int CZEBCMPTimeStepSizeCtrlParm::iRTMFrontNSubdt() const { return m_iRTMFrontNSubdt; }
+ZEB_GETTERS(CZEBCMPTimeStepSizeCtrlParm, iNewMethod, dInitialDt, iVof_Scheme, iHRVof, dFixDt, iMFType, iRTMVof,
+            iRTMFrontNSubdt)
 
 void CZEBCMPTimeStepSizeCtrlParm::SetFixDt(double value) { m_dFixDt = value; }
 void CZEBCMPTimeStepSizeCtrlParm::SetHRVof(int value) { m_iHRVof = value; }

@@ -24,15 +24,8 @@ constexpr zeb::Row coordinate(zeb::Field points, int point, Axis axis, std::stri
 
 ZEB_DEFAULTED(CZEBCMPUNFSettingParm)
 
-double CZEBCMPUNFSettingParm::dVofInter() const { return m_dVofInter; }
-double CZEBCMPUNFSettingParm::dContactAngle() const { return m_dContactAngle; }
-double CZEBCMPUNFSettingParm::dSTCoeff() const { return m_dSTCoeff; }
-double CZEBCMPUNFSettingParm::dDeng() const { return m_dDeng; }
-double CZEBCMPUNFSettingParm::dDenl() const { return m_dDenl; }
-double CZEBCMPUNFSettingParm::dVisg() const { return m_dVisg; }
-double CZEBCMPUNFSettingParm::dVisl() const { return m_dVisl; }
-int CZEBCMPUNFSettingParm::iFillType() const { return m_iFillType; }
-int CZEBCMPUNFSettingParm::iNDispenserPass() const { return m_iNDispenserPass; }
+ZEB_GETTERS(CZEBCMPUNFSettingParm, dVofInter, dContactAngle, dSTCoeff, dDeng, dDenl, dVisg, dVisl, iFillType,
+            iNDispenserPass)
 
 int CZEBCMPUNFSettingParm::dDispenser(double** points, double& speed) const {
   speed = m_dDispenserSpeed;

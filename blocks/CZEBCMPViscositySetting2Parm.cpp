@@ -4,31 +4,11 @@
 
 ZEB_DEFAULTED(CZEBCMPViscositySetting2Parm)
 
-double CZEBCMPViscositySetting2Parm::dMaxVis() const { return m_dMaxVis; }
-double CZEBCMPViscositySetting2Parm::dMinVis() const { return m_dMinVis; }
-double CZEBCMPViscositySetting2Parm::dMaxSR() const { return m_dMaxSR; }
-double CZEBCMPViscositySetting2Parm::dMinSR() const { return m_dMinSR; }
-double CZEBCMPViscositySetting2Parm::dHighTemp_Tmp() const { return m_dHighTemp_Tmp; }
-double CZEBCMPViscositySetting2Parm::dHighTemp_Slp() const { return m_dHighTemp_Slp; }
-double CZEBCMPViscositySetting2Parm::dHighTemp_SR() const { return m_dHighTemp_SR; }
-int CZEBCMPViscositySetting2Parm::iEvaluateAirVis() const { return m_iEvaluateAirVis; }
-int CZEBCMPViscositySetting2Parm::iEvaluateAirTemperature() const { return m_iEvaluateAirTemperature; }
-double CZEBCMPViscositySetting2Parm::dLowVisT() const { return m_dLowVisT; }
-double CZEBCMPViscositySetting2Parm::dLowVisSR() const { return m_dLowVisSR; }
-double CZEBCMPViscositySetting2Parm::dLowVisRatio() const { return m_dLowVisRatio; }
-double CZEBCMPViscositySetting2Parm::dAirK() const { return m_dAirK; }
-double CZEBCMPViscositySetting2Parm::dAirCp() const { return m_dAirCp; }
-double CZEBCMPViscositySetting2Parm::dAirDen() const { return m_dAirDen; }
-int CZEBCMPViscositySetting2Parm::iEvaluateMeltFrontVis() const { return m_iEvaluateMeltFrontVis; }
-int CZEBCMPViscositySetting2Parm::iVOFSmoothTimes() const { return m_iVOFSmoothTimes; }
-double CZEBCMPViscositySetting2Parm::dAirVisFrontierVOF() const { return m_dAirVisFrontierVOF; }
-double CZEBCMPViscositySetting2Parm::dFrontierEquivalentSR() const { return m_dFrontierEquivalentSR; }
-double CZEBCMPViscositySetting2Parm::dRatio_Conx_GelPoint() const { return m_dRatio_Conx_GelPoint; }
-int CZEBCMPViscositySetting2Parm::iIsNewThermoSetHBModel() const { return m_iIsNewThermoSetHBModel; }
-double CZEBCMPViscositySetting2Parm::dLCP_SR_LowerBound() const { return m_dLCP_SR_LowerBound; }
-double CZEBCMPViscositySetting2Parm::dLCP_SR_UpperBound() const { return m_dLCP_SR_UpperBound; }
-double CZEBCMPViscositySetting2Parm::dLCP_SR_vs_Visc_Ratio() const { return m_dLCP_SR_vs_Visc_Ratio; }
-double CZEBCMPViscositySetting2Parm::dLCP_SR_Change_Tm_Slope_Ratio() const { return m_dLCP_SR_Change_Tm_Slope_Ratio; }
+ZEB_GETTERS(CZEBCMPViscositySetting2Parm, dMaxVis, dMinVis, dMaxSR, dMinSR, dHighTemp_Tmp, dHighTemp_Slp, dHighTemp_SR,
+            iEvaluateAirVis, iEvaluateAirTemperature, dLowVisT, dLowVisSR, dLowVisRatio, dAirK, dAirCp, dAirDen,
+            iEvaluateMeltFrontVis, iVOFSmoothTimes, dAirVisFrontierVOF, dFrontierEquivalentSR, dRatio_Conx_GelPoint,
+            iIsNewThermoSetHBModel, dLCP_SR_LowerBound, dLCP_SR_UpperBound, dLCP_SR_vs_Visc_Ratio,
+            dLCP_SR_Change_Tm_Slope_Ratio)
 
 void CZEBCMPViscositySetting2Parm::SetLowVisT(double value) { m_dLowVisT = value; }
 void CZEBCMPViscositySetting2Parm::SetLowVisSR(double value) { m_dLowVisSR = value; }

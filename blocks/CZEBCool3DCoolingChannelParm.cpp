@@ -5,20 +5,9 @@
 
 ZEB_DEFAULTED(CZEBCool3DCoolingChannelParm)
 
-int CZEBCool3DCoolingChannelParm::i_GetcfcVer_3DCChannel() const { return m_i_GetcfcVer_3DCChannel; }
-int CZEBCool3DCoolingChannelParm::iGet3DCChanelDebug() const { return m_iGet3DCChanelDebug; }
-int CZEBCool3DCoolingChannelParm::iGetNiterC() const { return m_iGetNiterC; }
-double CZEBCool3DCoolingChannelParm::dGetTolerC() const { return m_dGetTolerC; }
-int CZEBCool3DCoolingChannelParm::iGetNiterInC() const { return m_iGetNiterInC; }
-double CZEBCool3DCoolingChannelParm::dGetTolerInC() const { return m_dGetTolerInC; }
-double CZEBCool3DCoolingChannelParm::dGetGeoTempCUnder() const { return m_dGetGeoTempCUnder; }
-double CZEBCool3DCoolingChannelParm::dGetGeoRhsCUnder() const { return m_dGetGeoRhsCUnder; }
-double CZEBCool3DCoolingChannelParm::dGetBlendC() const { return m_dGetBlendC; }
-double CZEBCool3DCoolingChannelParm::dGetRelaxC() const { return m_dGetRelaxC; }
-double CZEBCool3DCoolingChannelParm::dGetAllowCChannelBoundaryChangeTemperature() const {
-  return m_dGetAllowCChannelBoundaryChangeTemperature;
-}
-int CZEBCool3DCoolingChannelParm::iGetCChannelCalculateStep() const { return m_iGetCChannelCalculateStep; }
+ZEB_GETTERS(CZEBCool3DCoolingChannelParm, i_GetcfcVer_3DCChannel, iGet3DCChanelDebug, iGetNiterC, dGetTolerC,
+            iGetNiterInC, dGetTolerInC, dGetGeoTempCUnder, dGetGeoRhsCUnder, dGetBlendC, dGetRelaxC,
+            dGetAllowCChannelBoundaryChangeTemperature, iGetCChannelCalculateStep)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCool3DCoolingChannelParm>() {

@@ -8,22 +8,14 @@
 
 ZEB_DEFAULTED(CZEBCoolBackDoorParm)
 
-bool CZEBCoolBackDoorParm::bGetIfActiveHeatFluxHistory() const { return m_bGetIfActiveHeatFluxHistory; }
-int CZEBCoolBackDoorParm::iGetIfActive_ElectromagneticHeating() const { return m_iGetIfActive_ElectromagneticHeating; }
+ZEB_GETTERS(CZEBCoolBackDoorParm, bGetIfActiveHeatFluxHistory, iGetIfActive_ElectromagneticHeating)
 const char* CZEBCoolBackDoorParm::cGetElectromagneticxternalFile() const {
   const char* text = m_cGetElectromagneticxternalFile.get();
   return text == nullptr ? "" : text;
 }
-int CZEBCoolBackDoorParm::iGetIfActive_ReadCoolantPropertiesFromPCSFile() const {
-  return m_iGetIfActive_ReadCoolantPropertiesFromPCSFile;
-}
-int CZEBCoolBackDoorParm::iGetIfOutput_NonMatchingWallSTL() const { return m_iGetIfOutput_NonMatchingWallSTL; }
-int CZEBCoolBackDoorParm::iGetIfOutputAverageTemperature() const { return m_iGetIfOutputAverageTemperature; }
-int CZEBCoolBackDoorParm::iGetIfActiveSensorHeatFlux() const { return m_iGetIfActiveSensorHeatFlux; }
-double CZEBCoolBackDoorParm::dGetTime_StartHeating() const { return m_dGetTime_StartHeating; }
-double CZEBCoolBackDoorParm::dGetTime_EndHeating() const { return m_dGetTime_EndHeating; }
-int CZEBCoolBackDoorParm::iGetFlagTurnOffCoolTime() const { return m_iGetFlagTurnOffCoolTime; }
-int CZEBCoolBackDoorParm::iGetIdealCooingIterateNumber() const { return m_iGetIdealCooingIterateNumber; }
+ZEB_GETTERS(CZEBCoolBackDoorParm, iGetIfActive_ReadCoolantPropertiesFromPCSFile, iGetIfOutput_NonMatchingWallSTL,
+            iGetIfOutputAverageTemperature, iGetIfActiveSensorHeatFlux, dGetTime_StartHeating, dGetTime_EndHeating,
+            iGetFlagTurnOffCoolTime, iGetIdealCooingIterateNumber)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCoolBackDoorParm>() {

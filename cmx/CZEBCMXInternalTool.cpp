@@ -46,7 +46,7 @@ int CZEBCMXInternalTool::setZEBCom(CZEBCom* com) {
 
 void CZEBCMXInternalTool::setPrintLevel(int level) { m_nPrintLevel = level; }
 
-int CZEBCMXInternalTool::nCMXVersion() const { return m_nCMXVersion; }
+ZEB_GETTERS(CZEBCMXInternalTool, nCMXVersion)
 
 zeb::LineSource CZEBCMXInternalTool::lineSource() const { return kFormat.lineSource(m_pCom, m_nPrintLevel); }
 

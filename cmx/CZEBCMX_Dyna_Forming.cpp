@@ -4,8 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMX_Dyna_Forming)
 
-int CZEBCMX_Dyna_Forming::iIsRunIBFSIforfibermat() const { return m_iIsRunIBFSIforfibermat; }
-int CZEBCMX_Dyna_Forming::iRunfibermatCycle() const { return m_iRunfibermatCycle; }
+ZEB_GETTERS(CZEBCMX_Dyna_Forming, iIsRunIBFSIforfibermat, iRunfibermatCycle)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMX_Dyna_Forming>() {

@@ -7,10 +7,7 @@
 
 ZEB_DEFAULTED(CZEBCMX_FILL_ADVANCED_HRSteady)
 
-double CZEBCMX_FILL_ADVANCED_HRSteady::dHRFlowRate() const { return m_dHRFlowRate; }
-double CZEBCMX_FILL_ADVANCED_HRSteady::dHRConvergenceCriteria() const { return m_dHRConvergenceCriteria; }
-int CZEBCMX_FILL_ADVANCED_HRSteady::iNHRGate() const { return m_iNHRGate; }
-int CZEBCMX_FILL_ADVANCED_HRSteady::iHRGateType() const { return m_iHRGateType; }
+ZEB_GETTERS(CZEBCMX_FILL_ADVANCED_HRSteady, dHRFlowRate, dHRConvergenceCriteria, iNHRGate, iHRGateType)
 const double* CZEBCMX_FILL_ADVANCED_HRSteady::pHRGateBC() const { return m_pHRGateBC.get(); }
 
 template <>

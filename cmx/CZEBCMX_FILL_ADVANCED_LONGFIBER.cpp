@@ -9,32 +9,14 @@
 
 ZEB_DEFAULTED(CZEBCMX_FILL_ADVANCED_LONGFIBER)
 
-int CZEBCMX_FILL_ADVANCED_LONGFIBER::iVersion() const { return m_iVersion; }
-int CZEBCMX_FILL_ADVANCED_LONGFIBER::iOrthotropicClosureMethod() const { return m_iOrthotropicClosureMethod; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dModifiedFactor() const { return m_dModifiedFactor; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dAspectRatio() const { return m_dAspectRatio; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dWeightPercent() const { return m_dWeightPercent; }
-int CZEBCMX_FILL_ADVANCED_LONGFIBER::iDiffusionModelType() const { return m_iDiffusionModelType; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_b1() const { return m_dARD_b1; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_b2() const { return m_dARD_b2; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_b3() const { return m_dARD_b3; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_b4() const { return m_dARD_b4; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_b5() const { return m_dARD_b5; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_Cf() const { return m_dARD_Cf; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dARD_Cm() const { return m_dARD_Cm; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dFiber_CI() const { return m_dFiber_CI; }
-int CZEBCMX_FILL_ADVANCED_LONGFIBER::iFiberBreakage() const { return m_iFiberBreakage; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dFiberDiamemter() const { return m_dFiberDiamemter; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dParticleDiameter() const { return m_dParticleDiameter; }
+ZEB_GETTERS(CZEBCMX_FILL_ADVANCED_LONGFIBER, iVersion, iOrthotropicClosureMethod, dModifiedFactor, dAspectRatio,
+            dWeightPercent, iDiffusionModelType, dARD_b1, dARD_b2, dARD_b3, dARD_b4, dARD_b5, dARD_Cf, dARD_Cm,
+            dFiber_CI, iFiberBreakage, dFiberDiamemter, dParticleDiameter)
 double CZEBCMX_FILL_ADVANCED_LONGFIBER::DragCoe() const { return m_dDragCoe; }
 double CZEBCMX_FILL_ADVANCED_LONGFIBER::CB() const { return m_dCB; }
 double CZEBCMX_FILL_ADVANCED_LONGFIBER::S() const { return m_dS; }
-int CZEBCMX_FILL_ADVANCED_LONGFIBER::isBreakInScrewAndNozzle() const { return m_isBreakInScrewAndNozzle; }
-int CZEBCMX_FILL_ADVANCED_LONGFIBER::iFiberConcen() const { return m_iFiberConcen; }
-int CZEBCMX_FILL_ADVANCED_LONGFIBER::iFiberType() const { return m_iFiberType; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dAverageWeightConcen() const { return m_dAverageWeightConcen; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dMaxWeightConcen() const { return m_dMaxWeightConcen; }
-double CZEBCMX_FILL_ADVANCED_LONGFIBER::dResisAlpha() const { return m_dResisAlpha; }
+ZEB_GETTERS(CZEBCMX_FILL_ADVANCED_LONGFIBER, isBreakInScrewAndNozzle, iFiberConcen, iFiberType, dAverageWeightConcen,
+            dMaxWeightConcen, dResisAlpha)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_LONGFIBER>() {

@@ -4,7 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMX_FILL_ADVANCED_MCIM)
 
-int CZEBCMX_FILL_ADVANCED_MCIM::iEstimateBubble() const { return m_iEstimateBubble; }
+ZEB_GETTERS(CZEBCMX_FILL_ADVANCED_MCIM, iEstimateBubble)
 int CZEBCMX_FILL_ADVANCED_MCIM::Version() const { return m_iVersion; }
 int CZEBCMX_FILL_ADVANCED_MCIM::GasType() const { return m_iGasType; }
 int CZEBCMX_FILL_ADVANCED_MCIM::BubbleGrowthModel() const { return m_iBubbleGrowthModel; }

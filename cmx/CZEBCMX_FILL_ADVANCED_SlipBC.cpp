@@ -4,8 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMX_FILL_ADVANCED_SlipBC)
 
-int CZEBCMX_FILL_ADVANCED_SlipBC::iSlipBC() const { return m_iSlipBC; }
-int CZEBCMX_FILL_ADVANCED_SlipBC::iSlipBCDebug() const { return m_iSlipBCDebug; }
+ZEB_GETTERS(CZEBCMX_FILL_ADVANCED_SlipBC, iSlipBC, iSlipBCDebug)
 double CZEBCMX_FILL_ADVANCED_SlipBC::FrictionCoeff() const { return m_dFrictionCoeff; }
 double CZEBCMX_FILL_ADVANCED_SlipBC::SlipUnderRelax() const { return m_dSlipUnderRelax; }
 int CZEBCMX_FILL_ADVANCED_SlipBC::SlipExcludeRunner() const { return m_iSlipExcludeRunner; }

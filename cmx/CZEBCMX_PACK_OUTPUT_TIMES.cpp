@@ -4,7 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMX_PACK_OUTPUT_TIMES)
 
-int CZEBCMX_PACK_OUTPUT_TIMES::iNoOutTimeStep() const { return m_iNoOutTimeStep; }
+ZEB_GETTERS(CZEBCMX_PACK_OUTPUT_TIMES, iNoOutTimeStep)
 const double* CZEBCMX_PACK_OUTPUT_TIMES::pOutTimeStep() const { return m_pOutTimeStep.get(); }
 
 template <>

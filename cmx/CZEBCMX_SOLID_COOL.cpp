@@ -4,7 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMX_SOLID_COOL)
 
-int CZEBCMX_SOLID_COOL::iTransientCoolType() const { return m_iTransientCoolType; }
+ZEB_GETTERS(CZEBCMX_SOLID_COOL, iTransientCoolType)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMX_SOLID_COOL>() {

@@ -4,52 +4,17 @@
 
 ZEB_DEFAULTED(CZEBCMX_SOLID_FILL)
 
-int CZEBCMX_SOLID_FILL::iSolidFillBlockVersion() const { return m_iSolidFillBlockVersion; }
-int CZEBCMX_SOLID_FILL::iIDSolver() const { return m_iIDSolver; }
-double CZEBCMX_SOLID_FILL::dEfficiencyFactor() const { return m_dEfficiencyFactor; }
-int CZEBCMX_SOLID_FILL::iFiberEfficiencyFactor() const { return m_iFiberEfficiencyFactor; }
-double CZEBCMX_SOLID_FILL::dFillEOFPercentage() const { return m_dFillEOFPercentage; }
-int CZEBCMX_SOLID_FILL::iMeshType() const { return m_iMeshType; }
-int CZEBCMX_SOLID_FILL::iEstimateFiber() const { return m_iEstimateFiber; }
-int CZEBCMX_SOLID_FILL::iUnFilledCells() const { return m_iUnFilledCells; }
-int CZEBCMX_SOLID_FILL::iStopCalculateCriterionType() const { return m_iStopCalculateCriterionType; }
-int CZEBCMX_SOLID_FILL::bIsUseTemperatureDLL() const { return m_bIsUseTemperatureDLL; }
-int CZEBCMX_SOLID_FILL::iUseTemperatureDLL_Level1() const { return m_iUseTemperatureDLL_Level1; }
-int CZEBCMX_SOLID_FILL::iUseTemperatureDLL_Level2() const { return m_iUseTemperatureDLL_Level2; }
-int CZEBCMX_SOLID_FILL::iEstimateCoolTime() const { return m_iEstimateCoolTime; }
-double CZEBCMX_SOLID_FILL::dGravX() const { return m_dGravX; }
-double CZEBCMX_SOLID_FILL::dGravY() const { return m_dGravY; }
-double CZEBCMX_SOLID_FILL::dGravZ() const { return m_dGravZ; }
-int CZEBCMX_SOLID_FILL::ilStab() const { return m_ilStab; }
-int CZEBCMX_SOLID_FILL::ilTec() const { return m_ilTec; }
-int CZEBCMX_SOLID_FILL::ilHMAVI() const { return m_ilHMAVI; }
-int CZEBCMX_SOLID_FILL::ilVisHeat() const { return m_ilVisHeat; }
-int CZEBCMX_SOLID_FILL::ilGNF() const { return m_ilGNF; }
-int CZEBCMX_SOLID_FILL::ilNIsoT() const { return m_ilNIsoT; }
-int CZEBCMX_SOLID_FILL::ilInertia() const { return m_ilInertia; }
-int CZEBCMX_SOLID_FILL::ilAnaMode() const { return m_ilAnaMode; }
-int CZEBCMX_SOLID_FILL::ilCompressible() const { return m_ilCompressible; }
-int CZEBCMX_SOLID_FILL::ilFlowVEcoupling() const { return m_ilFlowVEcoupling; }
-int CZEBCMX_SOLID_FILL::iCoreShiftMethod() const { return m_iCoreShiftMethod; }
-double CZEBCMX_SOLID_FILL::dVolumeFilledCallStress() const { return m_dVolumeFilledCallStress; }
-int CZEBCMX_SOLID_FILL::i2WayPSMethod() const { return m_i2WayPSMethod; }
-int CZEBCMX_SOLID_FILL::iVentingOption() const { return m_iVentingOption; }
-double CZEBCMX_SOLID_FILL::dVentingPressure() const { return m_dVentingPressure; }
-double CZEBCMX_SOLID_FILL::dVentingTemperature() const { return m_dVentingTemperature; }
-int CZEBCMX_SOLID_FILL::iParticleTracer() const { return m_iParticleTracer; }
-int CZEBCMX_SOLID_FILL::nParticleGroup() const { return m_nParticleGroup; }
-int CZEBCMX_SOLID_FILL::iWeldLineParticleTracer() const { return m_iWeldLineParticleTracer; }
-int CZEBCMX_SOLID_FILL::iCrystalline() const { return m_iCrystalline; }
-int CZEBCMX_SOLID_FILL::iInitChargeFiberOrientation() const { return m_iInitChargeFiberOrientation; }
+ZEB_GETTERS(CZEBCMX_SOLID_FILL, iSolidFillBlockVersion, iIDSolver, dEfficiencyFactor, iFiberEfficiencyFactor,
+            dFillEOFPercentage, iMeshType, iEstimateFiber, iUnFilledCells, iStopCalculateCriterionType,
+            bIsUseTemperatureDLL, iUseTemperatureDLL_Level1, iUseTemperatureDLL_Level2, iEstimateCoolTime, dGravX,
+            dGravY, dGravZ, ilStab, ilTec, ilHMAVI, ilVisHeat, ilGNF, ilNIsoT, ilInertia, ilAnaMode, ilCompressible,
+            ilFlowVEcoupling, iCoreShiftMethod, dVolumeFilledCallStress, i2WayPSMethod, iVentingOption,
+            dVentingPressure, dVentingTemperature, iParticleTracer, nParticleGroup, iWeldLineParticleTracer,
+            iCrystalline, iInitChargeFiberOrientation)
 const char* CZEBCMX_SOLID_FILL::strInitChargeFiber() const { return m_strInitChargeFiber.get(); }
-int CZEBCMX_SOLID_FILL::iIMDCtrl() const { return m_iIMDCtrl; }
-int CZEBCMX_SOLID_FILL::iStopPackingAfterGateFreeze() const { return m_iStopPackingAfterGateFreeze; }
-int CZEBCMX_SOLID_FILL::iGateFreezeByTemperature() const { return m_iGateFreezeByTemperature; }
-double CZEBCMX_SOLID_FILL::dGateFreezeByTemperature() const { return m_dGateFreezeByTemperature; }
-int CZEBCMX_SOLID_FILL::iGateFreezeByFlowRate() const { return m_iGateFreezeByFlowRate; }
-double CZEBCMX_SOLID_FILL::dGateFreezeByFlowRate() const { return m_dGateFreezeByFlowRate; }
-int CZEBCMX_SOLID_FILL::iGateFreezeByWeightDeviation() const { return m_iGateFreezeByWeightDeviation; }
-double CZEBCMX_SOLID_FILL::dGateFreezeByWeightDeviation() const { return m_dGateFreezeByWeightDeviation; }
+ZEB_GETTERS(CZEBCMX_SOLID_FILL, iIMDCtrl, iStopPackingAfterGateFreeze, iGateFreezeByTemperature,
+            dGateFreezeByTemperature, iGateFreezeByFlowRate, dGateFreezeByFlowRate, iGateFreezeByWeightDeviation,
+            dGateFreezeByWeightDeviation)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMX_SOLID_FILL>() {

@@ -4,10 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMX_SOLID_PACK)
 
-int CZEBCMX_SOLID_PACK::iExtendPackCalculation() const { return m_iExtendPackCalculation; }
-int CZEBCMX_SOLID_PACK::iExtendPackType() const { return m_iExtendPackType; }
-double CZEBCMX_SOLID_PACK::dExtendPackCrystal() const { return m_dExtendPackCrystal; }
-double CZEBCMX_SOLID_PACK::dExtendPackNoCrystal() const { return m_dExtendPackNoCrystal; }
+ZEB_GETTERS(CZEBCMX_SOLID_PACK, iExtendPackCalculation, iExtendPackType, dExtendPackCrystal, dExtendPackNoCrystal)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMX_SOLID_PACK>() {

@@ -4,7 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMX_SOLID_VE)
 
-int CZEBCMX_SOLID_VE::iEstimateResidualStress() const { return m_iEstimateResidualStress; }
+ZEB_GETTERS(CZEBCMX_SOLID_VE, iEstimateResidualStress)
 
 int CZEBCMX_SOLID_VE::ResetResidualStressFlag(int flag) {
   m_iEstimateResidualStress = flag != 0 ? 1 : 0;

@@ -4,7 +4,7 @@
 
 ZEB_DEFAULTED(CZEBCMX_TASKMANAGER)
 
-int CZEBCMX_TASKMANAGER::iFlagAccelerationType() const { return m_iFlagAccelerationType; }
+ZEB_GETTERS(CZEBCMX_TASKMANAGER, iFlagAccelerationType)
 
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMX_TASKMANAGER>() {

@@ -34,7 +34,8 @@ std::string dumpValue(const Row& row, const void* block) {
 
 std::string dumpLabel(const Row& row) {
   if (!row.label.empty()) return std::string(row.label);
-  return std::string(row.field.member) + std::string(static_cast<std::size_t>(row.tabs), '\t') + "= ";
+  const std::string gap = row.tabs == kOneSpace ? " " : std::string(static_cast<std::size_t>(row.tabs), '\t');
+  return std::string(row.field.member) + gap + "= ";
 }
 
 std::string dumpText(const BlockTable& table, const void* block) {

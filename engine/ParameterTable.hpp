@@ -1,7 +1,7 @@
 // Parameter tables: everything that is known about a block's members, keys, dump lines and head positions, as data.
 //
-// To add a parameter: declare the member with its default and its getter in the block's header, define the getter in
-// the block's source, and add one row to the table below it. Where the section has a reading order or the block a dump
+// To add a parameter: declare the member with its default and its getter in the block's header, name the getter among
+// ZEB_GETTERS in the block's source, and add one row to the table below it. Where the section has a reading order or the block a dump
 // order of its own, name the new key or member there too: the compiler refuses an order that is not whole.
 #pragma once
 
@@ -145,6 +145,7 @@ enum class Count : std::uint8_t {
 constexpr std::uint16_t kNoElement = std::numeric_limits<std::uint16_t>::max();
 
 constexpr std::int8_t kNoLabel = -1;
+constexpr std::int8_t kOneSpace = -2;  // in place of tabs
 
 /// One member of a block, or one further key of a member.
 struct Row {

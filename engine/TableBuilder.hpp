@@ -5,16 +5,10 @@
 #include <array>
 
 #include "engine/BlockAccess.h"
+#include "engine/BlockFunctions.hpp"
 #include "engine/FixedText.hpp"
 #include "engine/ParameterTable.hpp"
 #include "engine/RowCheck.hpp"
-
-/// The four functions of a block that hosts link and that have nothing to say.
-#define ZEB_DEFAULTED(Block)                  \
-  Block::Block() = default;                   \
-  Block::Block(const Block& other) = default; \
-  Block::~Block() = default;                  \
-  Block& Block::operator=(const Block& other) = default;
 
 /// The field of a row whose getter is called as the member without its "m_", in a table where T is the block.
 #define ZEB_FIELD(getter) .field = zeb::field<&T::m_##getter, &T::getter>()

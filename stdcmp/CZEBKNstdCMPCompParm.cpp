@@ -2,7 +2,9 @@
 
 #include <cmath>
 #include <string_view>
+#include <tuple>
 
+#include "engine/BlockFunctions.hpp"
 #include "engine/TextOutput.hpp"
 #include "stdcmp/StdParameters.hpp"
 
@@ -49,73 +51,21 @@ int CZEBKNstdCMPCompParm::modifyParm_ConformalCooling(int mode) {
   return 1;
 }
 
-int CZEBKNstdCMPCompParm::ilsolvU() const { return m_pParameters->solver.ilsolvU; }
-int CZEBKNstdCMPCompParm::ilsolvV() const { return m_pParameters->solver.ilsolvV; }
-int CZEBKNstdCMPCompParm::ilsolvW() const { return m_pParameters->solver.ilsolvW; }
-int CZEBKNstdCMPCompParm::ilsolvP() const { return m_pParameters->solver.ilsolvP; }
-int CZEBKNstdCMPCompParm::ilsolvF() const { return m_pParameters->solver.ilsolvF; }
-int CZEBKNstdCMPCompParm::ilsolvT() const { return m_pParameters->solver.ilsolvT; }
-int CZEBKNstdCMPCompParm::iNRestartIU() const { return m_pParameters->solver.iNRestartIU; }
-int CZEBKNstdCMPCompParm::iNRestartIV() const { return m_pParameters->solver.iNRestartIV; }
-int CZEBKNstdCMPCompParm::iNRestartIW() const { return m_pParameters->solver.iNRestartIW; }
-int CZEBKNstdCMPCompParm::iNRestartIP() const { return m_pParameters->solver.iNRestartIP; }
-int CZEBKNstdCMPCompParm::iPreCond() const { return m_pParameters->solver.iPreCond; }
-int CZEBKNstdCMPCompParm::iNiter() const { return m_pParameters->solver.iNiter; }
-int CZEBKNstdCMPCompParm::iiterStep() const { return m_pParameters->solver.iiterStep; }
-int CZEBKNstdCMPCompParm::iijPresFix() const { return m_pParameters->solver.iijPresFix; }
-int CZEBKNstdCMPCompParm::iijProb() const { return m_pParameters->solver.iijProb; }
-int CZEBKNstdCMPCompParm::iNPPCorr() const { return m_pParameters->solver.iNPPCorr; }
-int CZEBKNstdCMPCompParm::iNiterGrad() const { return m_pParameters->solver.iNiterGrad; }
-int CZEBKNstdCMPCompParm::iNTimeStep() const { return m_pParameters->solver.iNTimeStep; }
-int CZEBKNstdCMPCompParm::iTimeStep() const { return m_pParameters->solver.iTimeStep; }
-double CZEBKNstdCMPCompParm::ddt() const { return m_pParameters->solver.ddt; }
-double CZEBKNstdCMPCompParm::dBlendTime() const { return m_pParameters->solver.dBlendTime; }
-double CZEBKNstdCMPCompParm::dtoler() const { return m_pParameters->solver.dtoler; }
-double CZEBKNstdCMPCompParm::dBlendIU() const { return m_pParameters->solver.dBlendIU; }
-double CZEBKNstdCMPCompParm::dBlendIV() const { return m_pParameters->solver.dBlendIV; }
-double CZEBKNstdCMPCompParm::dBlendIW() const { return m_pParameters->solver.dBlendIW; }
-double CZEBKNstdCMPCompParm::dBlendIP() const { return m_pParameters->solver.dBlendIP; }
-double CZEBKNstdCMPCompParm::dBlendIF() const { return m_pParameters->solver.dBlendIF; }
-double CZEBKNstdCMPCompParm::dBlendIT() const { return m_pParameters->solver.dBlendIT; }
-int CZEBKNstdCMPCompParm::iNiterInIU() const { return m_pParameters->solver.iNiterInIU; }
-int CZEBKNstdCMPCompParm::iNiterInIV() const { return m_pParameters->solver.iNiterInIV; }
-int CZEBKNstdCMPCompParm::iNiterInIW() const { return m_pParameters->solver.iNiterInIW; }
-int CZEBKNstdCMPCompParm::iNiterInIP() const { return m_pParameters->solver.iNiterInIP; }
-int CZEBKNstdCMPCompParm::iNiterInIF() const { return m_pParameters->solver.iNiterInIF; }
-int CZEBKNstdCMPCompParm::iNiterInIT() const { return m_pParameters->solver.iNiterInIT; }
-double CZEBKNstdCMPCompParm::dtolerInIU() const { return m_pParameters->solver.dtolerInIU; }
-double CZEBKNstdCMPCompParm::dtolerInIV() const { return m_pParameters->solver.dtolerInIV; }
-double CZEBKNstdCMPCompParm::dtolerInIW() const { return m_pParameters->solver.dtolerInIW; }
-double CZEBKNstdCMPCompParm::dtolerInIP() const { return m_pParameters->solver.dtolerInIP; }
-double CZEBKNstdCMPCompParm::dtolerInIF() const { return m_pParameters->solver.dtolerInIF; }
-double CZEBKNstdCMPCompParm::dtolerInIT() const { return m_pParameters->solver.dtolerInIT; }
-double CZEBKNstdCMPCompParm::drelaxIU() const { return m_pParameters->solver.drelaxIU; }
-double CZEBKNstdCMPCompParm::drelaxIV() const { return m_pParameters->solver.drelaxIV; }
-double CZEBKNstdCMPCompParm::drelaxIW() const { return m_pParameters->solver.drelaxIW; }
-double CZEBKNstdCMPCompParm::drelaxIP() const { return m_pParameters->solver.drelaxIP; }
-double CZEBKNstdCMPCompParm::drelaxIF() const { return m_pParameters->solver.drelaxIF; }
-double CZEBKNstdCMPCompParm::drelaxIT() const { return m_pParameters->solver.drelaxIT; }
-int CZEBKNstdCMPCompParm::ilCmpChk() const { return m_pParameters->solver.ilCmpChk; }
-double CZEBKNstdCMPCompParm::dSRRelax() const { return m_pParameters->solver.dSRRelax; }
-double CZEBKNstdCMPCompParm::dVisRelax() const { return m_pParameters->solver.dVisRelax; }
-int CZEBKNstdCMPCompParm::iCouple_Type() const { return m_pParameters->solver.iCouple_Type; }
-double CZEBKNstdCMPCompParm::dnonOrthLimitFactor() const { return m_pParameters->solver.dnonOrthLimitFactor; }
+#define ZEB_SOLVER(name) m_pParameters->solver.name
+ZEB_GETTERS_OF(CZEBKNstdCMPCompParm, ZEB_SOLVER, ilsolvU, ilsolvV, ilsolvW, ilsolvP, ilsolvF, ilsolvT, iNRestartIU,
+               iNRestartIV, iNRestartIW, iNRestartIP, iPreCond, iNiter, iiterStep, iijPresFix, iijProb, iNPPCorr,
+               iNiterGrad, iNTimeStep, iTimeStep, ddt, dBlendTime, dtoler, dBlendIU, dBlendIV, dBlendIW, dBlendIP,
+               dBlendIF, dBlendIT, iNiterInIU, iNiterInIV, iNiterInIW, iNiterInIP, iNiterInIF, iNiterInIT, dtolerInIU,
+               dtolerInIV, dtolerInIW, dtolerInIP, dtolerInIF, dtolerInIT, drelaxIU, drelaxIV, drelaxIW, drelaxIP,
+               drelaxIF, drelaxIT, ilCmpChk, dSRRelax, dVisRelax, iCouple_Type, dnonOrthLimitFactor)
 
 int CZEBKNstdCMPCompParm::getLine1(int& u, int& v, int& w, int& p, int& f, int& t) const {
-  u = ilsolvU();
-  v = ilsolvV();
-  w = ilsolvW();
-  p = ilsolvP();
-  f = ilsolvF();
-  t = ilsolvT();
+  std::tie(u, v, w, p, f, t) = std::tuple(ilsolvU(), ilsolvV(), ilsolvW(), ilsolvP(), ilsolvF(), ilsolvT());
   return 1;
 }
 
 int CZEBKNstdCMPCompParm::getLine2(int& u, int& v, int& w, int& p) const {
-  u = iNRestartIU();
-  v = iNRestartIV();
-  w = iNRestartIW();
-  p = iNRestartIP();
+  std::tie(u, v, w, p) = std::tuple(iNRestartIU(), iNRestartIV(), iNRestartIW(), iNRestartIP());
   return 1;
 }
 
@@ -126,20 +76,13 @@ int CZEBKNstdCMPCompParm::getLine3(int& preCond) const {
 
 int CZEBKNstdCMPCompParm::getLine4(int& niter, int& iterStep, int& ijPresFix, int& ijProb, int& nPPCorr,
                                    int& niterGrad) const {
-  niter = iNiter();
-  iterStep = iiterStep();
-  ijPresFix = iijPresFix();
-  ijProb = iijProb();
-  nPPCorr = iNPPCorr();
-  niterGrad = iNiterGrad();
+  std::tie(niter, iterStep, ijPresFix, ijProb, nPPCorr, niterGrad) =
+      std::tuple(iNiter(), iiterStep(), iijPresFix(), iijProb(), iNPPCorr(), iNiterGrad());
   return 1;
 }
 
 int CZEBKNstdCMPCompParm::getLine5(int& nTimeStep, int& timeStep, double& dt, double& blendTime) const {
-  nTimeStep = iNTimeStep();
-  timeStep = iTimeStep();
-  dt = ddt();
-  blendTime = dBlendTime();
+  std::tie(nTimeStep, timeStep, dt, blendTime) = std::tuple(iNTimeStep(), iTimeStep(), ddt(), dBlendTime());
   return 1;
 }
 
@@ -149,42 +92,24 @@ int CZEBKNstdCMPCompParm::getLine6(double& toler) const {
 }
 
 int CZEBKNstdCMPCompParm::getLine7(double& u, double& v, double& w, double& p, double& f, double& t) const {
-  u = dBlendIU();
-  v = dBlendIV();
-  w = dBlendIW();
-  p = dBlendIP();
-  f = dBlendIF();
-  t = dBlendIT();
+  std::tie(u, v, w, p, f, t) = std::tuple(dBlendIU(), dBlendIV(), dBlendIW(), dBlendIP(), dBlendIF(), dBlendIT());
   return 1;
 }
 
 int CZEBKNstdCMPCompParm::getLine8(int& u, int& v, int& w, int& p, int& f, int& t) const {
-  u = iNiterInIU();
-  v = iNiterInIV();
-  w = iNiterInIW();
-  p = iNiterInIP();
-  f = iNiterInIF();
-  t = iNiterInIT();
+  std::tie(u, v, w, p, f, t) =
+      std::tuple(iNiterInIU(), iNiterInIV(), iNiterInIW(), iNiterInIP(), iNiterInIF(), iNiterInIT());
   return 1;
 }
 
 int CZEBKNstdCMPCompParm::getLine9(double& u, double& v, double& w, double& p, double& f, double& t) const {
-  u = dtolerInIU();
-  v = dtolerInIV();
-  w = dtolerInIW();
-  p = dtolerInIP();
-  f = dtolerInIF();
-  t = dtolerInIT();
+  std::tie(u, v, w, p, f, t) =
+      std::tuple(dtolerInIU(), dtolerInIV(), dtolerInIW(), dtolerInIP(), dtolerInIF(), dtolerInIT());
   return 1;
 }
 
 int CZEBKNstdCMPCompParm::getLine10(double& u, double& v, double& w, double& p, double& f, double& t) const {
-  u = drelaxIU();
-  v = drelaxIV();
-  w = drelaxIW();
-  p = drelaxIP();
-  f = drelaxIF();
-  t = drelaxIT();
+  std::tie(u, v, w, p, f, t) = std::tuple(drelaxIU(), drelaxIV(), drelaxIW(), drelaxIP(), drelaxIF(), drelaxIT());
   return 1;
 }
 
@@ -194,52 +119,25 @@ int CZEBKNstdCMPCompParm::getLine12(int& lCmpChk) const {
 }
 
 int CZEBKNstdCMPCompParm::getLine14(double& srRelax, double& visRelax) const {
-  srRelax = dSRRelax();
-  visRelax = dVisRelax();
+  std::tie(srRelax, visRelax) = std::tuple(dSRRelax(), dVisRelax());
   return 1;
 }
 
 int CZEBKNstdCMPCompParm::getLine16(int& coupleType, double& nonOrthLimitFactor) const {
-  coupleType = iCouple_Type();
-  nonOrthLimitFactor = dnonOrthLimitFactor();
+  std::tie(coupleType, nonOrthLimitFactor) = std::tuple(iCouple_Type(), dnonOrthLimitFactor());
   return 1;
 }
 
-int CZEBKNstdCMPCompParm::iDeleteMultiTimeVox() const { return m_pParameters->general.iDeleteMultiTimeVox; }
-int CZEBKNstdCMPCompParm::iAutoHTC() const { return m_pParameters->general.iAutoHTC; }
-int CZEBKNstdCMPCompParm::iOutput_HTC_Value() const { return m_pParameters->general.iOutput_HTC_Value; }
-int CZEBKNstdCMPCompParm::iBarrelCompressible() const { return m_pParameters->general.iBarrelCompressible; }
-int CZEBKNstdCMPCompParm::iAccelerationType() const { return m_pParameters->general.iAccelerationType; }
-int CZEBKNstdCMPCompParm::nParticleSubDt() const { return m_pParameters->general.nParticleSubDt; }
-int CZEBKNstdCMPCompParm::iIsTurbFlow() const { return m_pParameters->general.iIsTurbFlow; }
-int CZEBKNstdCMPCompParm::iIsOutputVP() const { return m_pParameters->general.iIsOutputVP; }
-int CZEBKNstdCMPCompParm::iVPSwitchByClampingLimit() const { return m_pParameters->general.iVPSwitchByClampingLimit; }
-int CZEBKNstdCMPCompParm::iKeepCCF() const { return m_pParameters->general.iKeepCCF; }
-int CZEBKNstdCMPCompParm::iPassCCFField() const { return m_pParameters->general.iPassCCFField; }
-int CZEBKNstdCMPCompParm::iW3FD3FFormat() const { return m_pParameters->general.iW3FD3FFormat; }
-int CZEBKNstdCMPCompParm::iFaceVisByHarmonicMean() const { return m_pParameters->general.iFaceVisByHarmonicMean; }
+#define ZEB_GENERAL(name) m_pParameters->general.name
+ZEB_GETTERS_OF(CZEBKNstdCMPCompParm, ZEB_GENERAL, iDeleteMultiTimeVox, iAutoHTC, iOutput_HTC_Value, iBarrelCompressible,
+               iAccelerationType, nParticleSubDt, iIsTurbFlow, iIsOutputVP, iVPSwitchByClampingLimit, iKeepCCF,
+               iPassCCFField, iW3FD3FFormat, iFaceVisByHarmonicMean)
 
-int CZEBKNstdCMPCompParm::iIterNum_MeltFrontTemperature() const {
-  return m_pParameters->stableFlag.iIterNum_MeltFrontTemperature;
-}
-int CZEBKNstdCMPCompParm::nSmooth_dP() const { return m_pParameters->stableFlag.nSmooth_dP; }
+#define ZEB_STABLE_FLAG(name) m_pParameters->stableFlag.name
+ZEB_GETTERS_OF(CZEBKNstdCMPCompParm, ZEB_STABLE_FLAG, iIterNum_MeltFrontTemperature, nSmooth_dP)
 
-int CZEBKNstdCMPCompParm::iMultipleGateMethod() const { return m_pParameters->multiGate.iMultipleGateMethod; }
-int CZEBKNstdCMPCompParm::iMultipleGateDebug() const { return m_pParameters->multiGate.iMultipleGateDebug; }
-int CZEBKNstdCMPCompParm::iMultipleGateType() const { return m_pParameters->multiGate.iMultipleGateType; }
-int CZEBKNstdCMPCompParm::iMultipleGateByTimeStep() const { return m_pParameters->multiGate.iMultipleGateByTimeStep; }
-double CZEBKNstdCMPCompParm::dMultipleGateByVolume() const { return m_pParameters->multiGate.dMultipleGateByVolume; }
-double CZEBKNstdCMPCompParm::dMultipleGateByCtrlCRRatio() const {
-  return m_pParameters->multiGate.dMultipleGateByCtrlCRRatio;
-}
-int CZEBKNstdCMPCompParm::iMultiGateOuteriteration() const { return m_pParameters->multiGate.iMultiGateOuteriteration; }
-double CZEBKNstdCMPCompParm::dMultipleGateTolTargetQ() const {
-  return m_pParameters->multiGate.dMultipleGateTolTargetQ;
-}
-double CZEBKNstdCMPCompParm::dMultipleGateSPAdjustCoeff() const {
-  return m_pParameters->multiGate.dMultipleGateSPAdjustCoeff;
-}
-double CZEBKNstdCMPCompParm::dMultipleGateTolInletQ() const { return m_pParameters->multiGate.dMultipleGateTolInletQ; }
-double CZEBKNstdCMPCompParm::dMultipleGateSPVariationLimit() const {
-  return m_pParameters->multiGate.dMultipleGateSPVariationLimit;
-}
+#define ZEB_MULTI_GATE(name) m_pParameters->multiGate.name
+ZEB_GETTERS_OF(CZEBKNstdCMPCompParm, ZEB_MULTI_GATE, iMultipleGateMethod, iMultipleGateDebug, iMultipleGateType,
+               iMultipleGateByTimeStep, dMultipleGateByVolume, dMultipleGateByCtrlCRRatio, iMultiGateOuteriteration,
+               dMultipleGateTolTargetQ, dMultipleGateSPAdjustCoeff, dMultipleGateTolInletQ,
+               dMultipleGateSPVariationLimit)
