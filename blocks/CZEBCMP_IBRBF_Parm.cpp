@@ -15,16 +15,10 @@ int CZEBCMP_IBRBF_Parm::DebugMode() const { return m_iDebugMode; }
 template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCMP_IBRBF_Parm>() {
   using T = CZEBCMP_IBRBF_Parm;
-  // clang-format off
-  static constexpr auto kRows = rbfSearchRows({
-      .version = field<&T::m_iVersion, &T::Version>(),
-      .span = field<&T::m_iSpan, &T::Span>(),
-      .searchMethod = field<&T::m_iSearch_method, &T::SearchMethod>(),
-      .searchDistance = field<&T::m_dSearch_distance, &T::SearchDistance>(),
-      .searchNumber = field<&T::m_iSearch_number, &T::SearchNumber>(),
-      .debugMode = field<&T::m_iDebugMode, &T::DebugMode>(),
-  });
-  // clang-format on
+  static constexpr auto kRows = rbfSearchRows(
+      field<&T::m_iVersion, &T::Version>(), field<&T::m_iSpan, &T::Span>(),
+      field<&T::m_iSearch_method, &T::SearchMethod>(), field<&T::m_dSearch_distance, &T::SearchDistance>(),
+      field<&T::m_iSearch_number, &T::SearchNumber>(), field<&T::m_iDebugMode, &T::DebugMode>());
   static constexpr Section kSections[] = {keyedSection<"IBRBF", kRows>()};
   static constexpr BlockTable kTable = blockTable<T, kSections>("\n---------IBRBF Parameters---------");
   return kTable;

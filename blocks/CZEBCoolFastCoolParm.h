@@ -3,6 +3,11 @@
 
 #include "engine/BlockAccess.h"
 
+namespace zeb {
+template <class Block>
+struct CoolRows;
+}  // namespace zeb
+
 /// Settings of the fast cooling analysis, from the positional section [FastCool]: a version line and 23 lines of
 /// numbers, read only when the version is 1017. A field that a line lacks leaves its member as it was.
 ///
@@ -66,6 +71,7 @@ class CZEBCoolFastCoolParm {
 
  private:
   friend const zeb::BlockTable& zeb::tableOf<CZEBCoolFastCoolParm>();
+  friend struct zeb::CoolRows<CZEBCoolFastCoolParm>;
 
   int m_iGetcfcver_FastCool = 1017;
   int m_iGetlsolvTP = 5;

@@ -3,6 +3,11 @@
 
 #include "engine/BlockAccess.h"
 
+namespace zeb {
+template <class Block>
+struct CoolRows;
+}  // namespace zeb
+
 /// Settings of the standard cooling analysis, from the positional section [StdCool]: a version line and 23 lines of
 /// numbers, read only when the version is 1047. A field that a line lacks leaves its member as it was.
 ///
@@ -74,6 +79,7 @@ class CZEBCoolStdCoolParm {
 
  private:
   friend const zeb::BlockTable& zeb::tableOf<CZEBCoolStdCoolParm>();
+  friend struct zeb::CoolRows<CZEBCoolStdCoolParm>;
 
   int m_iGetcfcver_StdCool = 1047;
   int m_iGetlsolvTP = 2;

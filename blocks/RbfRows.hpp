@@ -17,27 +17,19 @@ constexpr Row rbfSpan(const Field& field) {
   return {.field = field, .key = "Span", .label = "m_iSpan\t\t\t= ", .known = "Span."};
 }
 
-/// The members of an RBF block that searches its neighbours.
-struct RbfSearchFields {
-  Field version;
-  Field span;
-  Field searchMethod;
-  Field searchDistance;
-  Field searchNumber;
-  Field debugMode;
-};
-
+/// The rows of an RBF block that searches its neighbours.
 /// In the files only the search method's key carries the type prefix.
-constexpr std::array<Row, 6> rbfSearchRows(const RbfSearchFields& of) {
+constexpr std::array<Row, 6> rbfSearchRows(const Field& version, const Field& span, const Field& searchMethod,
+                                           const Field& searchDistance, const Field& searchNumber,
+                                           const Field& debugMode) {
   return {{
-      rbfVersion(of.version),
-      rbfSpan(of.span),
-      {.field = of.searchMethod, .key = "iSearch_method", .label = "m_iSearch_method\t= ", 
-       .known = "Search method."},
-      {.field = of.searchDistance, .key = "Search_distance", .label = "m_dSearch_distance\t= ",
+      rbfVersion(version),
+      rbfSpan(span),
+      {.field = searchMethod, .key = "iSearch_method", .label = "m_iSearch_method\t= ", .known = "Search method."},
+      {.field = searchDistance, .key = "Search_distance", .label = "m_dSearch_distance\t= ",
        .doc = "Search distance."},
-      {.field = of.searchNumber, .key = "Search_number", .label = "m_iSearch_number\t= ", .doc = "Search number."},
-      {.field = of.debugMode, .key = "Debug", .label = "m_iDebugMode\t\t= ", .known = "Debug mode."},
+      {.field = searchNumber, .key = "Search_number", .label = "m_iSearch_number\t= ", .doc = "Search number."},
+      {.field = debugMode, .key = "Debug", .label = "m_iDebugMode\t\t= ", .known = "Debug mode."},
   }};
 }
 // clang-format on
