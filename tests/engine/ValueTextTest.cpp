@@ -1,18 +1,24 @@
 // Positional fields against the C library's formatted scan.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
-#include <limits>
 
 #include "engine/ValueText.hpp"
+#include "tests/support/PlainDefinition.hpp"
 #include "tests/support/RandomText.hpp"
 
 namespace {
 
 using zebtest::RandomText;
+
+// Same result bits; two NaNs are the same whatever their payload.
+bool same(double a, double b) {
+  return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b) || (std::isnan(a) && std::isnan(b));
+}
 
 TEST(FieldScanner, TakesFieldByFieldAndStopsAtTheFirstThatDoesNotMatch) {
   zeb::FieldScanner scanner("3 7 0.25 word 9");
@@ -47,28 +53,17 @@ TEST(FieldScanner, AnIntThatDoesNotFitDoesNotMatch) {
   }
 }
 
-TEST(FieldScanner, KnowsNanInfAndHexadecimal) {
-  double value = 0.0;
-  EXPECT_TRUE(zeb::FieldScanner("nan").next(value));
-  EXPECT_TRUE(std::isnan(value));
-  EXPECT_TRUE(zeb::FieldScanner("-inf").next(value));
-  EXPECT_EQ(value, -std::numeric_limits<double>::infinity());
-  EXPECT_TRUE(zeb::FieldScanner("0x1.8p1").next(value));
-  EXPECT_EQ(value, 3.0);
-}
-
-TEST(FieldScanner, AControlCharacterIsNoDigit) {
-  double value = -7.0;
-  EXPECT_FALSE(zeb::FieldScanner("\x10x1").next(value));
-}
-
-TEST(FieldScanner, AHexadecimalExponentHasOneSign) {
-  zeb::FieldScanner scanner("0x1p+-2");
-  double first = 0.0, second = 0.0;
-  EXPECT_TRUE(scanner.next(first));
-  EXPECT_TRUE(scanner.next(second));
-  EXPECT_EQ(first, 1.0);
-  EXPECT_EQ(second, -2.0);
+TEST(FieldScanner, EqualsTheFormattedScanOfWordsAndHexadecimals) {
+  for (const char* text :
+       {"nan",       "nan(1)",   "na",        "-inf", "inf 2",   "i",       "in",      "infi",      "infinit",
+        "-infinit",  "infinity", "INFINITYx", "infx", "0x1.8p1", "0x1p+-2", "0x1P+-2", "0x1P-5000", "0x1p-5000",
+        "-0x1P5000", "0x1p5000", "0x.8P+2",   "0x",   "0x.",     "0xg",     "\x10x1"}) {
+    double expected[2] = {-7.0, -7.0}, values[2] = {-7.0, -7.0};
+    const int converted = std::sscanf(text, "%lf%lf", &expected[0], &expected[1]);
+    zeb::FieldScanner scanner(text);
+    EXPECT_EQ((scanner.next(values[0]) ? 1 : 0) + (scanner.next(values[1]) ? 1 : 0), std::max(converted, 0)) << text;
+    for (int field = 0; field < converted; ++field) EXPECT_TRUE(same(values[field], expected[field])) << text;
+  }
 }
 
 TEST(Extraction, SurvivesExponentsAtTheEdgeOfEveryType) {
@@ -79,9 +74,30 @@ TEST(Extraction, SurvivesExponentsAtTheEdgeOfEveryType) {
   EXPECT_EQ(value, 0.0);
 }
 
-// Same result bits; two NaNs are the same whatever their payload.
-bool same(double a, double b) {
-  return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b) || (std::isnan(a) && std::isnan(b));
+// Numbers whose digits are too many for every integer, with exponents that make up for them or do not.
+TEST(LongNumbers, AreReadAsTheStreamAndTheFormattedScanDo) {
+  const std::string zeros(400, '0'), nines(1000, '9');
+  for (const std::string& digits :
+       {std::string("9007199254740993"), std::string("18446744073709551617"), std::string("36893488147419103233"),
+        "1" + zeros, "7." + zeros + "1", "0." + zeros + "1", zeros + "." + zeros + "5", zeros + "1", zeros + "12.5",
+        nines, "." + nines, nines + "." + nines}) {
+    for (const char* exponent : {"", "e-10", "e-95", "E-1000", "e-1400", "e+95", "e310", "e396", "e405", "e710"}) {
+      for (const char* sign : {"", "-", "+"}) {
+        const std::string text = sign + digits + exponent;
+        double read = -77.0, scanned = -77.0, streamed = -77.0, expected = -77.0;
+        int length = 0;
+        ASSERT_EQ(std::sscanf(text.c_str(), "%lf%n", &expected, &length), 1);
+        zeb::FieldScanner scanner(text);
+        EXPECT_TRUE(scanner.next(scanned)) << text;
+        EXPECT_TRUE(same(scanned, expected)) << text << ": " << scanned << " != " << expected;
+        EXPECT_EQ(text.size() - scanner.rest().size(), static_cast<std::size_t>(length)) << text;
+        zebtest::plainExtract("=" + text, "", streamed);
+        EXPECT_EQ(zeb::extractDouble(text, read) == 0, streamed == -77.0) << text;
+        EXPECT_TRUE(same(read, streamed)) << text << ": " << read << " != " << streamed;
+        EXPECT_EQ(zeb::isDoubleOutOfRange(text), std::isinf(expected)) << text;
+      }
+    }
+  }
 }
 
 std::string randomFields(RandomText& random) {
