@@ -7,10 +7,12 @@
 #include <vector>
 
 #include "ZEBKNCompParm.h"
+#include "engine/Rank0Section.hpp"
 #include "engine/ReadObserver.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/blocks/ReadBlock.hpp"
+#include "tests/support/RecordingCommunicator.h"
 #include "tests/support/TemporaryFile.hpp"
 
 namespace {
@@ -69,6 +71,24 @@ TEST(Whiteboard, FileNameIsCutTo511Characters) {
     CZEBCoolBackDoorParm block;
     readSectionInto(block, "Whiteboard", "ElemagComsol 0 1 " + std::string(length, 'f') + "\n");
     EXPECT_EQ(std::string(block.cGetElectromagneticxternalFile()), std::string(length < 511 ? length : 511, 'f'));
+  }
+}
+
+TEST(Whiteboard, FileNameTravelsInAsFewBroadcastsAsHoldIt) {
+  for (const std::size_t length : {1u, 253u, 254u, 255u, 508u, 509u, 511u}) {
+    std::string name(length, ' ');
+    for (std::size_t i = 0; i < length; ++i) name[i] = static_cast<char>('a' + i % 25);
+    std::vector<std::string> pieces;  // a buffer of 255 characters, its end included
+    for (std::size_t at = 0; at < length; at += 254) pieces.push_back("Broadc \"" + name.substr(at, 254) + '"');
+    zeb::RecordingCommunicator com(2);
+    std::istringstream stream("ElemagComsol 0 1 " + name + "\n");
+    const zeb::LineSource source{.com = &com};
+    zeb::LineReader reader(stream, source, nullptr);
+    CZEBCoolBackDoorParm block;
+    zeb::readSectionOnRank0(zebtest::sectionOf<CZEBCoolBackDoorParm>("Whiteboard"), &block, reader);
+    std::vector<std::string> calls = com.log().calls();
+    std::erase_if(calls, [](const std::string& call) { return !call.starts_with("Broadc"); });
+    EXPECT_EQ(calls, pieces);
   }
 }
 
