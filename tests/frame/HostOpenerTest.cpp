@@ -9,6 +9,7 @@
 #include "blocks/CZEBCMPGeneralParm.h"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "platform/ZEB3DTool.h"
+#include "tests/support/OtherCharacters.hpp"
 #include "tests/support/RecordingCommunicator.h"
 #include "tests/support/TemporaryFile.hpp"
 
@@ -23,6 +24,7 @@ struct OpenCall {
 };
 
 std::vector<OpenCall> openCalls;
+bool opensPlainly = false;  // does what any host may do instead of asking the stand-in
 
 using Opener = void (*)(CZEBFileIO*, std::ifstream&, const char*, ZEBOpenMode, int, int);
 
@@ -37,6 +39,7 @@ Opener standIn() {
 
 void CZEBFileIO::ZEBOpenFile(std::ifstream& stream, const char* fileName, ZEBOpenMode mode, int first, int second) {
   openCalls.push_back({fileName, mode, first, second, stream.is_open()});
+  if (opensPlainly) return stream.open(fileName);
   standIn()(this, stream, fileName, mode, first, second);
 }
 
@@ -49,6 +52,7 @@ class HostOpener : public testing::Test {
   void SetUp() override {
     ASSERT_NE(standIn(), nullptr);
     openCalls.clear();
+    opensPlainly = false;
   }
   static std::vector<OpenCall> one(const std::string& file) { return {{file, 1, 500, 10, false}}; }
 };
@@ -65,6 +69,15 @@ TEST_F(HostOpener, IsAskedOnceForAFileThatIsMissing) {
   CZEBKNCMPCompParm set(0, 0);
   EXPECT_EQ(set.setSolidFillBlock("no/such/file.cmp"), 1);
   EXPECT_EQ(openCalls, one("no/such/file.cmp"));
+}
+
+TEST_F(HostOpener, ThatKnowsNoLocalesMeetsAClassicStream) {
+  const TemporaryFile file("[General]\nVentMode = 1\n[/General]\n");
+  const zebtest::GlobalLocale global(std::locale(std::locale::classic(), new zebtest::OtherCharacters));
+  opensPlainly = true;
+  CZEBKNCMPCompParm set(0, 0);
+  set.setSolidFillBlock(file.path());
+  EXPECT_EQ(set.getGeneralParm()->iVentMode(), 1);
 }
 
 TEST_F(HostOpener, IsAskedOnRank0Only) {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/ZEB3DTool.h"
+#include "tests/support/OtherCharacters.hpp"
 #include "tests/support/TemporaryFile.hpp"
 #include "tests/support/TestFolder.hpp"
 #include "tests/support/WithoutPrivileges.hpp"
@@ -215,7 +216,6 @@ TEST_F(TextFileOpener, SurvivesCopyfmtInBothDirections) {
   EXPECT_EQ(lines(opened), (std::vector<std::string>{"a", "b"}));
 }
 
-/// A host's locale at its worst: another newline, another thousands separator, a conversion of every character.
 struct OtherNewline : std::ctype<char> {
   char do_widen(char character) const override { return character == '\n' ? ';' : character; }
 };
@@ -224,23 +224,13 @@ struct OtherPunctuation : std::numpunct<char> {
   char do_thousands_sep() const override { return '.'; }
   std::string do_grouping() const override { return "\3"; }
 };
-struct OtherCharacters : std::codecvt<char, char, std::mbstate_t> {
-  bool do_always_noconv() const noexcept override { return false; }
-  result do_in(std::mbstate_t&, const char* from, const char* fromEnd, const char*& fromNext, char* to, char* toEnd,
-               char*& toNext) const override {
-    for (; from != fromEnd && to != toEnd; ++from, ++to) *to = '?';
-    fromNext = from;
-    toNext = to;
-    return ok;
-  }
-};
 
 TEST_F(TextFileOpener, ReadsTheSameUnderAnyGlobalLocale) {
   const std::string file = folder.write("file.txt", "a;b\r\n1.5 1234\r\n");
   std::locale host(std::locale::classic(), new OtherNewline);
   host = std::locale(host, new OtherPunctuation);
-  host = std::locale(host, new OtherCharacters);
-  const std::locale before = std::locale::global(host);
+  host = std::locale(host, new zebtest::OtherCharacters);
+  const zebtest::GlobalLocale global(host);
   std::ifstream stream;
   open(stream, file);
   std::string line;
@@ -251,7 +241,6 @@ TEST_F(TextFileOpener, ReadsTheSameUnderAnyGlobalLocale) {
   EXPECT_TRUE(stream >> number >> count);
   EXPECT_EQ(number, 1.5);
   EXPECT_EQ(count, 1234);
-  std::locale::global(before);
 }
 
 TEST_F(TextFileOpener, HandsOutCharactersAndBlocksAsWellAsLines) {
