@@ -198,7 +198,7 @@ TEST(DefaultViscoelasticFile, BackupIsTheFileItself) {
 TEST(DefaultViscoelasticFile, UntouchedDefaultOfAnotherModelDoesNotPushTheUsersFileOut) {
   const TestFolder folder;
   const std::string name = folder.write("thing.vecmp", "nonsense\n");
-  for (const int model : {1, 3, 2}) {
+  for (const int model : {1, 3, 19, 0, 2}) {
     CZEBCMPVEParm block;
     block.setVEModel(model);
     EXPECT_EQ(zeb::readViscoelasticFile(name, block, zeb::LineSource{}, nullptr), -1);
