@@ -208,6 +208,19 @@ TEST_F(MaterialEngine, SaysWhereItLookedForAMaterial) {
   EXPECT_EQ(ZebGetMaterial(std::string(100000, 'n')), nullptr);
 }
 
+TEST_F(MaterialEngine, NamesTheFirstTenMaterialsThatThereAre) {
+  setMaterialFolders({folder.path()});
+  std::string names;
+  for (char letter = 'a'; letter <= 'k'; ++letter) {
+    EXPECT_EQ(ZebGetMaterial("x"), nullptr);
+    EXPECT_EQ(lastMaterialError(), "material 'x' not found in " + folder.path() + names);
+    folder.write(std::string(1, letter) + ".json", "");
+    if (letter < 'k') names += (names.empty() ? "; there are: " : ", ") + std::string(1, letter);
+  }
+  EXPECT_EQ(ZebGetMaterial("x"), nullptr);
+  EXPECT_EQ(lastMaterialError(), "material 'x' not found in " + folder.path() + names + ", ...");
+}
+
 TEST_F(MaterialEngine, NamesWhatIsWrongAndWhere) {
   const auto with = [](const char* replaced, const std::string& by) {
     std::vector<std::string> members = {kHeader, kTexts, kTables, kModel, kRest, kCurves};
