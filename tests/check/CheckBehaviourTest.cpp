@@ -121,6 +121,37 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"AnEmptyFile", "", {}}),
     [](const auto& test) { return std::string(test.param.name); });
 
+// What is known of a section ends with it.
+INSTANTIATE_TEST_SUITE_P(
+    SectionsBehindOthers, CheckBehaviour,
+    testing::Values(Case{"TheSecondCopyRepeatsNoKey",
+                         in("Outlet", "IsOutlet = 1\n") + in("Outlet", "IsOutlet = 1\n"),
+                         {"4 section-repeated"}},
+                    Case{"OtherKeysAreToldOnce",
+                         in("General", "FixCompressionFaceCK = 1\n") + in("Outlet", "IsOutlet = 1\n"),
+                         {"2 several-keys"}},
+                    Case{"ASectionInsideHidesNoLineOfTheNext",
+                         in("ShortShot", "[Outlet]\n") + in("General", "Nonsense = 1\n"),
+                         {"2 section-inside-section", "5 unknown-key"}},
+                    Case{"ASectionInsideExplainsNothingOfTheNext",
+                         in("ShortShot", in("Outlet", "")) + "[Outlet]\nIsOutlet = 1\n[/Outlt]\n",
+                         {"2 section-inside-section", "7 wrong-closing-tag"}},
+                    Case{"AWrongClosingExplainsNothingOfTheNext",
+                         in("Outlet", "[/Outlt]\n") + "[ShortShot]\nTimeLimit = 2\n",
+                         {"2 wrong-closing-tag", "4 unclosed-section"}},
+                    Case{"AnUnknownSectionEndsWhereAnotherOpens",
+                         "[Nonsense]\n" + in("Outlet", "IsOutlet = 1\n") + "TimeLimit = 2\n",
+                         {"1 unknown-section", "5 key-outside-section"}},
+                    Case{"AShortPositionalSectionExplainsNothingOfTheNext",
+                         in("3DCoolingChannel", "1002\n0\n10\n10\n0.5 0.5\n0.5 0.5\n") +
+                             in("3DCoolingChannel", "1002\nx\n10\n10\n0.5 0.5\n0.5 0.5\n1 10\n"),
+                         {"8 positional-too-short", "9 section-repeated", "11 positional-fields"}},
+                    Case{"ATagInAFreeLineExplainsNothingOfTheNext",
+                         "[VER] 1023\n" + std::string(kHead).replace(kHead.find("x\n"), 1, "[General]") +
+                             in("3DCoolingChannel", "1002\nx\n10\n10\n0.5 0.5\n0.5 0.5\n1 10\n"),
+                         {"23 positional-fields"}}),
+    [](const auto& test) { return std::string(test.param.name); });
+
 INSTANTIATE_TEST_SUITE_P(
     Lists, CheckBehaviour,
     testing::Values(
@@ -152,6 +183,12 @@ INSTANTIATE_TEST_SUITE_P(
              in("UNFSetting",
                 "FillType = 2\nnDispenserPoint = 1\nPoint_x1 = 1\nPoint_y1 = 2\nnDispenserPoint = 1\nPoint_x1 = 1\n"),
              {"6 key-repeated", "6 list-too-short"}},
+        Case{"EveryUnusableLine",
+             in("MultiGate", "MultipleGateMethod = 1\nNumberofInletGroups = 3\nWeightings = 1\nx\nx\n"),
+             {"5 list-too-short", "6 list-too-short"}},
+        Case{"TheClosingLineOnce",
+             in("MultiGate", "MultipleGateMethod = 1\nNumberofInletGroups = 3\nWeightings = 1\n[/MultiGate]\n"),
+             {"5 list-consumed-close", "6 list-too-short"}},
         Case{"AListThatTheFileCutsShort",
              "[MultiGate]\nMultipleGateMethod = 1\nNumberofInletGroups = 3\nWeightings = 0.5\n",
              {"1 unclosed-section", "3 list-too-short"}}),
@@ -178,6 +215,10 @@ INSTANTIATE_TEST_SUITE_P(
              zeb::FileKind::kCmx},
         Case{"MomentTooMuch",
              tagged("FILL_OUTPUT_TIMES", "ValueNoFillOutputTime = 1\n1 = 0.5\n2 = 0.9\n"),
+             {"4 list-too-long"},
+             zeb::FileKind::kCmx},
+        Case{"MomentTooMuchOfAnyNumber",
+             tagged("FILL_OUTPUT_TIMES", "ValueNoFillOutputTime = 1\n1 = 0.5\n90 = 0.9\n"),
              {"4 list-too-long"},
              zeb::FileKind::kCmx},
         Case{"MomentTooFew",
@@ -223,14 +264,24 @@ INSTANTIATE_TEST_SUITE_P(
 // --- Messages -----------------------------------------------------------------------------------------------------
 
 TEST(CheckMessages, NameNearKeysAndTheSectionThatHasTheKey) {
-  const auto findings = findingsIn(in("Outlet", "AirPresure = 1\nTimeLimit = 2\n"));
-  ASSERT_EQ(findings.size(), 2u) << told(findings);
+  const auto findings = findingsIn(in("Outlet", "AirPresure = 1\nTimeLimit = 2\nb1 = 3\n"));
+  ASSERT_EQ(findings.size(), 3u) << told(findings);
   EXPECT_EQ(findings[0].hint, "did you mean AirPressure?");
   EXPECT_EQ(findings[1].hint, "it belongs to [ShortShot]");
+  EXPECT_EQ(findings[2].hint, "it belongs to [PVTc], [FIBER_ARD]");
+}
+
+TEST(CheckComments, BeginWithAnyOfTheUsualMarks) {
+  for (const std::string mark : {"#", ";", "*", "//"}) {
+    const std::string line = mark + " TimeLimit = 2\n";
+    const auto findings = findingsIn(line + in("ShortShot", line));
+    ASSERT_EQ(findings.size(), 1u) << told(findings);
+    EXPECT_EQ(findings[0].message, "the comment sets TimeLimit to 2");
+  }
 }
 
 TEST(CheckMessages, TellSinceWhenTheGateIsShut) {
-  const auto findings = findingsIn(in("AutoVPCtrl", "EstCavityPres = 2\n"));
+  const auto findings = findingsIn(in("UNFSetting", "FillType = 2\n") + in("AutoVPCtrl", "EstCavityPres = 2\n"));
   ASSERT_EQ(findings.size(), 1u);
   EXPECT_EQ(findings[0].message, "EstCavityPres is ignored: AutoVPMode is 0 by default; EstCavityPres keeps 0.1");
 }
