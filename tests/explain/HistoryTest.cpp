@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <sstream>
 
 #include "blocks/CZEBCMPTimeStepSizeCtrlParm.h"
 #include "blocks/CZEBCMPVEParm.h"
@@ -17,6 +18,7 @@
 #include "inspect/set/ParameterFile.hpp"
 #include "inspect/set/Values.hpp"
 #include "tests/support/TemporaryFile.hpp"
+#include "tests/support/Tsv.hpp"
 
 namespace {
 
@@ -130,13 +132,48 @@ TEST(History, TellsKeysBehindAClosedGate) {
   EXPECT_EQ(analysed.value("Speed_V"), "4");
 }
 
-TEST(History, TellsRepairsWithTheirCondition) {
-  const Analysed analysed("[ShortShot]\n[/ShortShot]\n", {.molding = 11});
-  const auto steps = analysed.steps("ShortShot.m_dTimeLimit");
-  ASSERT_EQ(steps.size(), 1u);
-  EXPECT_EQ(steps[0]->kind, Kind::kRepair);
-  EXPECT_EQ(steps[0]->condition, "molding type BIIM");
-  EXPECT_EQ(steps[0]->after, "1");
+struct RepairCondition {
+  zeb::AnalysisOptions options;
+  const char* text;
+  const char* members;  // separated by blanks
+  const char* condition;
+};
+
+void expectRepairs(const RepairCondition& repair) {
+  const Analysed analysed(repair.text, repair.options);
+  std::istringstream members(repair.members);
+  for (std::string name; members >> name;) {
+    const auto steps = analysed.steps(name);
+    ASSERT_FALSE(steps.empty()) << name << repair.condition;
+    EXPECT_EQ(steps.back()->kind, Kind::kRepair);
+    EXPECT_EQ(steps.back()->condition, repair.condition) << name;
+    EXPECT_EQ(steps.back()->after, analysed.value(name)) << name;
+  }
+}
+
+TEST(History, TellsTheConditionOfEveryRepair) {
+  for (const RepairCondition& repair : {
+           RepairCondition{{.material = 1}, "", "TimeStepSizeCtrl.iHRVof General.iVentMode", "material type 1"},
+           {{.material = 1}, "", "General.dPressureDiffLimit CompressibleFlow.dVentAirDdp", "material type 1"},
+           {{.material = 1, .wax = true}, "", "TimeStepSizeCtrl.iHRVof", "wax material"},
+           {{},
+            "[General]\nEnhancedVenting = 1\n",
+            "General.iVentMode General.dPressureDiffLimit General.dReduceSAEF CompressibleFlow.dVentAirDdp",
+            "EnhancedVenting is 1"},
+           {{}, "[General]\nTrapAirVolFilled = 2\n", "General.dTrapAirVolFilled", "range 0 to 1"},
+           {{}, "[PUChemFoam]\nIsPUChemFoam = 1\n", "General.iUVWPT_VolumeFlux", "IsPUChemFoam is 1"},
+           {{.molding = 5, .material = 1}, "", "ViscositySetting2.dMinVis", "material type 1, molding type UNF"},
+           {{.molding = 13, .material = 1}, "", "ViscositySetting2.dMinVis", "material type 1, molding type RTM"},
+           {{.material = 1}, "", "ViscositySetting2.dMinVis", "material type 1, neither UNF nor RTM"},
+       }) {
+    expectRepairs(repair);
+  }
+  for (const zebtest::TsvRow& row : zebtest::readTsv("molding.tsv")) {
+    if (row.at("class") == "-") continue;
+    const std::string member = zeb::blockName(row.at("class")) + "." + row.at("getter");
+    const std::string condition = "molding type " + row.at("name");
+    expectRepairs({{.molding = std::stoi(row.at("code"))}, "", member.c_str(), condition.c_str()});
+  }
 }
 
 TEST(History, TellsTheLinesOfAList) {
@@ -247,6 +284,16 @@ TEST(History, TellsTheLinesOfMomentsInACmxFile) {
   EXPECT_EQ(steps[0]->listLines,
             (std::vector<std::string>{"line 3: 1 = 0.5", "line 4: 2 0.8 (not used)", "line 5: 3 = 1.2"}));
   EXPECT_EQ(steps[0]->after, "[0.5, 0, 1.2]");
+}
+
+TEST(History, KeepsTheFirstAndTheLastUsedLineOfALongList) {
+  std::string text = "<FILL_OUTPUT_TIMES>\nValueNoFillOutputTime = 2000\n";
+  for (int i = 1; i <= 1999; ++i) text += "1 = " + std::to_string(i) + "\n";
+  const Analysed analysed(text + "none\n", zeb::FileKind::kCmx);
+  const auto& lines = analysed.steps("FILL_OUTPUT_TIMES.m_pOutTimeStep").at(0)->listLines;
+  ASSERT_EQ(lines.size(), 1001u);
+  EXPECT_EQ(lines[999], "line 1002: 1 = 1000");
+  EXPECT_EQ(lines[1000], "line 2001: 1 = 1999");
 }
 
 TEST(History, TellsTheOwnLineOfEachCoefficientInACmxFile) {
