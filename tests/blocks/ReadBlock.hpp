@@ -1,9 +1,6 @@
-// What the tests of single blocks share: a section read from a text, a dump, and what is printed meanwhile.
+// What the tests of single blocks share: a section read from a text, and a dump.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <iostream>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -11,6 +8,7 @@
 
 #include "engine/DumpEngine.hpp"
 #include "engine/SectionEngine.hpp"
+#include "tests/support/Printed.hpp"
 
 namespace zebtest {
 
@@ -45,14 +43,6 @@ std::string readSectionInto(Block& block, std::string_view name, const std::stri
 template <class Block>
 std::string dumpOf(const Block& block) {
   return zeb::dumpText(zeb::tableOf<Block>(), &block);
-}
-
-/// What `action` writes to standard output, through streams and C output alike.
-template <class Action>
-std::string printedBy(Action action) {
-  testing::internal::CaptureStdout();
-  action();
-  return testing::internal::GetCapturedStdout();
 }
 
 }  // namespace zebtest

@@ -78,7 +78,7 @@ std::string readText(const std::string& text, CZEBCom* com, std::string* output 
   CZEBCMXInternalTool tool;
   if (com != nullptr) tool.setZEBCom(com);
   std::istringstream stream(com == nullptr || com->GetCPUId() == 0 ? text : std::string());
-  const std::string printed = zebtest::outputOf([&] { tool.readBlocks(stream); });
+  const std::string printed = zebtest::printedBy([&] { tool.readBlocks(stream); });
   if (output != nullptr) *output += printed;
   return zebtest::exactValues(tool.sections());
 }
@@ -108,7 +108,7 @@ TEST(CMXHostileCounts, InvalidCountIsStoredAsZeroAndLeavesNoArray) {
   std::istringstream stream(
       "<FILL_OUTPUT_TIMES>\nValueNoFillOutputTime = 1\n1 = 0.5\nValueNoFillOutputTime = -4\n"
       "FlagFillMultiOutputType = 2\n");
-  zebtest::outputOf([&] { tool.readBlocks(stream); });
+  zebtest::printedBy([&] { tool.readBlocks(stream); });
   const CZEBCMX_FILL_OUTPUT_TIMES& block = tool.block<CZEBCMX_FILL_OUTPUT_TIMES>();
   EXPECT_EQ(block.NoOutTimeStep(), 0);
   EXPECT_EQ(block.pOutTimeStep(), nullptr);
@@ -119,7 +119,7 @@ TEST(CMXHostileCounts, InvalidGateCountReadsNoGates) {
   CZEBCMXInternalTool tool;
   std::istringstream stream(
       "<FILL_ADVANCED_HRSteady>\nValueNoHRGate = 2147483647\nValueHRGateType = 1\nValueFlowRate = 9\n");
-  zebtest::outputOf([&] { tool.readBlocks(stream); });
+  zebtest::printedBy([&] { tool.readBlocks(stream); });
   const CZEBCMX_FILL_ADVANCED_HRSteady& block = tool.block<CZEBCMX_FILL_ADVANCED_HRSteady>();
   EXPECT_EQ(block.iNHRGate(), 0);
   EXPECT_EQ(block.iHRGateType(), 1);

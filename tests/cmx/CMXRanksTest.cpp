@@ -89,7 +89,7 @@ TEST_F(CMXRanks, LongLineIsCutInParallelModeOnly) {
 }
 
 TEST_F(CMXRanks, NothingIsPrintedUnlessThePrintLevelIsRaised) {
-  EXPECT_EQ(zebtest::outputOf([this] {
+  EXPECT_EQ(zebtest::printedBy([this] {
               read(nullptr);
               zebtest::readOnRanks(2, [this](CZEBCom& com) { return read(&com); });
             }),
@@ -99,9 +99,9 @@ TEST_F(CMXRanks, NothingIsPrintedUnlessThePrintLevelIsRaised) {
 TEST_F(CMXRanks, RaisedPrintLevelTracesNameAndLinesOnRank0) {
   m_file = m_folder.write("short.cmx", "<SOLID_COOL>\n IDSolver = 5\n");
   const std::string nameLine = " CMX file name = " + m_file + "\n";
-  EXPECT_EQ(zebtest::outputOf([this] { read(nullptr, 1); }), nameLine);
+  EXPECT_EQ(zebtest::printedBy([this] { read(nullptr, 1); }), nameLine);
   const auto traced = [this](CZEBCom& com) { return read(&com, 1); };
-  EXPECT_EQ(zebtest::outputOf([&] { zebtest::readOnRanks(3, traced); }),
+  EXPECT_EQ(zebtest::printedBy([&] { zebtest::readOnRanks(3, traced); }),
             nameLine + " - CPUID:0 string: <SOLID_COOL>\n - CPUID:0 string:  IDSolver = 5\n");
 }
 

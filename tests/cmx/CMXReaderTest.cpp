@@ -46,7 +46,7 @@ TEST_F(CMXReader, BlocksAreHandedOutForSettingAndTheirListsForReadingOnly) {
 
 TEST_F(CMXReader, ConstructorsArgumentMeansNothing) {
   for (const int argument : {INT_MIN, -1, 14, 15, INT_MAX}) {
-    EXPECT_EQ(zebtest::outputOf([argument] {
+    EXPECT_EQ(zebtest::printedBy([argument] {
                 const CZEBKNCMXCompParm set(argument);
                 EXPECT_EQ(set.getSOLID_FILL()->iUnFilledCells(), 10);
               }),
@@ -100,7 +100,7 @@ TEST_F(CMXReader, EveryAccessorHandsOutTheBlockOfItsTag) {
 
 TEST_F(CMXReader, MissingFileKeepsTheDefaultsSilently) {
   CZEBCMXInternalTool untouched, tool;
-  EXPECT_EQ(zebtest::outputOf([&] { EXPECT_EQ(tool.setSolidFillBlock(m_folder.path("none.cmx")), 1); }), "");
+  EXPECT_EQ(zebtest::printedBy([&] { EXPECT_EQ(tool.setSolidFillBlock(m_folder.path("none.cmx")), 1); }), "");
   EXPECT_EQ(zebtest::exactValues(tool.sections()), zebtest::exactValues(untouched.sections()));
 }
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "engine/Format.hpp"
+#include "tests/support/Printed.hpp"
 #include "tests/support/RecordingCommunicator.h"
 #include "tests/support/TestFolder.hpp"
 #include "tests/support/Tsv.hpp"
@@ -70,14 +71,6 @@ inline std::string readOnRanks(int ranks, const std::function<std::string(CZEBCo
   }
   if (log != nullptr) *log = first.log();
   return values;
-}
-
-/// What `action` writes to standard output.
-template <class Action>
-std::string outputOf(Action action) {
-  testing::internal::CaptureStdout();
-  action();
-  return testing::internal::GetCapturedStdout();
 }
 
 }  // namespace zebtest

@@ -12,17 +12,12 @@
 #include "tests/material/FakeEngine.h"
 #include "tests/material/MaterialExamples.h"
 #include "tests/material/RecordText.hpp"
+#include "tests/support/Printed.hpp"
 
 namespace {
 
+using zebtest::printedBy;
 using zebtest::recordText;
-
-template <class Action>
-std::string printedBy(Action action) {
-  testing::internal::CaptureStdout();
-  action();
-  return testing::internal::GetCapturedStdout();
-}
 
 template <class Operation, class Signature>
 constexpr bool kIs = std::is_same_v<Operation, Signature>;

@@ -3,11 +3,11 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <vector>
+
+#include "tests/support/TemporaryFile.hpp"
 
 namespace zebtest {
 
@@ -27,12 +27,6 @@ inline std::vector<std::string> examples(const std::string& extension) {
 
 inline std::string example(const std::string& name) {
   return std::string(ZEB_EXAMPLES_DIR) + "/" + name.substr(0, name.find('.')) + "/" + name;
-}
-
-inline std::string contentOf(const std::string& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw std::runtime_error("cannot read " + file);
-  return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 }  // namespace zebtest

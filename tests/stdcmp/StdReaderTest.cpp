@@ -55,14 +55,14 @@ TEST_F(StdReader, SecondFileIsReadOverTheFirst) {
 TEST_F(StdReader, MissingFileKeepsTheDefaults) {
   const auto defaults = publicValues(m_set);
   const std::string name = m_folder.path("none.cmp");
-  EXPECT_EQ(zebtest::outputOf([&] { EXPECT_EQ(m_set.setSolidFillBlock(name), 1); }), " CMP file name = " + name + "\n");
+  EXPECT_EQ(zebtest::printedBy([&] { EXPECT_EQ(m_set.setSolidFillBlock(name), 1); }), " CMP file name = " + name + "\n");
   EXPECT_EQ(publicValues(m_set), defaults);
 }
 
 // --- Repair for conformal cooling
 
 TEST_F(StdReader, ConformalCoolingRepairsTheDefaults) {
-  EXPECT_EQ(zebtest::outputOf([this] { EXPECT_EQ(m_set.modifyParm_ConformalCooling(0), 1); }), "");
+  EXPECT_EQ(zebtest::printedBy([this] { EXPECT_EQ(m_set.modifyParm_ConformalCooling(0), 1); }), "");
   EXPECT_EQ(m_set.dtoler(), 0.1);
   EXPECT_EQ(m_set.dBlendIT(), 0.0);
   EXPECT_EQ(m_set.drelaxIP(), 0.6) << "the coupling type is not 1";
@@ -71,19 +71,19 @@ TEST_F(StdReader, ConformalCoolingRepairsTheDefaults) {
 
 TEST_F(StdReader, ConformalCoolingTellsWhatItRepairsWhenTheCheckIsOn) {
   read(headWith("0.01", "0.8", "0.6", "1", "1"));
-  EXPECT_EQ(zebtest::outputOf([this] { m_set.modifyParm_ConformalCooling(0); }),
+  EXPECT_EQ(zebtest::printedBy([this] { m_set.modifyParm_ConformalCooling(0); }),
             "\n>>> tol restored from 0.01 to 0.1\n\n"
             "\n>>> bT restored from 0.8 to 0.0\n\n"
             "\n>>> rp restored from 0.6 to 0.2\n\n");
   EXPECT_EQ(m_set.dtoler(), 0.1);
   EXPECT_EQ(m_set.dBlendIT(), 0.0);
   EXPECT_EQ(m_set.drelaxIP(), 0.2);
-  EXPECT_EQ(zebtest::outputOf([this] { m_set.modifyParm_ConformalCooling(0); }), "") << "nothing is left to repair";
+  EXPECT_EQ(zebtest::printedBy([this] { m_set.modifyParm_ConformalCooling(0); }), "") << "nothing is left to repair";
 }
 
 TEST_F(StdReader, ConformalCoolingIsSilentWhenTheCheckIsOff) {
   read(headWith("0.01", "0.8", "0.6", "0", "1"));
-  EXPECT_EQ(zebtest::outputOf([this] { m_set.modifyParm_ConformalCooling(0); }), "");
+  EXPECT_EQ(zebtest::printedBy([this] { m_set.modifyParm_ConformalCooling(0); }), "");
   EXPECT_EQ(m_set.drelaxIP(), 0.2);
 }
 
@@ -103,12 +103,12 @@ TEST_F(StdReader, ConformalCoolingTolerancesDiffer) {
 
 TEST_F(StdReader, ConformalCoolingLeavesValuesThatAreNoNumbersAlone) {
   read(headWith("nan", "nan", "nan", "1", "1"));
-  EXPECT_EQ(zebtest::outputOf([this] { m_set.modifyParm_ConformalCooling(0); }), "");
+  EXPECT_EQ(zebtest::printedBy([this] { m_set.modifyParm_ConformalCooling(0); }), "");
 }
 
 TEST_F(StdReader, ConformalCoolingMode1SetsToleranceAndPressureIterationsSilently) {
   read(headWith("0.5", "0.3", "0.6", "1", "14"));
-  EXPECT_EQ(zebtest::outputOf([this] { EXPECT_EQ(m_set.modifyParm_ConformalCooling(1), 1); }), "");
+  EXPECT_EQ(zebtest::printedBy([this] { EXPECT_EQ(m_set.modifyParm_ConformalCooling(1), 1); }), "");
   EXPECT_EQ(m_set.dtoler(), 0.1);
   EXPECT_EQ(m_set.iNiterInIP(), 20);
   CZEBKNstdCMPCompParm other;
@@ -119,7 +119,7 @@ TEST_F(StdReader, ConformalCoolingMode1SetsToleranceAndPressureIterationsSilentl
 }
 
 TEST_F(StdReader, ConformalCoolingMode1RepairsTheDefaultsToo) {
-  EXPECT_EQ(zebtest::outputOf([this] { EXPECT_EQ(m_set.modifyParm_ConformalCooling(1), 1); }), "");
+  EXPECT_EQ(zebtest::printedBy([this] { EXPECT_EQ(m_set.modifyParm_ConformalCooling(1), 1); }), "");
   EXPECT_EQ(m_set.dtoler(), 0.1);
   EXPECT_EQ(m_set.dBlendIT(), 0.0);
   EXPECT_EQ(m_set.drelaxIP(), 0.6);
@@ -128,7 +128,7 @@ TEST_F(StdReader, ConformalCoolingMode1RepairsTheDefaultsToo) {
 
 TEST_F(StdReader, ConformalCoolingTellsItsRepairsForAnyCheckThatIsNot0) {
   read(headWith("0.01", "0.8", "0.6", "-3", "1"));
-  EXPECT_EQ(zebtest::outputOf([this] { m_set.modifyParm_ConformalCooling(1); }),
+  EXPECT_EQ(zebtest::printedBy([this] { m_set.modifyParm_ConformalCooling(1); }),
             "\n>>> tol restored from 0.01 to 0.1\n\n"
             "\n>>> bT restored from 0.8 to 0.0\n\n"
             "\n>>> rp restored from 0.6 to 0.2\n\n");
@@ -138,7 +138,7 @@ TEST_F(StdReader, ConformalCoolingTellsItsRepairsForAnyCheckThatIsNot0) {
 TEST_F(StdReader, ConformalCoolingRepairsThePressureForCoupling1Only) {
   for (const std::string coupling : {"0", "-1", "2", "11"}) {
     read(headWith("0.5", "0.3", "0.6", "1", coupling));
-    EXPECT_EQ(zebtest::outputOf([this] { m_set.modifyParm_ConformalCooling(0); }), "") << coupling;
+    EXPECT_EQ(zebtest::printedBy([this] { m_set.modifyParm_ConformalCooling(0); }), "") << coupling;
     EXPECT_EQ(m_set.drelaxIP(), 0.6) << coupling;
   }
 }
@@ -221,7 +221,7 @@ TEST_F(StdReader, Rank0EchoesTheNameAndEveryLine) {
     set.setSolidFillBlock(m_file);
     return std::string();
   };
-  EXPECT_EQ(zebtest::outputOf([&] { zebtest::readOnRanks(3, read); }), " CMP file name = " + m_file +
+  EXPECT_EQ(zebtest::printedBy([&] { zebtest::readOnRanks(3, read); }), " CMP file name = " + m_file +
                                                                            "\n"
                                                                            " - CPUID:0 string: [VER] 1013\n"
                                                                            " - CPUID:0 string: 1 2\n"
@@ -236,7 +236,7 @@ TEST_F(StdReader, LineCostsABarrierTheEndFlagAndTheText) {
   const auto read = [this](CZEBCom& com) {
     CZEBKNstdCMPCompParm set;
     set.setZEBCom(&com);
-    zebtest::outputOf([&] { set.setSolidFillBlock(m_file); });
+    zebtest::printedBy([&] { set.setSolidFillBlock(m_file); });
     return zebtest::textOf(publicValues(set));
   };
   zebtest::readOnRanks(2, read, &log);
@@ -265,10 +265,10 @@ TEST_F(StdReader, LineSourceCutsOnEveryRankAndEndsOnAllInTheSameCall) {
   zeb::RecordingCommunicator first(2);
   EXPECT_EQ(m_set.setZEBCom(&first), 1);
   std::istringstream stream(longest + "yz\n");
-  const std::string echo = zebtest::outputOf([&] { EXPECT_EQ(m_set.ZEB_getline_Parallel(stream, line), 1); });
+  const std::string echo = zebtest::printedBy([&] { EXPECT_EQ(m_set.ZEB_getline_Parallel(stream, line), 1); });
   EXPECT_EQ(echo, " - CPUID:0 string: " + longest + "yz\n") << "the line as it stands in the file";
   EXPECT_EQ(line, longest);
-  EXPECT_EQ(zebtest::outputOf([&] { EXPECT_EQ(m_set.ZEB_getline_Parallel(stream, line), 0); }), "");
+  EXPECT_EQ(zebtest::printedBy([&] { EXPECT_EQ(m_set.ZEB_getline_Parallel(stream, line), 0); }), "");
   EXPECT_EQ(line, "");
   EXPECT_EQ(first.log().calls(),
             (std::vector<std::string>{"Barrier", "Broadi 0", "Broadc \"" + longest + "\"", "Barrier", "Broadi -1"}));
@@ -297,14 +297,14 @@ TEST_F(StdReader, AllRanksHoldWhatASerialRunReads) {
       const auto values = zebtest::readOnRanks(ranks, [this](CZEBCom& com) {
         CZEBKNstdCMPCompParm set;
         EXPECT_EQ(set.setZEBCom(&com), 1);
-        zebtest::outputOf([&] { set.setSolidFillBlock(m_file); });
+        zebtest::printedBy([&] { set.setSolidFillBlock(m_file); });
         return zebtest::textOf(publicValues(set));
       });
       EXPECT_EQ(values, expected) << ranks << " ranks";
     }
     zeb::ThreadTeam team(4);
     std::vector<std::string> values(4);
-    zebtest::outputOf([&] {
+    zebtest::printedBy([&] {
       team.run([&](int rank, CZEBCom& com) {
         CZEBKNstdCMPCompParm set;
         set.setZEBCom(&com);

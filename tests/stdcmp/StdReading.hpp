@@ -37,7 +37,7 @@ class StdReading : public testing::Test {
   std::string read(const std::string& text) { return read(m_set, text); }
   std::string read(CZEBKNstdCMPCompParm& set, const std::string& text) {
     m_file = m_folder.write("run.cmp", text);
-    return zebtest::outputOf([&] { EXPECT_EQ(set.setSolidFillBlock(m_file), 1); });
+    return zebtest::printedBy([&] { EXPECT_EQ(set.setSolidFillBlock(m_file), 1); });
   }
 
   zeb::test::TestFolder m_folder;

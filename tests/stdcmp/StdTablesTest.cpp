@@ -21,7 +21,7 @@ class StdTables : public testing::Test {
   std::map<std::string, double> read(const std::string& text) {
     CZEBKNstdCMPCompParm set;
     const std::string file = m_folder.write("run.cmp", text);
-    zebtest::outputOf([&] { set.setSolidFillBlock(file); });
+    zebtest::printedBy([&] { set.setSolidFillBlock(file); });
     return publicValues(set);
   }
 

@@ -1,4 +1,4 @@
-// A file for the duration of a test.
+// A file for the duration of a test, and what a file holds.
 #pragma once
 
 #include <unistd.h>
@@ -6,9 +6,17 @@
 #include <atomic>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <stdexcept>
 #include <string>
 
 namespace zebtest {
+
+inline std::string contentOf(const std::string& file) {
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) throw std::runtime_error("cannot read " + file);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
 
 class TemporaryFile {
  public:

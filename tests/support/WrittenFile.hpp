@@ -4,10 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <string_view>
+
+#include "tests/support/TemporaryFile.hpp"
 
 namespace zebtest {
 
@@ -20,10 +20,7 @@ inline void expectCurrent(const std::string& name, const std::string& today) {
     std::ofstream(path, std::ios::binary) << today;
     return;
   }
-  std::ifstream file(path);
-  std::ostringstream text;
-  text << file.rdbuf();
-  EXPECT_TRUE(text.str() == today) << name << " is stale; UPDATE_GOLDEN=1 rewrites it";
+  EXPECT_TRUE(contentOf(path) == today) << name << " is stale; UPDATE_GOLDEN=1 rewrites it";
 }
 
 }  // namespace zebtest

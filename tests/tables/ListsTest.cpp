@@ -4,29 +4,21 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <regex>
 #include <set>
-#include <sstream>
 
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "frame/CMPReader.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "frame/MoldingTypes.hpp"
 #include "inspect/set/OutputCapture.hpp"
+#include "tests/support/TemporaryFile.hpp"
 #include "tests/support/Tsv.hpp"
 
 namespace {
 
 const std::string kRoot = ZEB_TEST_DATA_DIR "/../../";
-
-std::string contentOf(const std::string& file) {
-  std::ifstream stream(kRoot + file);
-  std::ostringstream text;
-  text << stream.rdbuf();
-  return text.str();
-}
 
 // The classes that the public headers of a folder are named after.
 std::set<std::string> headersIn(const std::string& folder, const std::string& prefix) {
@@ -131,7 +123,7 @@ TEST(MoldingTypeTable, IsToldByTheParameterSetsHeader) {
   for (const zeb::MoldingType& type : zeb::moldingTypes()) {
     names += (names.empty() ? "" : ", ") + std::string(type.name);
   }
-  const std::string header = contentOf("frame/CZEBKNCMPCompParm.h");
+  const std::string header = zebtest::contentOf(kRoot + "frame/CZEBKNCMPCompParm.h");
   const std::string told = std::regex_replace(header, std::regex("\\s+///\\s+"), " ");
   EXPECT_NE(told.find("`moldingType`, counted from 0: " + names + ". "), told.npos) << "it must tell of " << names;
 }

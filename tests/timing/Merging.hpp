@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <string>
 #include <utility>
 #include <vector>
 
 #include "cmx/COutput_F2C_MultiTiming.h"
+#include "tests/support/Printed.hpp"
 
 namespace zebtest {
 
@@ -47,13 +47,6 @@ inline Result merge(double span, int steps, const std::vector<double>& moments,
   Timing timing;
   feed(timing, span, steps, moments, type);
   return resultOf(timing);
-}
-
-template <class Action>
-std::string printedBy(Action action) {
-  testing::internal::CaptureStdout();
-  action();
-  return testing::internal::GetCapturedStdout();
 }
 
 }  // namespace zebtest

@@ -8,8 +8,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -35,15 +33,10 @@ inline std::vector<std::string> linesOf(const std::string& text) {
   return lines;
 }
 
-inline std::string contentOf(const std::string& path) {
-  std::ifstream stream(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-}
-
 namespace tool_detail {
 
-constexpr unsigned kSecondsToEnd =
-    120;  // a tool that waits for ever (a pipe nobody writes to) is a failure, not a hang
+// A tool that waits for ever (a pipe nobody writes to) is a failure, not a hang.
+constexpr unsigned kSecondsToEnd = 120;
 
 inline void redirect(int descriptor, const std::string& path) {
   const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);

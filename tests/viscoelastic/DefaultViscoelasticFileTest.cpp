@@ -16,22 +16,19 @@
 
 #include "engine/ReadObserver.hpp"
 #include "tests/support/RecordingCommunicator.h"
+#include "tests/support/TemporaryFile.hpp"
 #include "tests/support/TestFolder.hpp"
 #include "tests/viscoelastic/ViscoelasticSupport.hpp"
 
 namespace {
 
 using zeb::test::TestFolder;
+using zebtest::contentOf;
 using zebtest::fileWith;
 using zebtest::kDefaultFile;
 using zebtest::printedBy;
 
 constexpr const char* kCannotOpen = "Can not open viscoelastic cmp file! \n";
-
-std::string contentOf(const std::string& fileName) {
-  std::ifstream file(fileName, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 std::vector<std::string> filesIn(const TestFolder& folder) {
   std::vector<std::string> names;

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
@@ -13,15 +11,13 @@
 
 #include "engine/ParameterTable.hpp"
 #include "tests/blocks/ReadBlock.hpp"
+#include "tests/support/TemporaryFile.hpp"
 #include "viscoelastic/ViscoelasticFile.hpp"
 
 namespace zebtest {
 
 /// What a block with all its defaults is written as.
-inline const std::string kDefaultFile = [] {
-  std::ifstream file(ZEB_TEST_DATA_DIR "/default.vecmp", std::ios::binary);
-  return std::string{std::istreambuf_iterator<char>(file), {}};
-}();
+inline const std::string kDefaultFile = contentOf(ZEB_TEST_DATA_DIR "/default.vecmp");
 
 /// A head whose values are all ignored (so that a block keeps what it has), with some lines replaced, then `body`.
 inline std::string fileWith(const std::map<int, std::string>& lines, const std::string& body = "") {
