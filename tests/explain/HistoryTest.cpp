@@ -24,6 +24,11 @@ namespace {
 
 using Kind = zeb::HistoryStep::Kind;
 
+const zeb::HistoryStep& theOnly(const std::vector<const zeb::HistoryStep*>& steps) {
+  EXPECT_EQ(steps.size(), 1u);
+  return *steps.at(0);
+}
+
 class Analysed {
  public:
   explicit Analysed(const std::string& text, const zeb::AnalysisOptions& options = {})
@@ -38,6 +43,7 @@ class Analysed {
     const auto* entry = entryOf(name);
     return history.stepsOf(*entry->row, blockOf(*entry));
   }
+  const zeb::HistoryStep& only(std::string_view name) const { return theOnly(steps(name)); }
   std::string value(std::string_view name) const {
     const auto* entry = entryOf(name);
     return zeb::valueOf(*entry->row, blockOf(*entry));
@@ -63,14 +69,13 @@ class Analysed {
 
 TEST(History, TellsRawTextWhatWasParsedWhatWasLeftAndTheConversion) {
   const Analysed analysed("[Outlet]\nAirPressure = 0.2 MPa\n[/Outlet]\n");
-  const auto steps = analysed.steps("AirPressure");
-  ASSERT_EQ(steps.size(), 1u);
-  EXPECT_EQ(steps[0]->kind, Kind::kLine);
-  EXPECT_EQ(steps[0]->lineNumber, 2);
-  EXPECT_EQ(steps[0]->line, "AirPressure = 0.2 MPa");
-  EXPECT_EQ(steps[0]->used, "0.2");
-  EXPECT_EQ(steps[0]->left, " MPa");
-  EXPECT_EQ(std::stod(steps[0]->after), 2e6);
+  const zeb::HistoryStep& step = analysed.only("AirPressure");
+  EXPECT_EQ(step.kind, Kind::kLine);
+  EXPECT_EQ(step.lineNumber, 2);
+  EXPECT_EQ(step.line, "AirPressure = 0.2 MPa");
+  EXPECT_EQ(step.used, "0.2");
+  EXPECT_EQ(step.left, " MPa");
+  EXPECT_EQ(std::stod(step.after), 2e6);
 }
 
 TEST(History, KeepsEveryLineInOrder) {
@@ -85,9 +90,8 @@ TEST(History, KeepsEveryLineInOrder) {
 
 TEST(History, NamesTheOtherKeysOfALine) {
   const Analysed analysed("[Outlet]\n# AirPressure\n[/Outlet]\n[TimeStepSizeCtrl]\nNewMethod InitialDt = 1\n");
-  const auto steps = analysed.steps("TimeStepSizeCtrl.NewMethod");
-  ASSERT_EQ(steps.size(), 1u);
-  const auto& others = steps[0]->others;
+  const zeb::HistoryStep& step = analysed.only("TimeStepSizeCtrl.NewMethod");
+  const auto& others = step.others;
   ASSERT_EQ(others.size(), 1u);
   EXPECT_EQ(others[0].key, "InitialDt");
   EXPECT_EQ(others[0].after, "1");
@@ -180,11 +184,10 @@ TEST(History, TellsTheLinesOfAList) {
   const Analysed analysed(
       "[MultiGate]\nMultipleGateMethod = 1\nNumberofInletGroups = 2\nWeightings = 0.25\nWeightings = "
       "9\n[/MultiGate]\n");
-  const auto steps = analysed.steps("m_pdInletWeightings");
-  ASSERT_EQ(steps.size(), 1u);
-  EXPECT_EQ(steps[0]->kind, Kind::kList);
-  EXPECT_EQ(steps[0]->key, "NumberofInletGroups");
-  EXPECT_EQ(steps[0]->listLines.size(), 2u);
+  const zeb::HistoryStep& step = analysed.only("m_pdInletWeightings");
+  EXPECT_EQ(step.kind, Kind::kList);
+  EXPECT_EQ(step.key, "NumberofInletGroups");
+  EXPECT_EQ(step.listLines.size(), 2u);
 }
 
 TEST(History, TellsAnElementsValueStepByStep) {
@@ -202,31 +205,27 @@ TEST(History, TellsFieldsThatALineOfTheHeadLacks) {
   std::string head = "[VER] 1023\n";
   for (int line = 1; line <= 17; ++line) head += "\n";
   const Analysed analysed(head + "0.0 1 7000.0\n\n");
-  const auto given = analysed.steps("m_iIsLowTempVisCorr");
-  ASSERT_EQ(given.size(), 1u);
-  EXPECT_EQ(given[0]->kind, Kind::kLine);
-  EXPECT_EQ(given[0]->after, "1");
-  const auto missing = analysed.steps("m_dHighTempEPS");
-  ASSERT_EQ(missing.size(), 1u);
-  EXPECT_EQ(missing[0]->kind, Kind::kMissingField);
-  EXPECT_EQ(missing[0]->after, "10000");
+  const zeb::HistoryStep& given = analysed.only("m_iIsLowTempVisCorr");
+  EXPECT_EQ(given.kind, Kind::kLine);
+  EXPECT_EQ(given.after, "1");
+  const zeb::HistoryStep& missing = analysed.only("m_dHighTempEPS");
+  EXPECT_EQ(missing.kind, Kind::kMissingField);
+  EXPECT_EQ(missing.after, "10000");
   EXPECT_EQ(analysed.value("m_dHighTempEPS"), "10000");
 }
 
 TEST(History, TellsWhyAFieldIsNotRead) {
   const Analysed analysed("[VER] 1023\n2 2 2 2 2 2\n1 1 x 10\n7\n");
-  const auto read = analysed.steps("m_iNRestartIV");
-  ASSERT_EQ(read.size(), 1u);
-  EXPECT_EQ(read[0]->lineNumber, 3);
-  EXPECT_EQ(read[0]->positionalLine, 2);
-  EXPECT_EQ(read[0]->used, "1");
+  const zeb::HistoryStep& read = analysed.only("m_iNRestartIV");
+  EXPECT_EQ(read.lineNumber, 3);
+  EXPECT_EQ(read.positionalLine, 2);
+  EXPECT_EQ(read.used, "1");
   for (const char* name : {"m_iNRestartIW", "m_iNRestartIP"}) {
-    const auto stopped = analysed.steps(name);
-    ASSERT_EQ(stopped.size(), 1u) << name;
-    EXPECT_EQ(stopped[0]->kind, Kind::kMissingField);
-    EXPECT_EQ(stopped[0]->lineNumber, 3);
-    EXPECT_EQ(stopped[0]->reason, "reading of the line stops at \"x 10\"");
-    EXPECT_FALSE(stopped[0]->sets());
+    const zeb::HistoryStep& stopped = analysed.only(name);
+    EXPECT_EQ(stopped.kind, Kind::kMissingField);
+    EXPECT_EQ(stopped.lineNumber, 3);
+    EXPECT_EQ(stopped.reason, "reading of the line stops at \"x 10\"");
+    EXPECT_FALSE(stopped.sets());
   }
   const auto ended = analysed.steps("m_iNiter");  // head line 4
   ASSERT_EQ(ended.size(), 1u);
@@ -237,11 +236,10 @@ TEST(History, TellsWhyAHeadIsNotRead) {
   for (const auto& [line, reason] : {std::pair{"[VER] 1024", "version 1024"}, std::pair{"[VER] x", "no version number"},
                                      std::pair{"[VER] 1013", "version 1013"}}) {
     const Analysed analysed(std::string(line) + "\n2 2 2 2 2 2\n");
-    const auto steps = analysed.steps("m_ilsolvU");
-    ASSERT_EQ(steps.size(), 1u) << line;
-    EXPECT_EQ(steps[0]->kind, Kind::kRefused);
-    EXPECT_EQ(steps[0]->lineNumber, 1);
-    EXPECT_EQ(steps[0]->reason, reason);
+    const zeb::HistoryStep& step = analysed.only("m_ilsolvU");
+    EXPECT_EQ(step.kind, Kind::kRefused);
+    EXPECT_EQ(step.lineNumber, 1);
+    EXPECT_EQ(step.reason, reason);
   }
   const Analysed standard("[VER] 1023\n7 2 2 2 2 2\n", zeb::FileKind::kStd);
   EXPECT_EQ(standard.steps("ilsolvU").at(0)->kind, Kind::kRefused);
@@ -253,37 +251,32 @@ TEST(History, TellsWhyAHeadIsNotRead) {
 
 TEST(History, TellsWhyACoolingSectionIsNotRead) {
   const Analysed refused("\n[StdCool]\n1046\n3 4\n");
-  const auto steps = refused.steps("StdCool.iGetlsolvTP");
-  ASSERT_EQ(steps.size(), 1u);
-  EXPECT_EQ(steps[0]->kind, Kind::kRefused);
-  EXPECT_EQ(steps[0]->lineNumber, 3);
-  EXPECT_EQ(steps[0]->reason, "version 1046 instead of 1047");
+  const zeb::HistoryStep& step = refused.only("StdCool.iGetlsolvTP");
+  EXPECT_EQ(step.kind, Kind::kRefused);
+  EXPECT_EQ(step.lineNumber, 3);
+  EXPECT_EQ(step.reason, "version 1046 instead of 1047");
   EXPECT_EQ(refused.value("StdCool.iGetlsolvTP"), "2");
 
   const Analysed read("\n[StdCool]\n1047\n3\n");
-  const auto given = read.steps("StdCool.iGetlsolvTP");
-  ASSERT_EQ(given.size(), 1u);
-  EXPECT_EQ(given[0]->lineNumber, 4);
-  EXPECT_EQ(given[0]->positionalLine, 2);
-  EXPECT_EQ(given[0]->after, "3");
-  const auto version = read.steps("StdCool.iGetcfcver_StdCool");
-  ASSERT_EQ(version.size(), 1u);
-  EXPECT_EQ(version[0]->lineNumber, 3);
-  EXPECT_EQ(version[0]->after, "1047");
-  const auto lacking = read.steps("StdCool.iGetlsolvTM");
-  ASSERT_EQ(lacking.size(), 1u);
-  EXPECT_EQ(lacking[0]->reason, "the line holds only 1 field");
+  const zeb::HistoryStep& given = read.only("StdCool.iGetlsolvTP");
+  EXPECT_EQ(given.lineNumber, 4);
+  EXPECT_EQ(given.positionalLine, 2);
+  EXPECT_EQ(given.after, "3");
+  const zeb::HistoryStep& version = read.only("StdCool.iGetcfcver_StdCool");
+  EXPECT_EQ(version.lineNumber, 3);
+  EXPECT_EQ(version.after, "1047");
+  const zeb::HistoryStep& lacking = read.only("StdCool.iGetlsolvTM");
+  EXPECT_EQ(lacking.reason, "the line holds only 1 field");
 }
 
 TEST(History, TellsTheLinesOfMomentsInACmxFile) {
   const Analysed analysed(
       "<FILL_OUTPUT_TIMES>\nValueNoFillOutputTime = 3\n1 = 0.5\n2 0.8\n3 = 1.2\n</FILL_OUTPUT_TIMES>\n",
       zeb::FileKind::kCmx);
-  const auto steps = analysed.steps("FILL_OUTPUT_TIMES.m_pOutTimeStep");
-  ASSERT_EQ(steps.size(), 1u);
-  EXPECT_EQ(steps[0]->listLines,
+  const zeb::HistoryStep& step = analysed.only("FILL_OUTPUT_TIMES.m_pOutTimeStep");
+  EXPECT_EQ(step.listLines,
             (std::vector<std::string>{"line 3: 1 = 0.5", "line 4: 2 0.8 (not used)", "line 5: 3 = 1.2"}));
-  EXPECT_EQ(steps[0]->after, "[0.5, 0, 1.2]");
+  EXPECT_EQ(step.after, "[0.5, 0, 1.2]");
 }
 
 TEST(History, KeepsTheFirstAndTheLastUsedLineOfALongList) {
@@ -300,21 +293,18 @@ TEST(History, TellsTheOwnLineOfEachCoefficientInACmxFile) {
   const Analysed analysed(
       "<FILL_ADVANCED_LONGFIBER>\nDiffusionModelType = 1\nCf = 0.01\nCm = 0.3\n</FILL_ADVANCED_LONGFIBER>\n",
       zeb::FileKind::kCmx);
-  const auto atDefault = analysed.steps("m_dARD_Cf");
-  ASSERT_EQ(atDefault.size(), 1u);
-  EXPECT_EQ(atDefault[0]->lineNumber, 3);
-  const auto changed = analysed.steps("m_dARD_Cm");
-  ASSERT_EQ(changed.size(), 1u);
-  EXPECT_EQ(changed[0]->lineNumber, 4);
-  EXPECT_EQ(changed[0]->after, "0.3");
+  const zeb::HistoryStep& atDefault = analysed.only("m_dARD_Cf");
+  EXPECT_EQ(atDefault.lineNumber, 3);
+  const zeb::HistoryStep& changed = analysed.only("m_dARD_Cm");
+  EXPECT_EQ(changed.lineNumber, 4);
+  EXPECT_EQ(changed.after, "0.3");
   EXPECT_TRUE(analysed.steps("m_dARD_b1").empty());
 }
 
 TEST(History, TellsKeysAboveTheGateOfTheStandardSolver) {
   const Analysed analysed("[MultiGate]\nByVolume = 0.5\nMultipleGateMethod = 1\n[/MultiGate]\n", zeb::FileKind::kStd);
-  const auto steps = analysed.steps("ByVolume");
-  ASSERT_EQ(steps.size(), 1u);
-  EXPECT_EQ(steps[0]->outcome, zeb::KeyOutcome::kGated);
+  const zeb::HistoryStep& step = analysed.only("ByVolume");
+  EXPECT_EQ(step.outcome, zeb::KeyOutcome::kGated);
   EXPECT_EQ(analysed.value("ByVolume"), "0.02");
 }
 
@@ -336,6 +326,7 @@ class WithViscoelasticFile {
     const auto* entry = zeb::findEntries(member, "CMP").at(0);
     return m_history.stepsOf(*entry->row, m_set.cmp->getVEParm());
   }
+  const zeb::HistoryStep& only(std::string_view member) const { return theOnly(steps(member)); }
   void explain() { m_set = read(m_history); }
 
  private:
@@ -352,23 +343,20 @@ TEST(History, TellsHeadValuesOfTheViscoelasticFileThatAreNotTaken) {
   ASSERT_EQ(low.size(), 1u);
   EXPECT_EQ(low[0]->kind, Kind::kNotTaken);
   EXPECT_EQ(low[0]->lineNumber, 2);
-  const auto taken = file.steps("m_dModifyLamdaLowT");
-  ASSERT_EQ(taken.size(), 1u);
-  EXPECT_EQ(taken[0]->kind, Kind::kLine);
-  EXPECT_EQ(taken[0]->after, "2");
-  const auto weight = file.steps("m_dSmoothFactor");
-  ASSERT_EQ(weight.size(), 1u);
-  EXPECT_EQ(weight[0]->lineNumber, 8);
-  EXPECT_EQ(weight[0]->after, "0.5");
+  const zeb::HistoryStep& taken = file.only("m_dModifyLamdaLowT");
+  EXPECT_EQ(taken.kind, Kind::kLine);
+  EXPECT_EQ(taken.after, "2");
+  const zeb::HistoryStep& weight = file.only("m_dSmoothFactor");
+  EXPECT_EQ(weight.lineNumber, 8);
+  EXPECT_EQ(weight.after, "0.5");
 }
 
 TEST(History, TellsThatAShortHeadLineCountsOnTheOneAbove) {
   WithViscoelasticFile file("1006\n50 2 0\n20 0.2 30\n20\n1000 1e6\n0 1e4 0\n1 10 1000\n1 0.5 0\n-1\n");
   file.explain();
-  const auto steps = file.steps("m_dModifyLamdaStressUB");
-  ASSERT_EQ(steps.size(), 1u);
-  EXPECT_EQ(steps[0]->after, "0.2");
-  EXPECT_EQ(steps[0]->reason, "the line lacks the field; that of the line above counts");
+  const zeb::HistoryStep& step = file.only("m_dModifyLamdaStressUB");
+  EXPECT_EQ(step.after, "0.2");
+  EXPECT_EQ(step.reason, "the line lacks the field; that of the line above counts");
 }
 
 TEST(History, TellsWhyTheViscoelasticFileIsRefused) {
