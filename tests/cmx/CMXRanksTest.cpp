@@ -38,13 +38,6 @@ class CMXRanks : public testing::Test {
   std::string m_file = m_folder.write("run.cmx", kFile);
 };
 
-TEST_F(CMXRanks, AllRanksHoldWhatASerialRunReads) {
-  const std::string serial = read(nullptr);
-  for (const int ranks : {2, 8, 64}) {
-    EXPECT_EQ(zebtest::readOnRanks(ranks, [this](CZEBCom& com) { return read(&com); }), serial) << ranks << " ranks";
-  }
-}
-
 TEST_F(CMXRanks, RanksInThreadsMeetInTheSameCalls) {
   const std::string serial = read(nullptr);
   zeb::ThreadTeam team(8);
@@ -64,28 +57,12 @@ TEST_F(CMXRanks, LineCostsTheEndFlagAndTheTextAndNoBarrier) {
                                                    "Broadi -1"}));  // the file's
 }
 
-TEST_F(CMXRanks, NoBarrierInAWholeFile) {
-  zeb::CallLog log;
-  zebtest::readOnRanks(
-      2, [this](CZEBCom& com) { return read(&com); }, &log);
-  EXPECT_GT(log.size(), 0u);
-  for (const std::string& call : log.calls()) EXPECT_NE(call, "Barrier");
-}
-
 TEST_F(CMXRanks, MissingFileEndsAllRanksAtTheFirstLine) {
   m_file = m_folder.path("none.cmx");
   zeb::CallLog log;
   zebtest::readOnRanks(
       4, [this](CZEBCom& com) { return read(&com); }, &log);
   EXPECT_EQ(log.calls(), std::vector<std::string>{"Broadi -1"});
-}
-
-TEST_F(CMXRanks, LongLineIsCutInParallelModeOnly) {
-  m_file =
-      m_folder.write("long.cmx", "<SOLID_COOL>\n" + std::string(240, ' ') + "IDSolver =        5\n</SOLID_COOL>\n");
-  EXPECT_NE(read(nullptr).find("SOLID_COOL.m_iTransientCoolType 5\n"), std::string::npos);
-  const std::string cut = zebtest::readOnRanks(2, [this](CZEBCom& com) { return read(&com); });
-  EXPECT_NE(cut.find("SOLID_COOL.m_iTransientCoolType 1\n"), std::string::npos);
 }
 
 TEST_F(CMXRanks, NothingIsPrintedUnlessThePrintLevelIsRaised) {
@@ -105,20 +82,20 @@ TEST_F(CMXRanks, RaisedPrintLevelTracesNameAndLinesOnRank0) {
             nameLine + " - CPUID:0 string: <SOLID_COOL>\n - CPUID:0 string:  IDSolver = 5\n");
 }
 
-TEST_F(CMXRanks, LineOf254CharactersIsReadWholeOnRanks) {
-  const auto valueOnRanks = [](std::size_t length) {
+TEST_F(CMXRanks, LineIsCutBehind254CharactersOnRanksOnly) {
+  const auto value = [](std::size_t length, CZEBCom* com) {
     // "25" ends the line.
     const std::string key = "IDSolver =";
-    const std::string text = "<SOLID_COOL>\n" + key + std::string(length - key.size() - 2, ' ') + "25\n";
-    zeb::RecordingCommunicator com(2);
     CZEBCMXInternalTool tool;
-    tool.setZEBCom(&com);
-    zebtest::readIntoTool(tool, text);
+    tool.setZEBCom(com);
+    zebtest::readIntoTool(tool, "<SOLID_COOL>\n" + key + std::string(length - key.size() - 2, ' ') + "25\n");
     return tool.block<CZEBCMX_SOLID_COOL>().iTransientCoolType();
   };
-  EXPECT_EQ(valueOnRanks(254), 25);
-  EXPECT_EQ(valueOnRanks(255), 2);
-  EXPECT_EQ(valueOnRanks(256), 1) << "no value is left";
+  zeb::RecordingCommunicator com(2);
+  EXPECT_EQ(value(256, nullptr), 25);
+  EXPECT_EQ(value(254, &com), 25);
+  EXPECT_EQ(value(255, &com), 2);
+  EXPECT_EQ(value(256, &com), 1) << "no value is left";
 }
 
 // --- Communicators
@@ -145,19 +122,6 @@ TEST_F(CMXCommunicators, CopiesShareTheCommunicator) {
   EXPECT_EQ(copy.setZEBCom(&com), 1);
   set.setSolidFillBlock(m_file);
   EXPECT_FALSE(com.log().empty());
-}
-
-TEST_F(CMXCommunicators, OtherRanksOpenNothingAndTakeRank0sLines) {
-  zeb::RecordingCommunicator first(2);
-  CZEBKNCMXCompParm rank0(0);
-  rank0.setZEBCom(&first);
-  rank0.setSolidFillBlock(m_file);
-  zeb::ReplayingCommunicator second(first.log(), 1, 2);
-  CZEBKNCMXCompParm rank1(0);
-  rank1.setZEBCom(&second);
-  EXPECT_EQ(rank1.setSolidFillBlock(m_folder.write("other.cmx", "<SOLID_COOL>\nIDSolver = 8\n")), 1);
-  EXPECT_TRUE(second.finished());
-  EXPECT_EQ(rank1.getSOLID_COOL()->iTransientCoolType(), 5);
 }
 
 }  // namespace

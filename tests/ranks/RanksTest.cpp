@@ -5,8 +5,6 @@
 #include <set>
 #include <vector>
 
-#include "blocks/CZEBCMPGeneralParm.h"
-#include "blocks/CZEBCoolBackDoorParm.h"
 #include "standalone/ThreadCommunicator.h"
 #include "tests/ranks/Examples.hpp"
 #include "tests/ranks/RandomFile.hpp"
@@ -171,32 +169,6 @@ TEST(CutFilesOnRanks, ListsCutAtEveryByte) {
       expectSameReading(zebtest::readOnRanks(file.path(), 8, {1, 7}), serial);
     }
   }
-}
-
-// --- Whiteboard -------------------------------------------------------------------------------------------------
-
-TEST(WhiteboardOnRanks, Rank0sValuesReachEveryRank) {
-  // Rank 0 reads these lines alone and sends the values afterwards.
-  const zebtest::TemporaryFile file(
-      "[Whiteboard]\nHeatFluxHistory\nElemagComsol 1.5 2.5 field.txt\nSensorHeatFlux\nIdealCooingItreateNumber = 4\n"
-      "[/Whiteboard]\n[General]\nVentMode = 2\n[/General]\n");
-  zeb::RecordingCommunicator first(2);
-  const Reading reading = zebtest::readAs(&first, file.path());
-  zeb::ReplayingCommunicator second(first.log(), 1, 2);
-  CZEBKNCMPCompParm set(0, 0);
-  set.setZEBCom(&second);
-  set.setSolidFillBlock("no/such/file.cmp");
-  const CZEBCoolBackDoorParm& board = *set.getCool_BackDoorParm();
-  EXPECT_TRUE(board.bGetIfActiveHeatFluxHistory());
-  EXPECT_EQ(board.iGetIfActive_ElectromagneticHeating(), 1);
-  EXPECT_EQ(board.dGetTime_StartHeating(), 1.5);
-  EXPECT_EQ(board.dGetTime_EndHeating(), 2.5);
-  EXPECT_STREQ(board.cGetElectromagneticxternalFile(), "field.txt");
-  EXPECT_EQ(board.iGetIfActiveSensorHeatFlux(), 1);
-  EXPECT_EQ(board.iGetIdealCooingIterateNumber(), 4);
-  EXPECT_EQ(set.getGeneralParm()->iVentMode(), 2);
-  EXPECT_TRUE(second.finished());
-  EXPECT_EQ(zeb::fingerprint(zeb::blocksOf(set)), reading.values);
 }
 
 }  // namespace
