@@ -55,92 +55,55 @@ TEST_F(StdReader, SecondFileIsReadOverTheFirst) {
 TEST_F(StdReader, MissingFileKeepsTheDefaults) {
   const auto defaults = publicValues(m_set);
   const std::string name = m_folder.path("none.cmp");
-  EXPECT_EQ(zebtest::printedBy([&] { EXPECT_EQ(m_set.setSolidFillBlock(name), 1); }), " CMP file name = " + name + "\n");
+  EXPECT_EQ(zebtest::printedBy([&] { EXPECT_EQ(m_set.setSolidFillBlock(name), 1); }),
+            " CMP file name = " + name + "\n");
   EXPECT_EQ(publicValues(m_set), defaults);
 }
 
 // --- Repair for conformal cooling
 
-TEST_F(StdReader, ConformalCoolingRepairsTheDefaults) {
-  EXPECT_EQ(zebtest::printedBy([this] { EXPECT_EQ(m_set.modifyParm_ConformalCooling(0), 1); }), "");
-  EXPECT_EQ(m_set.dtoler(), 0.1);
-  EXPECT_EQ(m_set.dBlendIT(), 0.0);
-  EXPECT_EQ(m_set.drelaxIP(), 0.6) << "the coupling type is not 1";
-  EXPECT_EQ(m_set.iNiterInIP(), 100);
-}
+const std::string kToler = "\n>>> tol restored from 0.01 to 0.1\n\n", kBlendT = "\n>>> bT restored from 0.8 to 0.0\n\n",
+                  kRelaxP = "\n>>> rp restored from 0.6 to 0.2\n\n";
 
-TEST_F(StdReader, ConformalCoolingTellsWhatItRepairsWhenTheCheckIsOn) {
-  read(headWith("0.01", "0.8", "0.6", "1", "1"));
-  EXPECT_EQ(zebtest::printedBy([this] { m_set.modifyParm_ConformalCooling(0); }),
-            "\n>>> tol restored from 0.01 to 0.1\n\n"
-            "\n>>> bT restored from 0.8 to 0.0\n\n"
-            "\n>>> rp restored from 0.6 to 0.2\n\n");
-  EXPECT_EQ(m_set.dtoler(), 0.1);
-  EXPECT_EQ(m_set.dBlendIT(), 0.0);
-  EXPECT_EQ(m_set.drelaxIP(), 0.2);
-  EXPECT_EQ(zebtest::printedBy([this] { m_set.modifyParm_ConformalCooling(0); }), "") << "nothing is left to repair";
-}
+struct Repair {
+  std::string head;  // empty: the defaults
+  int mode;
+  double toler, blendT, relaxP;
+  int iterations;
+  std::string printed;
+};
 
-TEST_F(StdReader, ConformalCoolingIsSilentWhenTheCheckIsOff) {
-  read(headWith("0.01", "0.8", "0.6", "0", "1"));
-  EXPECT_EQ(zebtest::printedBy([this] { m_set.modifyParm_ConformalCooling(0); }), "");
-  EXPECT_EQ(m_set.drelaxIP(), 0.2);
-}
-
-TEST_F(StdReader, ConformalCoolingTolerancesDiffer) {
-  read(headWith("0.0100009", "0.8009", "0.5991", "0", "1"));
-  m_set.modifyParm_ConformalCooling(0);
-  EXPECT_EQ(m_set.dtoler(), 0.1);
-  EXPECT_EQ(m_set.dBlendIT(), 0.0);
-  EXPECT_EQ(m_set.drelaxIP(), 0.2);
-  CZEBKNstdCMPCompParm outside;
-  read(outside, headWith("0.010002", "0.7989", "0.6011", "0", "1"));
-  outside.modifyParm_ConformalCooling(0);
-  EXPECT_EQ(outside.dtoler(), 0.010002);
-  EXPECT_EQ(outside.dBlendIT(), 0.7989);
-  EXPECT_EQ(outside.drelaxIP(), 0.6011);
+TEST_F(StdReader, ConformalCoolingRepairsWhatItsModeAndTheHeadAskFor) {
+  for (const Repair& repair : {
+           Repair{"", 0, 0.1, 0.0, 0.6, 100, ""},  // the coupling type is not 1
+           Repair{"", 1, 0.1, 0.0, 0.6, 20, ""},
+           Repair{headWith("0.01", "0.8", "0.6", "1", "1"), 0, 0.1, 0.0, 0.2, 100, kToler + kBlendT + kRelaxP},
+           Repair{headWith("0.01", "0.8", "0.6", "-3", "1"), 1, 0.1, 0.0, 0.2, 20, kToler + kBlendT + kRelaxP},
+           Repair{headWith("0.01", "0.8", "0.6", "0", "1"), 0, 0.1, 0.0, 0.2, 100, ""},
+           Repair{headWith("0.0100009", "0.8009", "0.5991", "0", "1"), 0, 0.1, 0.0, 0.2, 100, ""},
+           Repair{headWith("0.010002", "0.7989", "0.6011", "1", "1"), 0, 0.010002, 0.7989, 0.6011, 100, ""},
+           Repair{headWith("0.5", "0.3", "0.6", "1", "14"), 1, 0.1, 0.3, 0.6, 20, ""},
+           Repair{headWith("0.5", "0.3", "0.6", "1", "14"), 2, 0.5, 0.3, 0.6, 100, ""},
+           Repair{headWith("0.5", "0.3", "0.6", "1", "0"), 0, 0.5, 0.3, 0.6, 100, ""},
+           Repair{headWith("0.5", "0.3", "0.6", "1", "-1"), 0, 0.5, 0.3, 0.6, 100, ""},
+           Repair{headWith("0.5", "0.3", "0.6", "1", "2"), 0, 0.5, 0.3, 0.6, 100, ""},
+           Repair{headWith("0.5", "0.3", "0.6", "1", "11"), 0, 0.5, 0.3, 0.6, 100, ""},
+       }) {
+    SCOPED_TRACE(repair.head);
+    CZEBKNstdCMPCompParm set;
+    read(set, repair.head);
+    EXPECT_EQ(zebtest::printedBy([&] { EXPECT_EQ(set.modifyParm_ConformalCooling(repair.mode), 1); }), repair.printed);
+    EXPECT_EQ(set.dtoler(), repair.toler);
+    EXPECT_EQ(set.dBlendIT(), repair.blendT);
+    EXPECT_EQ(set.drelaxIP(), repair.relaxP);
+    EXPECT_EQ(set.iNiterInIP(), repair.iterations);
+    EXPECT_EQ(zebtest::printedBy([&] { set.modifyParm_ConformalCooling(0); }), "") << "nothing is left to repair";
+  }
 }
 
 TEST_F(StdReader, ConformalCoolingLeavesValuesThatAreNoNumbersAlone) {
   read(headWith("nan", "nan", "nan", "1", "1"));
   EXPECT_EQ(zebtest::printedBy([this] { m_set.modifyParm_ConformalCooling(0); }), "");
-}
-
-TEST_F(StdReader, ConformalCoolingMode1SetsToleranceAndPressureIterationsSilently) {
-  read(headWith("0.5", "0.3", "0.6", "1", "14"));
-  EXPECT_EQ(zebtest::printedBy([this] { EXPECT_EQ(m_set.modifyParm_ConformalCooling(1), 1); }), "");
-  EXPECT_EQ(m_set.dtoler(), 0.1);
-  EXPECT_EQ(m_set.iNiterInIP(), 20);
-  CZEBKNstdCMPCompParm other;
-  read(other, headWith("0.5", "0.3", "0.6", "1", "14"));
-  other.modifyParm_ConformalCooling(2);
-  EXPECT_EQ(other.dtoler(), 0.5);
-  EXPECT_EQ(other.iNiterInIP(), 100);
-}
-
-TEST_F(StdReader, ConformalCoolingMode1RepairsTheDefaultsToo) {
-  EXPECT_EQ(zebtest::printedBy([this] { EXPECT_EQ(m_set.modifyParm_ConformalCooling(1), 1); }), "");
-  EXPECT_EQ(m_set.dtoler(), 0.1);
-  EXPECT_EQ(m_set.dBlendIT(), 0.0);
-  EXPECT_EQ(m_set.drelaxIP(), 0.6);
-  EXPECT_EQ(m_set.iNiterInIP(), 20);
-}
-
-TEST_F(StdReader, ConformalCoolingTellsItsRepairsForAnyCheckThatIsNot0) {
-  read(headWith("0.01", "0.8", "0.6", "-3", "1"));
-  EXPECT_EQ(zebtest::printedBy([this] { m_set.modifyParm_ConformalCooling(1); }),
-            "\n>>> tol restored from 0.01 to 0.1\n\n"
-            "\n>>> bT restored from 0.8 to 0.0\n\n"
-            "\n>>> rp restored from 0.6 to 0.2\n\n");
-  EXPECT_EQ(m_set.iNiterInIP(), 20);
-}
-
-TEST_F(StdReader, ConformalCoolingRepairsThePressureForCoupling1Only) {
-  for (const std::string coupling : {"0", "-1", "2", "11"}) {
-    read(headWith("0.5", "0.3", "0.6", "1", coupling));
-    EXPECT_EQ(zebtest::printedBy([this] { m_set.modifyParm_ConformalCooling(0); }), "") << coupling;
-    EXPECT_EQ(m_set.drelaxIP(), 0.6) << coupling;
-  }
 }
 
 // --- Communicator and copies
@@ -194,18 +157,6 @@ TEST_F(StdReader, CommunicatorWithoutRanksIsRefused) {
   }
 }
 
-TEST_F(StdReader, OtherRanksOpenAndPrintNothingAndTakeRank0sLines) {
-  zeb::RecordingCommunicator first(2);
-  CZEBKNstdCMPCompParm rank0;
-  EXPECT_EQ(rank0.setZEBCom(&first), 1);
-  read(rank0, "[General]\nAutoHTC = 5\n[/General]\n");
-  zeb::ReplayingCommunicator second(first.log(), 1, 2);
-  EXPECT_EQ(m_set.setZEBCom(&second), 1);
-  EXPECT_EQ(read("[General]\nAutoHTC = 8\n[/General]\n"), "");
-  EXPECT_TRUE(second.finished());
-  EXPECT_EQ(m_set.iAutoHTC(), 5);
-}
-
 // --- Line source
 
 TEST_F(StdReader, SerialReadingPrintsTheFilesNameOnly) {
@@ -222,12 +173,12 @@ TEST_F(StdReader, Rank0EchoesTheNameAndEveryLine) {
     return std::string();
   };
   EXPECT_EQ(zebtest::printedBy([&] { zebtest::readOnRanks(3, read); }), " CMP file name = " + m_file +
-                                                                           "\n"
-                                                                           " - CPUID:0 string: [VER] 1013\n"
-                                                                           " - CPUID:0 string: 1 2\n"
-                                                                           " - CPUID:0 string: \n"
-                                                                           " - CPUID:0 string: [General]\n"
-                                                                           " - CPUID:0 string:  AutoHTC = 5\n");
+                                                                            "\n"
+                                                                            " - CPUID:0 string: [VER] 1013\n"
+                                                                            " - CPUID:0 string: 1 2\n"
+                                                                            " - CPUID:0 string: \n"
+                                                                            " - CPUID:0 string: [General]\n"
+                                                                            " - CPUID:0 string:  AutoHTC = 5\n");
 }
 
 TEST_F(StdReader, LineCostsABarrierTheEndFlagAndTheText) {
@@ -282,38 +233,20 @@ TEST_F(StdReader, LineSourceCutsOnEveryRankAndEndsOnAllInTheSameCall) {
   EXPECT_EQ(line, longest) << "a rank that does not read keeps its line";
 }
 
-TEST_F(StdReader, AllRanksHoldWhatASerialRunReads) {
-  const std::string files[] = {
-      "[VER] 1013\n" + kHead +
-          "[General]\nIsTurbFlow = 4\n[/General]\n[StableFlag]\nnSmooth_dP = 3\n[/StableFlag]\n"
-          "[MultiGate]\nTolInletQ = 0.5\nMultipleGateMethod = 1\nByVolume = 0.125\n",
-      "[VER] 1013\n1 1 1\n",  // a head cut by the end of the file
-  };
-  for (const std::string& text : files) {
-    CZEBKNstdCMPCompParm serial;
-    read(serial, text);
-    const std::string expected = zebtest::textOf(publicValues(serial));
-    for (const int ranks : {2, 8, 64}) {
-      const auto values = zebtest::readOnRanks(ranks, [this](CZEBCom& com) {
-        CZEBKNstdCMPCompParm set;
-        EXPECT_EQ(set.setZEBCom(&com), 1);
-        zebtest::printedBy([&] { set.setSolidFillBlock(m_file); });
-        return zebtest::textOf(publicValues(set));
-      });
-      EXPECT_EQ(values, expected) << ranks << " ranks";
-    }
-    zeb::ThreadTeam team(4);
-    std::vector<std::string> values(4);
-    zebtest::printedBy([&] {
-      team.run([&](int rank, CZEBCom& com) {
-        CZEBKNstdCMPCompParm set;
-        set.setZEBCom(&com);
-        set.setSolidFillBlock(m_file);
-        values[static_cast<std::size_t>(rank)] = zebtest::textOf(publicValues(set));
-      });
+TEST_F(StdReader, RanksInThreadsHoldWhatASerialRunReads) {
+  read("[VER] 1013\n" + kHead +
+       "[General]\nIsTurbFlow = 4\n[/General]\n[MultiGate]\nMultipleGateMethod = 1\nByVolume = 0.125\n");
+  zeb::ThreadTeam team(4);
+  std::vector<std::string> values(4);
+  zebtest::printedBy([&] {
+    team.run([&](int rank, CZEBCom& com) {
+      CZEBKNstdCMPCompParm set;
+      set.setZEBCom(&com);
+      set.setSolidFillBlock(m_file);
+      values[static_cast<std::size_t>(rank)] = zebtest::textOf(publicValues(set));
     });
-    EXPECT_EQ(values, std::vector<std::string>(4, expected));
-  }
+  });
+  EXPECT_EQ(values, std::vector<std::string>(4, zebtest::textOf(publicValues(m_set))));
 }
 
 }  // namespace
