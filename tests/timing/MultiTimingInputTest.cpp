@@ -14,14 +14,7 @@
 
 namespace {
 
-using zebtest::Entries;
-using zebtest::feed;
-using zebtest::kGridOf10;
-using zebtest::merge;
-using zebtest::printedBy;
-using zebtest::Result;
-using zebtest::resultOf;
-using zebtest::Timing;
+using namespace zebtest;
 
 static_assert(std::is_same_v<std::underlying_type_t<Timing::FillOutputType>, int>);
 static_assert(Timing::kSeconds == 1 && Timing::kPercent == 2 && Timing::kPercentOfVolume == 3);
