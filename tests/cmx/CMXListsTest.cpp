@@ -3,14 +3,13 @@
 
 #include <algorithm>
 #include <sstream>
+#include <string>
+#include <vector>
 
 #include "cmx/CZEBCMXInternalTool.hpp"
 #include "cmx/CZEBCMX_FILL_ADVANCED_HRSteady.h"
-#include "cmx/CZEBCMX_FILL_ADVANCED_LONGFIBER.h"
 #include "cmx/CZEBCMX_FILL_OUTPUT_TIMES.h"
-#include "cmx/CZEBCMX_PACK_OUTPUT_TIMES.h"
-#include "cmx/CZEBCMX_SOLID_COOL.h"
-#include "tests/cmx/Expectations.hpp"
+#include "tests/support/RecordingCommunicator.h"
 
 namespace {
 

@@ -31,7 +31,7 @@ class CMXRanks : public testing::Test {
     }
     tool.setPrintLevel(printLevel);
     EXPECT_EQ(tool.setSolidFillBlock(m_file), 1);
-    return zebtest::exactValues(tool.sections());
+    return zebtest::exactValues(tool);
   }
 
   zeb::test::TestFolder m_folder;
