@@ -9,13 +9,13 @@
 #include "standalone/ThreadCommunicator.h"
 #include "tests/material/FakeEngine.h"
 #include "tests/material/MaterialExamples.h"
-#include "tests/material/RecordText.hpp"
-#include "tests/support/RecordingCommunicator.h"
+#include "tests/material/TwoRanks.hpp"
 
 namespace {
 
 using zebtest::curvesOf;
 using zebtest::recordText;
+using zebtest::TwoRanks;
 
 // One call for each value: "i 1 2" are two Broadi, "d 0.5" is a Broadd, "c TEXT" a Broadc of the rest of the line; "6x"
 // in front repeats a line's calls, '#' opens a comment.
@@ -114,29 +114,9 @@ class MaterialProtocol : public testing::TestWithParam<Example> {};
 TEST_P(MaterialProtocol, SendsExactlyTheseCalls) {
   FakeEngine engine;
   GetParam().make(engine);
-  zeb::RecordingCommunicator com(2);
-  CZEBKNMaterialParam param;
-  EXPECT_EQ(param.SetInput("PP", &com), 1);
-  EXPECT_EQ(com.log().calls(), callsOf(GetParam().calls));
-}
-
-TEST_P(MaterialProtocol, ReceiversEndWithTheSameRecord) {
-  for (const int ranks : {2, 8}) {
-    FakeEngine engine;
-    GetParam().make(engine);
-    zeb::RecordingCommunicator com(ranks);
-    CZEBKNMaterialParam sender;
-    sender.SetInput("PP", &com);
-    const std::size_t engineCalls = engine.calls.size();
-    for (int rank = 1; rank < ranks; ++rank) {
-      zeb::ReplayingCommunicator replay(com.log(), rank, ranks);
-      CZEBKNMaterialParam receiver;
-      EXPECT_EQ(receiver.SetInput("PP", &replay), 1);
-      EXPECT_TRUE(replay.finished());
-      EXPECT_EQ(recordText(receiver), recordText(sender));
-    }
-    EXPECT_EQ(engine.calls.size(), engineCalls) << "only rank 0 talks to the engine";
-  }
+  TwoRanks ranks;
+  ranks.input("PP");
+  EXPECT_EQ(ranks.calls(), callsOf(GetParam().calls));
 }
 
 TEST_P(MaterialProtocol, TeamsOfThreadsEndWithTheSameRecord) {
@@ -160,18 +140,12 @@ INSTANTIATE_TEST_SUITE_P(Examples, MaterialProtocol,
 TEST(MaterialDistribution, OnlyTheFirstTextIsDistributed) {
   FakeEngine engine;
   makeOneCoefficientMaterial(engine);
-  zeb::RecordingCommunicator com(2);
-  CZEBKNMaterialParam sender;
-  sender.SetInput("PP", &com);
-  zeb::ReplayingCommunicator replay(com.log(), 1, 2);
-  CZEBKNMaterialParam receiver;
-  receiver.SetInput("PP", &replay);
-  EXPECT_STREQ(sender.GetZebMaterial()->szText[0], "PP crystalline");
-  EXPECT_STREQ(receiver.GetZebMaterial()->szText[0], "PP crystalline");
-  const char* const others[] = {"maker", "grade", "comment", "fifth", "sixth", "seventh"};
-  for (int i = 1; i < 7; ++i) {
-    EXPECT_STREQ(sender.GetZebMaterial()->szText[i], others[i - 1]);
-    EXPECT_STREQ(receiver.GetZebMaterial()->szText[i], "");
+  TwoRanks ranks;
+  ranks.input("PP");
+  const char* const texts[] = {"PP crystalline", "maker", "grade", "comment", "fifth", "sixth", "seventh"};
+  for (int i = 0; i < 7; ++i) {
+    EXPECT_STREQ(ranks.sender.GetZebMaterial()->szText[i], texts[i]);
+    EXPECT_STREQ(ranks.receiver.GetZebMaterial()->szText[i], i == 0 ? texts[0] : "");
   }
 }
 
@@ -192,33 +166,26 @@ TEST(MaterialDistribution, OtherModelValuesSendNoCoefficients) {
   for (const int model : {4, 0, -1, 2147483647}) {
     FakeEngine engine;
     engine.setModel(0, 0, model, 0, {1, 2, 3, 4, 5, 6}, 0.5);
-    zeb::RecordingCommunicator com(2);
-    CZEBKNMaterialParam param;
-    param.SetInput("X", &com);
-    const std::vector<std::string> calls = com.log().calls();
+    TwoRanks ranks;
+    ranks.input("X");
+    const std::vector<std::string> calls = ranks.calls();
     // Barrier, 6 header values, 6 texts, 17 empty tables, 4 model values, the last double, the number of curves
     ASSERT_EQ(calls.size(), 1u + 6 + 6 + 17 * 3 + 4 + 1 + 1);
     EXPECT_EQ(calls[calls.size() - 2], "Broadd 0.5");
     EXPECT_EQ(calls.back(), "Broadi 0");
-    for (int i = 0; i < 6; ++i) EXPECT_EQ(param.GetZebMaterial()->pdCoefficient[i], 0.0);
   }
 }
 
 TEST(MaterialDistribution, UnknownMaterialIsAnEmptyRecordOnAllRanks) {
   FakeEngine engine;
   engine.knowsMaterial = false;
-  zeb::RecordingCommunicator com(2);
-  CZEBKNMaterialParam sender;
-  EXPECT_EQ(sender.SetInput("nowhere", &com), 1);
+  TwoRanks ranks;
+  ranks.input("nowhere");
   EXPECT_EQ(engine.calls, std::vector<std::string>{"ZebGetMaterial nowhere"});
-  zeb::ReplayingCommunicator replay(com.log(), 1, 2);
-  CZEBKNMaterialParam receiver;
-  EXPECT_EQ(receiver.SetInput("nowhere", &replay), 1);
-  EXPECT_TRUE(replay.finished());
-  EXPECT_TRUE(curvesOf(receiver).empty());
-  EXPECT_EQ(recordText(receiver), recordText(sender));
-  EXPECT_STREQ(receiver.GetZebMaterial()->szText[0], "");
-  EXPECT_EQ(com.log().calls().back(), "Broadi 0");
+  EXPECT_TRUE(curvesOf(ranks.receiver).empty());
+  EXPECT_STREQ(ranks.receiver.GetZebMaterial()->szText[0], "");
+  for (const ZebMatParam& table : ranks.receiver.GetZebMaterial()->table) EXPECT_EQ(table.iCount, 0);
+  EXPECT_EQ(ranks.calls().back(), "Broadi 0");
 }
 
 TEST(MaterialDistribution, CountsThatMakeNoSenseAreSentAsZero) {
@@ -227,23 +194,14 @@ TEST(MaterialDistribution, CountsThatMakeNoSenseAreSentAsZero) {
   engine.material.table[1].iCount = -1;
   engine.material.table[4].iCount = 2147483647;
   engine.reportedCurves = -3;
-  zeb::RecordingCommunicator com(2);
-  CZEBKNMaterialParam sender;
-  testing::internal::CaptureStdout();
-  sender.SetInput("EP", &com);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+  TwoRanks ranks;
+  ranks.input("EP");
+  EXPECT_EQ(ranks.printedByRank0,
             "Material: the count of property table 2 (-1) is not between 0 and 1000000, 0 is used.\n"
             "Material: the count of property table 5 (2147483647) is not between 0 and 1000000, 0 is used.\n"
             "Material: the count of test curves (-3) is not between 0 and 1000000, 0 is used.\n");
-  zeb::ReplayingCommunicator replay(com.log(), 1, 2);
-  CZEBKNMaterialParam receiver;
-  testing::internal::CaptureStdout();
-  receiver.SetInput("EP", &replay);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
-  EXPECT_TRUE(replay.finished());
-  EXPECT_EQ(sender.GetZebMaterial()->table[1].iCount, 0);
-  EXPECT_EQ(sender.GetZebMaterial()->table[1].iA, 21);
-  EXPECT_EQ(recordText(receiver), recordText(sender));
+  EXPECT_EQ(ranks.sender.GetZebMaterial()->table[1].iCount, 0);
+  EXPECT_EQ(ranks.sender.GetZebMaterial()->table[1].iA, 21);
 }
 
 }  // namespace

@@ -12,40 +12,14 @@
 #include "material/CZEBKNMaterialParam.h"
 #include "tests/material/FakeEngine.h"
 #include "tests/material/MaterialExamples.h"
-#include "tests/material/RecordText.hpp"
+#include "tests/material/TwoRanks.hpp"
 #include "tests/material/WatchedRank.h"
-#include "tests/support/RecordingCommunicator.h"
 
 namespace {
 
 using zebtest::curvesOf;
 using zebtest::recordText;
-
-// Rank 0 with one other rank, which repeats each input and must end with the same record.
-class TwoRanks {
- public:
-  void input(const std::string& name) {
-    com_.clear();
-    testing::internal::CaptureStdout();
-    EXPECT_EQ(sender.SetInput(name, &com_), 1);
-    printedByRank0 = testing::internal::GetCapturedStdout();
-    zeb::ReplayingCommunicator replay(com_.log(), 1, 2);
-    testing::internal::CaptureStdout();
-    EXPECT_EQ(receiver.SetInput(name, &replay), 1);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
-    EXPECT_TRUE(replay.finished());
-    EXPECT_EQ(recordText(receiver), recordText(sender));
-  }
-
-  std::vector<std::string> calls() const { return com_.log().calls(); }
-
-  CZEBKNMaterialParam sender;
-  CZEBKNMaterialParam receiver;
-  std::string printedByRank0;
-
- private:
-  zeb::RecordingCommunicator com_{2};
-};
+using zebtest::TwoRanks;
 
 // --- Order of steps ----------------------------------------------------------------------------------------------
 
