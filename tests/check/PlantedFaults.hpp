@@ -148,7 +148,6 @@ class FaultPlanter {
   }
 
   // --- Names
-  // ----------------------------------------------------------------------------------------------------------
 
   std::string misspelt(std::string key) {
     static const std::string kLetters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
@@ -175,21 +174,20 @@ class FaultPlanter {
   std::optional<Planted> openingCase(FileOfLines file) {
     return changed(file, isKind(LineKind::kOpening), [&](FileLine& line) { line.text = swappedCase(line.text); });
   }
-  std::optional<Planted> closingCase(FileOfLines file) {
-    const auto isKeyed = [&](const FileLine& line) {
+  // The closing line of a section with keys.
+  auto isKeyedClosing(const FileOfLines& file) const {
+    return [this, &file](const FileLine& line) {
       return line.kind == LineKind::kClosing && sectionOf(file, line) != nullptr;
     };
-    return changed(file, isKeyed, [&](FileLine& line) { line.text = swappedCase(line.text); });
+  }
+  std::optional<Planted> closingCase(FileOfLines file) {
+    return changed(file, isKeyedClosing(file), [&](FileLine& line) { line.text = swappedCase(line.text); });
   }
   std::optional<Planted> brokenClosing(FileOfLines file) {
-    const auto isKeyed = [&](const FileLine& line) {
-      return line.kind == LineKind::kClosing && sectionOf(file, line) != nullptr;
-    };
-    return changed(file, isKeyed, [&](FileLine& line) { line.text.pop_back(); });
+    return changed(file, isKeyedClosing(file), [&](FileLine& line) { line.text.pop_back(); });
   }
 
   // --- Sections
-  // -------------------------------------------------------------------------------------------------------
 
   std::optional<Planted> missingOpening(FileOfLines file) {
     const auto at = anyLine(file, isKind(LineKind::kOpening));
@@ -199,9 +197,7 @@ class FaultPlanter {
     return planted(file, range(*at, last - 1));
   }
   std::optional<Planted> missingClosing(FileOfLines file) {
-    const auto at = anyLine(file, [&](const FileLine& line) {
-      return line.kind == LineKind::kClosing && sectionOf(file, line) != nullptr;
-    });
+    const auto at = anyLine(file, isKeyedClosing(file));
     if (!at) return {};
     const std::size_t first = extent(file, *at - 1).first;
     erase(file, *at);
@@ -212,7 +208,7 @@ class FaultPlanter {
     auto other = sections.begin();
     std::advance(other, static_cast<std::ptrdiff_t>(m_random.below(sections.size())));
     const auto fits = [&](const FileLine& line) {
-      return line.kind == LineKind::kClosing && sectionOf(file, line) != nullptr && line.text != other->second.close;
+      return isKeyedClosing(file)(line) && line.text != other->second.close;
     };
     return changed(file, fits, [&](FileLine& line) { line.text = other->second.close; });
   }
@@ -237,7 +233,6 @@ class FaultPlanter {
   }
 
   // --- Keys
-  // -----------------------------------------------------------------------------------------------------------
 
   std::optional<Planted> keyOutside(FileOfLines file) {
     const auto at = anyLine(file, isKind(LineKind::kKey));
@@ -277,7 +272,6 @@ class FaultPlanter {
   }
 
   // --- Values
-  // ---------------------------------------------------------------------------------------------------------
 
   static bool holdsNumber(const FileLine& line) {
     return line.isNumber() && (line.kind == LineKind::kKey || line.kind == LineKind::kEntry);
@@ -312,7 +306,6 @@ class FaultPlanter {
   }
 
   // --- Gates and lists
-  // ------------------------------------------------------------------------------------------------
 
   std::optional<Planted> closedGate(FileOfLines file) {
     const auto at = anyLine(file, isKind(LineKind::kGate));
@@ -374,34 +367,32 @@ class FaultPlanter {
   }
 
   // --- Positional lines
-  // -----------------------------------------------------------------------------------------------
 
   std::optional<std::size_t> anyFields(const FileOfLines& file) {
     const auto at = anyLine(file, isKind(LineKind::kFields));
     // Of the versions of positional sections another fault is made.
     return at && file.lines[*at - 1].kind != LineKind::kOpening ? at : std::nullopt;
   }
-  std::optional<Planted> missingField(FileOfLines file) {
+  template <class Change>
+  std::optional<Planted> changedFields(FileOfLines& file, Change change) {
     const auto at = anyFields(file);
     if (!at) return {};
-    std::string& text = file.lines[*at].text;
-    const auto blank = text.find_last_of(' ');
-    text.erase(blank == text.npos ? 0 : blank);
+    change(file.lines[*at].text);
     return planted(file, *at);
+  }
+  std::optional<Planted> missingField(FileOfLines file) {
+    return changedFields(file, [](std::string& text) {
+      const auto blank = text.find_last_of(' ');
+      text.erase(blank == text.npos ? 0 : blank);
+    });
   }
   std::optional<Planted> extraField(FileOfLines file) {
-    const auto at = anyFields(file);
-    if (!at) return {};
-    file.lines[*at].text += " 7";
-    return planted(file, *at);
+    return changedFields(file, [](std::string& text) { text += " 7"; });
   }
   std::optional<Planted> badField(FileOfLines file) {
-    const auto at = anyFields(file);
-    if (!at) return {};
-    std::string& text = file.lines[*at].text;
-    const auto blank = text.find_last_of(' ');
-    text.replace(blank == text.npos ? 0 : blank + 1, text.npos, m_random.oneIn(2) ? "x" : "on");
-    return planted(file, *at);
+    return changedFields(file, [&](std::string& text) {
+      text.replace(text.find_last_of(' ') + 1, text.npos, m_random.oneIn(2) ? "x" : "on");
+    });
   }
   // All lines behind it move up: from there on any of them may show it.
   std::optional<Planted> missingFields(FileOfLines file) {
@@ -432,7 +423,6 @@ class FaultPlanter {
   }
 
   // --- Bytes
-  // ----------------------------------------------------------------------------------------------------------
 
   static bool isAny(const FileLine& /*line*/) { return true; }
   static bool isNotEmpty(const FileLine& line) { return !line.text.empty(); }

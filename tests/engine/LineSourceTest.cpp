@@ -211,13 +211,7 @@ TEST(LineSource, LeavesTheStreamAtTheNextLine) {
   EXPECT_EQ(line, "third");
 }
 
-struct FileText {
-  const char* name;
-  std::string content;
-  Lines lines;
-};
-
-const FileText kFiles[] = {
+const Text kFiles[] = {
     {"CRLFEndsALineAsLFDoes", "a\r\n\r\nb\r\n", {"a", "", "b"}},
     {"ALoneCRStays", "a\rb\r\r\nc\r", {"a\rb\r", "c\r"}},
     {"TheLastLineNeedsNoEnd", "a\r\nb", {"a", "b"}},
@@ -225,7 +219,7 @@ const FileText kFiles[] = {
 };
 
 // Opened files are in text mode; the line source itself removes nothing.
-class OpenedFile : public testing::TestWithParam<FileText> {
+class OpenedFile : public testing::TestWithParam<Text> {
  protected:
   zebtest::TemporaryFile m_file{GetParam().content};
 };

@@ -21,6 +21,7 @@ namespace {
 using namespace std::string_literals;
 using zebtest::Reading;
 using zebtest::TemporaryFile;
+using zebtest::withCrLf;
 
 Reading serialReading(const std::string& text) {
   const TemporaryFile file(text);
@@ -39,15 +40,6 @@ void expectReadsAs(const std::string& text, const std::string& other) {
   const Reading expected = serialReading(other);
   expectSameReading(serialReading(text), expected);
   expectSameReading(rankReading(text), expected);
-}
-
-std::string withCrLf(const std::string& text) {
-  std::string result;
-  for (const char c : text) {
-    if (c == '\n') result += '\r';
-    result += c;
-  }
-  return result;
 }
 
 // --- Long lines -------------------------------------------------------------------------------------------------

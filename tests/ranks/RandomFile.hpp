@@ -166,15 +166,6 @@ class RandomFiles {
     addLine("[/UNFSetting]");
   }
 
-  static std::string withCrLf(const std::string& lines) {
-    std::string text;
-    for (const char c : lines) {
-      if (c == '\n') text += '\r';
-      text += c;
-    }
-    return text;
-  }
-
   std::string withShortLines() const {
     constexpr std::size_t kLongest = 254;
     std::string text;

@@ -7,6 +7,12 @@
 
 namespace zebtest {
 
+inline std::string withCrLf(const std::string& text) {
+  std::string result;
+  for (const char c : text) result += c == '\n' ? "\r\n" : std::string(1, c);
+  return result;
+}
+
 class RandomText {
  public:
   explicit RandomText(unsigned seed) : m_engine(seed) {}

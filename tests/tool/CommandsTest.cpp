@@ -126,7 +126,6 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"ExplainUnknownName", {"explain", "FILE", "Qqqqqqqqqq"}, "no key or member of a CMP file is named Qqq"},
         Refusal{"ExplainMissingFile", {"explain", "no-such-file.cmp", "AirPressure"}, "no such file"},
         Refusal{"DiffMissingFile", {"diff", "FILE", "no-such-file.cmp"}, "no-such-file.cmp: no such file"},
-        Refusal{"UnknownMaterial", {"material", "nope", "--folder", kMaterials}, "material 'nope' not found"},
         Refusal{"ScheduleOfACmp", {"schedule", "FILE", "--fill-time", "10", "--split", "4"}, "is a CMP file"},
         Refusal{"ScheduleSplit", {"schedule", "CMX", "--fill-time", "10", "--split", "2"}, "at least 3 steps"},
         Refusal{"ScheduleTime", {"schedule", "CMX", "--fill-time", "0", "--split", "4"}, "must be above 0 s"}),
@@ -194,23 +193,6 @@ TEST(Tool, WritesNoEscapeCodesIntoPipes) {
     EXPECT_FALSE((run.out + run.err).empty()) << call[0];
     EXPECT_THAT(run.out + run.err, Not(HasSubstr("\x1b"))) << call[0];
   }
-}
-
-// --- material ----------------------------------------------------------------------------------------------------
-
-TEST(Material, RanksHoldTheSameRecord) {
-  for (const char* name : {"pa66-gf30", "epoxy-encapsulant"}) {
-    const ToolRun run = runTool({"material", name, "--folder", kMaterials, "--ranks", "8"});
-    EXPECT_EQ(run.exitCode, 0) << run.err;
-    EXPECT_EQ(run.out.rfind(std::string(name) + "\n", 0), 0u) << run.out.substr(0, 80);
-    EXPECT_THAT(run.out, HasSubstr("Loaded on 8 ranks: all hold the same record, tables and curves."));
-  }
-}
-
-TEST(Material, JsonHoldsTheTextsOfTheFile) {
-  const ToolRun run = runTool({"material", kMaterials + "/pa66-gf30.json", "--format", "json"});
-  ASSERT_EQ(run.exitCode, 0) << run.err;
-  EXPECT_EQ(json::parse(run.out).at("texts").at(0), "PA66-GF30 generic");
 }
 
 // --- explain -----------------------------------------------------------------------------------------------------
@@ -387,7 +369,7 @@ TEST(Diff, ComparesMoldingTypesOfOneFile) {
   EXPECT_EQ(differences[1].at("b").at("value"), 0);
 }
 
-// --- template, check, list ---------------------------------------------------------------------------------------
+// --- template, list ---------------------------------------------------------------------------------------
 
 TEST(Template, ReadsBackAsTheDefaults) {
   struct Kind {
@@ -436,15 +418,6 @@ TEST(Template, OfSomeSectionsChecksClean) {
     const ToolRun checked = runTool({"check", file.path()});
     EXPECT_EQ(checked.exitCode, 0) << testing::PrintToString(sections) << '\n' << checked.out << checked.err;
   }
-}
-
-TEST(Check, EndsWithZeroWhenCleanAndOneWithFindings) {
-  const TemporaryFile clean(kOutlet);
-  EXPECT_EQ(runTool({"check", clean.path()}).exitCode, 0);
-  const TemporaryFile unclosed("[Outlet]\nIsOutlet = 1\n");
-  const ToolRun run = runTool({"check", unclosed.path()});
-  EXPECT_EQ(run.exitCode, 1);
-  EXPECT_THAT(run.out + run.err, HasSubstr(":1:1: warning: [Outlet] is never closed"));
 }
 
 TEST(List, EndsWithOneWhereNothingIsFound) {
