@@ -42,7 +42,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRTMParm>() {
   static constexpr ListReader kReadVentInlets = [](ListContext& context) {
     T& block = *static_cast<T*>(context.block);
     if (block.m_iIsVentInlet != 1) return ListResult::kSameLine;
-    std::string& line = context.line;
+    std::string_view& line = context.line;
     const auto takeLine = [&] { return nextLineOfList(context, line) && !isClosedBy(context.section, line); };
     if (!takeLine()) return ListResult::kSectionEnded;
     int count = 0;
@@ -66,9 +66,9 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMPRTMParm>() {
     }
     return ListResult::kNextLine;
   };
-  static constexpr WhenStored kEchoVoidPrediction = [](void* block, const std::string& line) {
+  static constexpr WhenStored kEchoVoidPrediction = [](void* block, std::string_view line) {
     const std::string value = std::to_string(static_cast<const T*>(block)->m_iVoidPrediction);
-    writeOut("sline = " + line + "\nii = " + value + "\nm_iVoidPrediction = " + value + "\n");
+    writeOut("sline = " + std::string(line) + "\nii = " + value + "\nm_iVoidPrediction = " + value + "\n");
   };
 
   // clang-format off

@@ -131,7 +131,7 @@ void writeStarred(const std::string& text) {
 zeb::ListResult readStrainRates(zeb::ListContext& context, double* rates, int count) {
   bool closed = false;
   int stored = 0;
-  std::string line;
+  std::string_view line;
   while (context.lines.next(line)) {
     closed = closed || zeb::isClosedBy(context.section, line);
     zeb::EntryEvent taken;

@@ -21,7 +21,7 @@ template <>
 const zeb::BlockTable& zeb::tableOf<CZEBCoolBackDoorParm>() {
   using T = CZEBCoolBackDoorParm;
   // "ElemagComsol 1.5 20.0 coil.txt", whatever the first word; what is missing leaves its member and all later ones.
-  static constexpr WhenStored kReadHeating = [](void* whiteboard, const std::string& line) {
+  static constexpr WhenStored kReadHeating = [](void* whiteboard, std::string_view line) {
     constexpr std::size_t kLongestName = 511;
     T& block = *static_cast<T*>(whiteboard);
     FieldScanner scanner(line);

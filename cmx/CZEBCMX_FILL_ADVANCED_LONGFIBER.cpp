@@ -31,7 +31,7 @@ const zeb::BlockTable& zeb::tableOf<CZEBCMX_FILL_ADVANCED_LONGFIBER>() {
     if (block.m_iDiffusionModelType == 0) coefficients = model0;
     if (block.m_iDiffusionModelType == 1) coefficients = model1;
     if (block.m_iDiffusionModelType == 2) coefficients = model2;
-    std::string line;
+    std::string_view line;
     for (double* coefficient : coefficients) {
       if (!nextLineOfList(context, line)) break;
       const EntryEvent taken = scanValue(line, Entry::kNamed, *coefficient);

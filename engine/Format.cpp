@@ -15,14 +15,14 @@ namespace zeb {
 namespace {
 
 // The version line of a head: any other number than the head's, or none, has no effect.
-bool isHeadWanted(const Section& head, const std::string& line, const LineReader& lines) {
+bool isHeadWanted(const Section& head, std::string_view line, const LineReader& lines) {
   int version = 0;
   const bool parsed = scanVersion(line, version);
   if (lines.observer() != nullptr) lines.observer()->versionRead(parsed, version);
   return version == head.headVersion;
 }
 
-void run(const DispatchEntry& entry, const std::string& line, int lineNumber, LineReader& lines) {
+void run(const DispatchEntry& entry, std::string_view line, int lineNumber, LineReader& lines) {
   const Section& section = *entry.section;
   if (section.headVersion != 0 && !isHeadWanted(section, line, lines)) return;
   if (lines.observer() != nullptr) [[unlikely]] {
@@ -58,25 +58,27 @@ bool printsName(Format::NameLine when, const LineSource& source) {
 
 }  // namespace
 
-void dispatchLine(std::span<const DispatchEntry> entries, const std::string& line, LineReader& lines) {
+void dispatchLine(std::span<const DispatchEntry> entries, std::string_view line, LineReader& lines) {
   // All openings of a format begin with the same character.
   const char bracket = entries.front().opening().front();
   const std::size_t first = line.find(bracket);
   if (first == line.npos) return;
+  // A copy, as the sections take further lines.
+  const std::string whole(line);
   const int lineNumber = lines.lineNumber();
-  const std::string_view candidates = std::string_view(line).substr(first);
+  const std::string_view candidates = std::string_view(whole).substr(first);
   const bool hasMore = candidates.find(bracket, 1) != candidates.npos;
-  const char initial = line.c_str()[first + 1];
+  const char initial = whole.c_str()[first + 1];
   const auto mayOpen = [=](const DispatchEntry& entry) { return entry.initial == initial || hasMore; };
   auto entry = entries.begin();
   while ((entry = std::find_if(entry, entries.end(), mayOpen)) != entries.end()) {
-    if (holds(candidates, hasMore, entry->opening())) run(*entry, line, lineNumber, lines);
+    if (holds(candidates, hasMore, entry->opening())) run(*entry, whole, lineNumber, lines);
     ++entry;
   }
 }
 
 void readLines(std::span<const DispatchEntry> sections, LineReader& lines) {
-  std::string line;
+  std::string_view line;
   while (lines.next(line)) dispatchLine(sections, line, lines);
 }
 

@@ -45,7 +45,7 @@ void readLines(std::span<const DispatchEntry> sections, LineReader& lines);
 
 /// Runs, in the order of `entries`, every section whose opening stands anywhere in the line. Each takes its lines from
 /// the same stream; the openings are all looked for in `line`, never in what a section has read.
-void dispatchLine(std::span<const DispatchEntry> entries, const std::string& line, LineReader& lines);
+void dispatchLine(std::span<const DispatchEntry> entries, std::string_view line, LineReader& lines);
 
 /// A version line scanned with "%s%d": one word, then the number. False (and 0) when there is no number.
 bool scanVersion(std::string_view line, int& version);

@@ -20,6 +20,10 @@ class KeySet {
   static constexpr std::size_t kCapacity = 128;
 
   constexpr void insert(std::size_t key) { m_bits[key / 64] |= std::uint64_t{1} << (key % 64); }
+  constexpr void insert(const KeySet& other) {
+    m_bits[0] |= other.m_bits[0];
+    m_bits[1] |= other.m_bits[1];
+  }
   constexpr bool empty() const { return (m_bits[0] | m_bits[1]) == 0; }
   /// Takes out the smallest key. The set must not be empty.
   constexpr std::size_t popFirst() { return m_bits[0] != 0 ? popFirst(m_bits[0]) : 64 + popFirst(m_bits[1]); }

@@ -58,29 +58,29 @@ bool readLine(std::istream& stream, std::string& line) {
 }  // namespace
 
 int LineSource::getLine(std::istream& stream, std::string& line) const {
-  return com == nullptr ? (readLine(stream, line) ? 1 : 0) : shareLine(stream, line);
+  const bool isThere = reads() && readLine(stream, line);
+  if (com == nullptr) return isThere ? 1 : 0;
+  char shared[ZEBLINE_MAX];
+  if (!share(isThere, line, shared)) return 0;
+  line.assign(shared);
+  return 1;
 }
 
-int LineSource::shareLine(std::istream& stream, std::string& line) const {
-  char buffer[ZEBLINE_MAX];
+bool LineSource::share(bool isThere, std::string_view line, char (&shared)[ZEBLINE_MAX]) const {
   int end = 0;
-  if (com->GetCPUId() == 0) {
-    if (readLine(stream, line)) {
-      const std::size_t length = std::min(line.size(), ZEBLINE_MAX - 1);
-      std::memcpy(buffer, line.data(), length);
-      std::memset(buffer + length, 0, ZEBLINE_MAX - length);
-      if (traces()) trace(alwaysTrace ? std::string_view(line) : std::string_view(buffer, length));
-    } else {
-      end = -1;
-    }
+  if (reads()) {
+    end = isThere ? 0 : -1;
+    const std::string_view text = line.substr(0, isThere ? ZEBLINE_MAX - 1 : 0);
+    std::memcpy(shared, text.data(), text.size());
+    std::memset(shared + text.size(), 0, ZEBLINE_MAX - text.size());
+    if (isThere && traces()) trace(alwaysTrace ? line : text);
   }
   if (barrier) com->Barrier();
   com->Broadi(end);
-  if (end != 0) return 0;
-  com->Broadc(buffer);
-  buffer[ZEBLINE_MAX - 1] = '\0';
-  line.assign(buffer);
-  return 1;
+  if (end != 0) return false;
+  com->Broadc(shared);
+  shared[ZEBLINE_MAX - 1] = '\0';
+  return true;
 }
 
 void LineSource::trace(std::string_view text) const {
@@ -94,19 +94,15 @@ int openFile(std::ifstream& stream, const std::string& fileName) {
   return stream.good() ? 1 : -1;
 }
 
-bool LineReader::next(std::string& line) {
-  if (m_source.getLine(m_stream, line) == 0) return false;
-  ++m_lineNumber;
-  if (m_observer != nullptr) [[unlikely]] {
-    m_observer->lineRead(m_lineNumber, line);
-  }
-  return true;
+bool LineReader::nextShared(std::string_view& line) {
+  std::string_view read;
+  const bool isThere = m_source.reads() && m_input.next(read, m_equals);
+  const bool delivered = m_source.share(isThere, read, m_shared.text);
+  line = delivered ? m_shared.text : std::string_view();
+  m_equals = static_cast<const char*>(std::memchr(line.data(), '=', line.size()));
+  return delivered;
 }
 
-bool LineReader::nextOrEmpty(std::string& line) {
-  if (next(line)) return true;
-  line.clear();
-  return false;
-}
+void LineReader::tellObserver(std::string_view line) const { m_observer->lineRead(m_lineNumber, line); }
 
 }  // namespace zeb

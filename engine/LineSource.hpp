@@ -3,9 +3,11 @@
 
 #include <fstream>
 #include <istream>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "engine/LineInput.hpp"
 #include "platform/ZEBCom.h"
 
 namespace zeb {
@@ -30,10 +32,14 @@ struct LineSource {
   /// returns 1 on every rank, or returns 0 on every rank when the input is exhausted or cannot be read. `line` is then
   /// empty where the stream is read and unchanged elsewhere. Collective: one Barrier, one Broadi, and one Broadc for a
   /// delivered line.
+  /// The stream stands right behind the line that was read.
   int getLine(std::istream& stream, std::string& line) const;
 
+  /// The collective part: hands the line that was read where the file is read to every rank. False on every rank when
+  /// none `isThere`. Needs a communicator.
+  bool share(bool isThere, std::string_view line, char (&shared)[ZEBLINE_MAX]) const;
+
  private:
-  int shareLine(std::istream& stream, std::string& line) const;
   void trace(std::string_view text) const;
 };
 
@@ -41,34 +47,61 @@ struct LineSource {
 /// then read as an empty one.
 int openFile(std::ifstream& stream, const std::string& fileName);
 
-/// One file on its way through the readers: its stream, its line source, and whoever watches.
+/// One file on its way through the readers: its lines, its line source, and whoever watches. A line that is delivered
+/// has margins (kLineMargin) and is valid until the next one is.
 class LineReader {
  public:
-  LineReader(std::istream& stream, const LineSource& source, ReadObserver* observer, int linesBefore = 0)
-      : m_stream(stream), m_source(source), m_observer(observer), m_lineNumber(linesBefore) {}
+  LineReader(std::istream& stream, const LineSource& source, ReadObserver* observer)
+      : m_ownInput(std::in_place, stream), m_input(*m_ownInput), m_source(source), m_observer(observer) {}
+  /// For lines that another source hands on: takes them where `other` stands.
+  LineReader(LineReader& other, const LineSource& source)
+      : m_input(other.m_input), m_source(source), m_observer(other.m_observer), m_lineNumber(other.m_lineNumber) {}
 
-  /// As LineSource::getLine.
-  bool next(std::string& line);
+  /// As LineSource::getLine, but for the stream, which is read ahead, and for the empty line at the end.
+  bool next(std::string_view& line) {
+    const bool delivered = m_source.com == nullptr ? m_input.next(line, m_equals) : nextShared(line);
+    m_lineNumber += delivered ? 1 : 0;
+    if (m_observer != nullptr && delivered) [[unlikely]] {
+      tellObserver(line);
+    }
+    return delivered;
+  }
   /// For readers that take a fixed number of lines: a failed read is an empty line, on every rank.
-  bool nextOrEmpty(std::string& line);
+  bool nextOrEmpty(std::string_view& line) {
+    line = {};
+    return next(line);
+  }
 
+  /// The first '=' of the line delivered last; null where it has none.
+  const char* equals() const { return m_equals; }
   /// Of the line delivered last, counted from 1.
   int lineNumber() const { return m_lineNumber; }
-  std::istream& stream() const { return m_stream; }
   const LineSource& source() const { return m_source; }
   /// Null in a solver.
   ReadObserver* observer() const { return m_observer; }
-  /// The line on which a section reader works: one buffer for all sections of a file. Lists use their own.
-  std::string& sectionLine() { return m_sectionLine; }
+  /// A copy of the line that stays, up to the next call, while more lines are taken.
+  std::string_view keep(std::string_view line) { return m_kept.assign(line); }
   /// Goes on where another reader of the same stream stopped.
   void continueAfter(const LineReader& other) { m_lineNumber = other.m_lineNumber; }
 
  private:
-  std::istream& m_stream;
+  bool nextShared(std::string_view& line);
+  void tellObserver(std::string_view line) const;
+
+  struct SharedLine {
+    char before[kLineMargin];
+    char text[ZEBLINE_MAX];
+    char behind[kLineMargin];
+  };
+
+  std::optional<LineInput> m_ownInput;
+  LineInput& m_input;
   const LineSource& m_source;
   ReadObserver* m_observer;
   int m_lineNumber = 0;
-  std::string m_sectionLine;
+  const char* m_equals = nullptr;
+  SharedLine m_shared = {};
+  std::string m_kept;
 };
 
 }  // namespace zeb

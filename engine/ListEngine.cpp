@@ -30,7 +30,7 @@ EntryEvent entryOf(std::string_view value, std::size_t used, double number) {
 void readEntries(ListContext& context, double* entries, int count) {
   const List& list = context.row.list;
   if (list.lastIsRest) entries[count] = 1.0;
-  std::string line;
+  std::string_view line;
   for (int entry = 1; entry <= count; ++entry) {
     if (!nextLineOfList(context, line)) return sayMissing(list, count - entry + 1);
     if (line.find(list.entryName) == line.npos) sayMissing(list, 1);
@@ -65,7 +65,7 @@ ListResult readList(ListContext& context) {
   return ListResult::kSameLine;
 }
 
-bool nextLineOfList(ListContext& context, std::string& line) { return context.lines.nextOrEmpty(line); }
+bool nextLineOfList(ListContext& context, std::string_view& line) { return context.lines.nextOrEmpty(line); }
 
 void reportLineOfList(const ListContext& context, const EntryEvent& entry) {
   if (context.lines.observer() != nullptr) [[unlikely]] {

@@ -16,14 +16,14 @@ struct ListContext {
   const Row& row;  ///< of the key that announced the list
   void* block;
   LineReader& lines;
-  std::string& line;  ///< the current line; with ListResult::kNextLine the list leaves another one here
+  std::string_view& line;  ///< the current line; with ListResult::kNextLine the list leaves another one here
 };
 
 /// Makes room and reads the lines as the row's List says.
 ListResult readList(ListContext& context);
 
 /// Takes the next line of a list, an empty one when the input is exhausted (then false).
-bool nextLineOfList(ListContext& context, std::string& line);
+bool nextLineOfList(ListContext& context, std::string_view& line);
 /// Tells the observer what became of the line that the list has just taken.
 void reportLineOfList(const ListContext& context, const EntryEvent& entry);
 /// The number behind the '=' of a line that holds the name; `value` stays as it is where there is none.

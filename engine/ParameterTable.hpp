@@ -1,8 +1,9 @@
 // Parameter tables: everything that is known about a block's members, keys, dump lines and head positions, as data.
 //
 // To add a parameter: declare the member with its default and its getter in the block's header, name the getter among
-// ZEB_GETTERS in the block's source, and add one row to the table below it. Where the section has a reading order or the block a dump
-// order of its own, name the new key or member there too: the compiler refuses an order that is not whole.
+// ZEB_GETTERS in the block's source, and add one row to the table below it. Where the section has a reading order or
+// the block a dump order of its own, name the new key or member there too: the compiler refuses an order that is not
+// whole.
 #pragma once
 
 #include <array>
@@ -12,6 +13,7 @@
 #include <string>
 #include <string_view>
 
+#include "engine/ExactLine.hpp"
 #include "engine/Field.hpp"
 #include "engine/KeyFilter.hpp"
 
@@ -132,7 +134,7 @@ struct List {
 };
 
 /// Runs as soon as the value of the key is stored, with the line that holds the key.
-using WhenStored = void (*)(void* block, const std::string& line);
+using WhenStored = void (*)(void* block, std::string_view line);
 
 /// Whether a member is the number of a list's entries.
 enum class Count : std::uint8_t {
@@ -222,10 +224,11 @@ struct Section {
   KeyFilter filter = {};                            // numbers the keys in that order
   int gate = -1;                                    // number of the key whose member is the gate
   std::span<const PlainNumber> plainNumbers = {};   // by key
-  bool closingLineIsRead = false;                   // the closing line's keys count too
-  int headVersion = 0;                              // a head behind "[VER]": read only for this version number
-  void (*whenRead)(void* block) = nullptr;          // runs at the end of each reading
-  bool readByRank0 = false;                         // rank 0 reads the stream by itself and broadcasts the members
+  ExactKeys exactKeys = {};
+  bool closingLineIsRead = false;           // the closing line's keys count too
+  int headVersion = 0;                      // a head behind "[VER]": read only for this version number
+  void (*whenRead)(void* block) = nullptr;  // runs at the end of each reading
+  bool readByRank0 = false;                 // rank 0 reads the stream by itself and broadcasts the members
   PositionalLines positional = {};
 
   bool isPositional() const { return positional.lines > 0; }

@@ -1,6 +1,4 @@
 // Positional sections: line by line, field by field, straight into the members.
-#include <string>
-
 #include "engine/ReadObserver.hpp"
 #include "engine/SectionEngine.hpp"
 
@@ -23,7 +21,8 @@ struct PositionalReader {
   LineReader& lines;
 
   // `slot` is the first of the line's fields; returns the first of the next line.
-  const Slot* readLine(const Slot* slot, int number, std::string& line) const {
+  const Slot* readLine(const Slot* slot, int number) const {
+    std::string_view line;
     lines.nextOrEmpty(line);
     FieldScanner scanner(line);
     const Slot* end = section.positional.slots.data() + section.positional.slots.size();
@@ -63,7 +62,8 @@ struct PositionalReader {
   }
 
   // Line 1 must hold the version that the block carries.
-  bool versionMatches(const Slot& slot, std::string& line) const {
+  bool versionMatches(const Slot& slot) const {
+    std::string_view line;
     const bool isThere = lines.nextOrEmpty(line);
     FieldScanner scanner(line);
     int version = 0;
@@ -82,15 +82,14 @@ struct PositionalReader {
 bool readPositional(const Section& section, void* block, LineReader& lines) {
   const PositionalReader reader{section, block, lines};
   const Slot* slot = section.positional.slots.data();
-  std::string& line = lines.sectionLine();
   int number = 1;
   bool accepted = true;
   if (section.positional.versioned) {
-    accepted = reader.versionMatches(*slot, line);
+    accepted = reader.versionMatches(*slot);
     ++slot;
     ++number;
   }
-  for (; accepted && number <= section.positional.lines; ++number) slot = reader.readLine(slot, number, line);
+  for (; accepted && number <= section.positional.lines; ++number) slot = reader.readLine(slot, number);
   if (lines.observer() != nullptr) [[unlikely]] {
     lines.observer()->sectionEnded(section, accepted ? SectionEnd::kComplete : SectionEnd::kRefused);
   }

@@ -50,7 +50,7 @@ void readSectionOnRank0(const Section& section, void* block, LineReader& lines) 
   const LineSource& source = lines.source();
   if (source.reads()) {
     const LineSource direct{};
-    LineReader own(lines.stream(), direct, lines.observer(), lines.lineNumber());
+    LineReader own(lines, direct);
     readSection(section, block, own);
     lines.continueAfter(own);
   }

@@ -210,7 +210,7 @@ void storePlainNumber(const PlainNumber& plain, void* block, std::string_view va
 }
 
 // What a key opens or runs behind its value.
-ListResult readBehind(const Found& found, std::string& line) {
+ListResult readBehind(const Found& found, std::string_view& line) {
   ListResult result = ListResult::kSameLine;
   if (found.row.whenStored != nullptr) found.row.whenStored(found.block, line);
   if (!found.row.list.isNone()) {
@@ -222,7 +222,7 @@ ListResult readBehind(const Found& found, std::string& line) {
 }
 
 // All that a key does: value, echo, list.
-ListResult readKey(const Found& found, std::string& line, std::string_view value) {
+ListResult readKey(const Found& found, std::string_view& line, std::string_view value) {
   if (repeatsFirstSpelling(found, line)) return ListResult::kSameLine;
   const Stored stored = parseAndStore(found, value);
   report(found, line, value, stored);
@@ -232,7 +232,7 @@ ListResult readKey(const Found& found, std::string& line, std::string_view value
 }
 
 // Reads the keys that stand in the line, in the section's order. False when a list met the section's end.
-bool readKeys(const Section& section, void* block, LineReader& lines, std::string& line, KeySet keys) {
+bool readKeys(const Section& section, void* block, LineReader& lines, std::string_view& line, KeySet keys) {
   if (keys.empty()) return true;
   const bool observed = lines.observer() != nullptr;
   int lineNumber = lines.lineNumber();
@@ -249,6 +249,10 @@ bool readKeys(const Section& section, void* block, LineReader& lines, std::strin
       reportGated(found, line, value);
       continue;
     }
+    if (!found.row.list.isNone()) {
+      line = lines.keep(line);
+      value = valueText(line);
+    }
     const ListResult result = readKey(found, line, value);
     if (result == ListResult::kSectionEnded) return false;
     if (result == ListResult::kNextLine) {
@@ -264,15 +268,23 @@ bool readKeys(const Section& section, void* block, LineReader& lines, std::strin
 }  // namespace
 
 void readSection(const Section& section, void* block, LineReader& lines) {
-  std::string& line = lines.sectionLine();
+  const bool observed = lines.observer() != nullptr;
+  std::string_view line;
   bool closed = false;
   while (!closed && lines.next(line)) {
-    const KeyFilter::Hits hits = section.filter.find(line);
+    const char* const equals = lines.equals();
+    const ExactKey* const exact = equals == nullptr ? nullptr : section.exactKeys.find(line.data(), equals);
+    const char* const end = line.data() + line.size();
+    if (exact != nullptr && !observed && storeExact(*exact, block, equals + 1, end)) continue;
+
+    const char* const unsearched = exact == nullptr ? line.data() : equals + 1;
+    KeyFilter::Hits hits = section.filter.find({unsearched, static_cast<std::size_t>(end - unsearched)});
+    if (exact != nullptr) hits.keys.insert(exact->found);
     closed = hits.closingTag;
     if (closed && !section.closingLineIsRead) break;
     if (!readKeys(section, block, lines, line, hits.keys)) closed = isClosedBy(section, line);
   }
-  if (lines.observer() != nullptr) [[unlikely]] {
+  if (observed) [[unlikely]] {
     lines.observer()->sectionEnded(section, closed ? SectionEnd::kClosed : SectionEnd::kUnclosed);
   }
 }

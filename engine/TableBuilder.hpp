@@ -129,6 +129,7 @@ struct Reading {
     return plain;
   }
   static constexpr auto kPlainNumbers = collectPlainNumbers();
+  static constexpr ExactKeysTable<kCount> kExactKeys{kKeys.key, SectionTags::kClose, kPlainNumbers};
 };
 
 template <const auto& Rows, const auto& Layout>
@@ -239,6 +240,7 @@ constexpr Section keyed() {
   section.filter = Read::kFilter.view();
   section.gate = Read::gate();
   section.plainNumbers = Read::kPlainNumbers;
+  section.exactKeys = Read::kExactKeys.view();
   return section;
 }
 

@@ -2,19 +2,17 @@
 #include "engine/ValueText.hpp"
 
 #include <algorithm>
-#include <cfloat>
 #include <charconv>
-#include <cstdint>
 #include <cstring>
 #include <limits>
 #include <system_error>
+
+#include "engine/ShortNumber.hpp"
 
 namespace zeb {
 
 namespace {
 
-constexpr bool isSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
-constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 constexpr bool isHexadecimalDigit(char c) { return isDigit(c) || ((c | 0x20) >= 'a' && (c | 0x20) <= 'f'); }
 constexpr bool isSign(char c) { return c == '+' || c == '-'; }
 
@@ -65,47 +63,6 @@ bool isTooSmall(const char* at, const char* end) {
   return exponent < -position;  // their sum may not fit
 }
 
-// Most numbers in a parameter file are short. Up to 2^53 and a power of ten up to 22 are exact doubles, so that one
-// multiplication or division gives the correctly rounded value. Null where from_chars has to do it.
-const char* readShortDecimal(const char* at, const char* end, double& value) {
-  static_assert(FLT_EVAL_METHOD == 0, "the one rounding must be to double");
-  static constexpr double kPowers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-                                       1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-  constexpr int kLargestPower = 22;
-  constexpr std::ptrdiff_t kMostDigits = 18;
-  if (at == end) return nullptr;
-  const bool negative = *at == '-';
-  if (isSign(*at)) ++at;
-  std::uint64_t digits = 0;
-  const auto readDigits = [&] {
-    const char* const start = at;
-    for (; at != end && isDigit(*at); ++at) digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
-    return at - start;
-  };
-  std::ptrdiff_t count = readDigits(), power = 0;
-  if (at != end && *at == '.') {
-    ++at;
-    power = -readDigits();
-    count -= power;
-  }
-  if (count == 0 || count > kMostDigits || digits > std::uint64_t{1} << 53) return nullptr;
-  if (at != end && (*at | 0x20) == 'e') {
-    int exponent = 0;
-    const char* const number = skipPlus(at + 1, end);
-    const auto result = std::from_chars(number, end, exponent);
-    if (result.ec == std::errc::result_out_of_range || (number != at + 1 && *number == '-')) return nullptr;
-    if (result.ec == std::errc()) {
-      power += exponent;
-      at = result.ptr;
-    }
-  }
-  if (power < -kLargestPower || power > kLargestPower) return nullptr;
-  const auto whole = static_cast<double>(digits);
-  value = power < 0 ? whole / kPowers[-power] : whole * kPowers[power];
-  if (negative) value = -value;
-  return at;
-}
-
 // A whole decimal number without its optional exponent's mistakes; null when there is none. `tooLarge` replaces what
 // does not fit a double (what is too small becomes a signed zero, as with the C library).
 const char* readDecimal(const char* at, const char* end, double tooLarge, double& value) {
@@ -118,19 +75,6 @@ const char* readDecimal(const char* at, const char* end, double tooLarge, double
     if (*at == '-') value = -value;
   }
   return result.ptr;
-}
-
-// So few digits fit an int whatever they are. Null where from_chars has to do it.
-const char* readShortInt(const char* at, const char* end, int& value) {
-  constexpr std::ptrdiff_t kMostDigits = 9;
-  const bool negative = at != end && *at == '-';
-  if (negative) ++at;
-  const char* const first = at;
-  unsigned magnitude = 0;
-  for (; at != end && isDigit(*at); ++at) magnitude = magnitude * 10 + static_cast<unsigned>(*at - '0');
-  if (at == first || at - first > kMostDigits) return nullptr;
-  value = negative ? -static_cast<int>(magnitude) : static_cast<int>(magnitude);
-  return at;
 }
 
 const char* readInt(const char* at, const char* end, int& value) {

@@ -51,7 +51,9 @@ std::string_view modelName(int model) {
 class HeadLine {
  public:
   explicit HeadLine(LineReader& lines) {
-    lines.nextOrEmpty(m_line);
+    std::string_view line;
+    lines.nextOrEmpty(line);
+    m_line = line;
     m_lineNumber = lines.lineNumber();
     m_scanner = FieldScanner(m_line);
   }

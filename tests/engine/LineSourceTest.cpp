@@ -281,7 +281,7 @@ TEST(LineSourceEnd, FixedNumbersOfLinesGoOnWithEmptyOnesOnEveryRank) {
   const zeb::LineSource source{.com = &first};
   std::istringstream stream("only\n");
   zeb::LineReader reader(stream, source, nullptr);
-  std::string line;
+  std::string_view line;
   EXPECT_TRUE(reader.nextOrEmpty(line));
   EXPECT_FALSE(reader.nextOrEmpty(line));
   EXPECT_EQ(line, "");
