@@ -109,12 +109,13 @@ void LineTrace::sectionEnded(const Section& /*section*/, SectionEnd end) {
   release();
 }
 
-// A key behind a list that has read on belongs to the line that holds it; a field may be told of later, too.
+// A key behind a list that has read on belongs to the line that holds it; a field may be told of later, too. A missing
+// line bears the number of the last one, but not its text.
 ReadLine& LineTrace::lineOf(const KeyEvent& event) {
-  if (m_hasLine && event.lineNumber == m_line.number) return m_line;
-  for (ReadLine& held : m_held) {
-    if (held.number == event.lineNumber) return held;
-  }
+  const auto isOf = [&](const ReadLine& line) { return line.number == event.lineNumber && line.text == event.line; };
+  if (m_hasLine && isOf(m_line)) return m_line;
+  const auto held = std::find_if(m_held.begin(), m_held.end(), isOf);
+  if (held != m_held.end()) return *held;
   return start(event.lineNumber, event.line, ReadLine::Part::kKeyed);
 }
 

@@ -490,6 +490,12 @@ TEST(CheckCompanion, ShortHeadLinesTellWhatTheyTakeOver) {
             "line 4 of the head: 1 of 3 fields can be read; for the others those of the line above count");
 }
 
+TEST(CheckCompanion, TheFileMayEndBehindAShortLineOfTheModel) {
+  const std::string companion = kCompanion;
+  EXPECT_EQ(companionFindings("", companion.substr(0, companion.find("1 0.5 0")) + "1 2\n"),
+            (Texts{"vecmp 0 positional-too-short", "vecmp 8 positional-fields"}));
+}
+
 TEST(CheckCompanion, AMissingOneIsAFinding) {
   const zebtest::TemporaryFile file("");
   Checking checking;

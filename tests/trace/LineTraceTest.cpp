@@ -213,6 +213,12 @@ TEST(LineTrace, TellsTheCompanionsHeadAndWhatRefusesIt) {
   EXPECT_EQ(whole[4], "2 positional 2, m_dTLowBond stored, m_dModifyLamdaLowT not taken");
   EXPECT_EQ(whole[10], "8 positional 8, m_iVEModel stored, m_bModifyGradient stored, m_dSmoothFactor stored");
   EXPECT_EQ(whole[11], "9 positional 9, completes the head");
+  const Lines cut = companionRecords("1006\n" + bounds + "1 0.5 0\n");
+  ASSERT_EQ(cut.size(), 12u);
+  EXPECT_EQ(cut[10], whole[10]);
+  EXPECT_EQ(cut[11], "8 positional 9 missing, completes the head");
+  EXPECT_EQ(companionRecords("1006\n50 2 0\n")[5],
+            "2 positional 3 missing, m_dShrateUpBond1 stored, m_dModifyLamdaShrateUB stored");
   EXPECT_EQ(companionRecords("1005\n").back(), "refused by 1 '1005'");
   EXPECT_EQ(companionRecords("1006\n" + bounds + "4 0 0\n-1\n").back(), "refused by 9 '-1'");
   EXPECT_EQ(companionRecords("1006\n" + bounds + "99 0 0\n0\n").back(), "refused by 8 '99 0 0'");
