@@ -63,15 +63,8 @@ void checkFile(const std::string& fileName, FileKind kind, const AnalysisOptions
 }
 
 void Checker::fileRefused(int lineNumber, std::string_view text, std::string_view reason) {
-  // The file may end before the line that decides.
-  const bool isThere = m_line != nullptr && (lineNumber <= m_line->number || lineNumber == 0);
-  m_found.add(kViscoelasticRefused,
-              isThere             ? lineNumber
-              : m_line == nullptr ? 0
-                                  : m_line->number,
-              text, 0,
+  m_found.add(kViscoelasticRefused, lineNumber, text, 0,
               std::string(reason) + "; nothing of it is used, and a solver writes a default file in its place");
-  m_section = nullptr;
 }
 
 }  // namespace zeb

@@ -193,13 +193,15 @@ void LineTrace::linePositional(int positionalLine, int converted, int expected, 
 }
 
 void LineTrace::fileRefused(int lineNumber, std::string_view reason) {
-  m_section = nullptr;
-  const auto held = std::find_if(m_held.begin(), m_held.end(),
-                                 [&](const ReadLine& line) { return line.number == lineNumber && !line.isMissing; });
-  const bool isCurrent = m_line.number == lineNumber && !m_line.isMissing;
-  const std::string text = held != m_held.end() ? held->text : isCurrent ? m_line.text : std::string();
+  const int last = std::min(lineNumber, m_line.number);
+  std::string text;
+  const auto take = [&](const ReadLine& line) {
+    if (line.number == last && !line.isMissing) text = line.text;
+  };
+  std::for_each(m_held.begin(), m_held.end(), take);
+  take(m_line);
   finish();
-  m_reader.fileRefused(lineNumber, text, reason);
+  m_reader.fileRefused(last, text, reason);
 }
 
 void LineTrace::repaired(const RepairEvent& event) {

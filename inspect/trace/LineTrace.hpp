@@ -18,7 +18,8 @@ class TraceReader {
   virtual ~TraceReader() = default;
   virtual void fileStarted(std::string_view /*fileName*/) {}
   virtual void line(const ReadLine& /*line*/) {}
-  /// Nothing of the file is kept: the line that decided it (0 when the file cannot be opened), its text, and why.
+  /// Nothing of the file is kept: the line that decided it, its text, and why. Where the file ends before that line,
+  /// its last one; 0 where it has none or cannot be opened.
   virtual void fileRefused(int /*lineNumber*/, std::string_view /*text*/, std::string_view /*reason*/) {}
   virtual void repaired(const RepairEvent& /*event*/) {}
   /// Whether records shall hold the members' values: it costs a text for each.

@@ -520,6 +520,7 @@ TEST(CheckCompanion, ARefusalShowsTheLineThatDecided) {
   EXPECT_EQ(companionExcerpt("1006\n" + lines2To7 + "99 0.5 0\n-1\n"), "8 99 0.5 0");
   EXPECT_EQ(companionExcerpt("1006\n" + lines2To7 + "99 0.5 0\n"), "8 99 0.5 0");
   EXPECT_EQ(companionExcerpt("1006\n" + lines2To7 + "2 0.5 0\n-1\n"), "9 -1");
+  EXPECT_EQ(companionExcerpt("1006\n" + lines2To7 + "2 0.5 0\n"), "8 2 0.5 0");
 }
 
 TEST(CheckCompanion, AnEmptyOneIsRefusedAsAWhole) {

@@ -253,6 +253,12 @@ TEST(Explain, ReadsNoValueBehindASwitch) {
               HasSubstr("parsed \"HeatFluxHistory\"\n      -> true\n"));
 }
 
+TEST(Explain, NamesNoLineOfACompanionWithoutLines) {
+  const TemporaryFile file("");
+  EXPECT_THAT(runTool({"explain", file.path(), "m_iVEModel", "--viscoelastic"}).out,
+              HasSubstr(".vecmp  \n      not read: the file cannot be opened"));
+}
+
 TEST(Explain, SaysWhichValuesAreDerived) {
   const TemporaryFile file("");
   const std::string companion = file.path().substr(0, file.path().rfind('.')) + ".vecmp";

@@ -221,6 +221,8 @@ TEST(LineTrace, TellsTheCompanionsHeadAndWhatRefusesIt) {
             "2 positional 3 missing, m_dShrateUpBond1 stored, m_dModifyLamdaShrateUB stored");
   EXPECT_EQ(companionRecords("1005\n").back(), "refused by 1 '1005'");
   EXPECT_EQ(companionRecords("1006\n" + bounds + "4 0 0\n-1\n").back(), "refused by 9 '-1'");
+  EXPECT_EQ(companionRecords("1006\n" + bounds + "4 0 0\n").back(), "refused by 8 '4 0 0'");
+  EXPECT_EQ(companionRecords("").back(), "refused by 0 ''");
   EXPECT_EQ(companionRecords("1006\n" + bounds + "99 0 0\n0\n").back(), "refused by 8 '99 0 0'");
 }
 

@@ -79,6 +79,7 @@ std::string_view kindText(zeb::HistoryStep::Kind kind) {
 }
 
 std::string place(const zeb::HistoryStep& step) {
+  if (step.lineNumber == 0) return step.file;
   return (step.file.empty() ? "" : step.file + " ") + "line " + std::to_string(step.lineNumber);
 }
 
