@@ -119,8 +119,8 @@ void Checker::judgeFields() {
       continue;
     }
     // The member itself may have another value by now, from a later place of its own.
-    if (hit.row->field.type == FieldType::kDouble && hit.parsed.replaced == nullptr) {
-      judgeFinite(hit.keyAt, hit.parsed.number, trimmed(m_line->value(hit)));
+    if (hit.row->field.type == FieldType::kDouble) {
+      judgeFinite(hit.keyAt, hit.row->rule.apply(hit.parsed.number), trimmed(m_line->value(hit)));
     }
     judgeReplaced(hit);
   }

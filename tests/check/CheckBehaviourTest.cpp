@@ -474,6 +474,12 @@ TEST(CheckCompanion, ValuesThatTheHeadDoesNotTake) {
   EXPECT_EQ(findings[4].place.column, 5);
 }
 
+TEST(CheckCompanion, AFieldMayBecomeInfiniteInTheUnitOfItsMember) {
+  std::string companion = kCompanion;
+  companion.replace(companion.find("\n0.1 0.1 0\n") + 1, 3, "1e302");
+  EXPECT_EQ(companionFindings("", companion), Texts{"vecmp 4 not-finite"});
+}
+
 TEST(CheckCompanion, PointsToTheFieldAndNotToTheSameTextBeforeIt) {
   const auto findings =
       findingsWith("", "1006\n100 200 0\n11 0.1 1\n0.1 0.1 0\n1 20000\n20 20 0\n0.1 0.1 0.1\n1 0.5 0\n-1\n", 0);
