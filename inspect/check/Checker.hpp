@@ -95,7 +95,7 @@ class Checker final : public TraceReader {
   void judgeTail(const Hit& hit);
   void judgeText(const Hit& hit);
   void judgeExtras(const Hit& hit);
-  void judgeReplaced(const Hit& hit);
+  void judgeReplaced(const Hit& hit, std::size_t at);
   std::string shown(const Hit& hit) const;
   void* defaultsOf(const Section& section);
   bool holdsDefault(const Hit& hit);

@@ -122,7 +122,7 @@ void Checker::judgeFields() {
     if (hit.row->field.type == FieldType::kDouble) {
       judgeFinite(hit.keyAt, hit.row->rule.apply(hit.parsed.number), trimmed(m_line->value(hit)));
     }
-    judgeReplaced(hit);
+    judgeReplaced(hit, hit.keyAt);
   }
 }
 

@@ -201,7 +201,7 @@ void Checker::judgeValue(const Hit& hit) {
   }
   if (isText(*hit.row)) judgeText(hit);
   judgeTail(hit);
-  judgeReplaced(hit);
+  judgeReplaced(hit, hit.valueAt);
   if (m_found.wants(kEqualsDefault) && !hit.row->isElement() && holdsDefault(hit)) {
     add(kEqualsDefault, hit.valueAt, key + " is " + shown(hit) + " by default");
   }
@@ -276,16 +276,16 @@ bool Checker::isDefault(const Hit& hit, double value) {
 
 // What the row's rule makes of a value outside of its range. The default in its place is what was meant, most often:
 // many a file says 0 for it.
-void Checker::judgeReplaced(const Hit& hit) {
+void Checker::judgeReplaced(const Hit& hit, std::size_t at) {
   const Replacement* replaced = hit.parsed.replaced;
   const Row& row = *hit.row;
   const double plain = hit.parsed.number * row.rule.scale;
   if (replaced == nullptr || replaced->value == plain || std::isnan(plain) || isDefault(hit, replaced->value)) return;
   const std::string held = number(replaced->value);
   if (replaced->when == Replacement::When::kEqual) {
-    return add(kValueReplaced, hit.valueAt, number(plain) + " is read as " + held, "write " + held);
+    return add(kValueReplaced, at, number(plain) + " is read as " + held, "write " + held);
   }
-  add(kValueReplaced, hit.valueAt,
+  add(kValueReplaced, at,
       number(plain) + " is out of range for " + std::string(row.key.empty() ? row.field.member : row.key) + ": " +
           held + " is used");
 }

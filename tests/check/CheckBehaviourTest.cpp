@@ -294,6 +294,12 @@ TEST(CheckMessages, CountCharactersNotBytes) {
   EXPECT_EQ(inside[0].place.column, 3);
 }
 
+TEST(CheckMessages, PointToAFieldBehindBlanks) {
+  const auto findings = findingsIn("[VER] 1023\n" + std::string(kHead).replace(kHead.find("\n2 0 0"), 2, "\n  -2"));
+  ASSERT_EQ(findings.size(), 1u) << told(findings);
+  EXPECT_EQ(findings[0].place.column, 3);
+}
+
 TEST(CheckMessages, ShowThePlaceInALongLine) {
   const std::string line = std::string(150, ' ') + "TimeLimit = 2" + std::string(150, ' ') + "x";
   const auto findings = findingsIn(in("ShortShot", line + "\n"));
