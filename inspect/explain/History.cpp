@@ -145,14 +145,12 @@ void History::line(const ReadLine& line) {
 }
 
 void History::addHits(const ReadLine& line) {
-  // The fields of a positional line share their line by design.
-  const bool isKeyed = !line.hits.empty() && !line.hits.front().key.empty();
-  if (isKeyed && line.number != m_keysLine) m_keys.clear();
-  if (isKeyed) {
-    m_keysLine = line.number;
-    for (const Hit& hit : line.hits) m_keys.push_back({hit.key, hit.row, hit.outcome, hit.after});
-  } else if (line.part != ReadLine::Part::kEntry) {
-    m_keys.clear();
+  // Without a key: the fields of a positional line, which share it by design, and the members that a list's line sets.
+  const bool isKeyed = std::any_of(line.hits.begin(), line.hits.end(), [](const Hit& hit) { return !hit.key.empty(); });
+  if (isKeyed ? line.number != m_keysLine : line.part != ReadLine::Part::kEntry) m_keys.clear();
+  if (isKeyed) m_keysLine = line.number;
+  for (const Hit& hit : line.hits) {
+    if (!hit.key.empty()) m_keys.push_back({hit.key, hit.row, hit.outcome, hit.after});
   }
   line.inOrder([&](const Hit& hit) { add(*hit.row, stepOf(hit, line)); },
                [&](const ListTaken& list) { addList(list, line); });

@@ -1,6 +1,7 @@
 // Every step from the default to the value that the solver uses, in order.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -95,6 +96,18 @@ TEST(History, NamesTheOtherKeysOfALine) {
   ASSERT_EQ(others.size(), 1u);
   EXPECT_EQ(others[0].key, "InitialDt");
   EXPECT_EQ(others[0].after, "1");
+}
+
+TEST(History, NamesTheOtherKeysOfALineOfAList) {
+  const Analysed analysed("[RTM]\nIsVentInlet = 1\nNVentInlet RTMAlgorithm UsePCG = 0\n[/RTM]\n");
+  const auto othersOf = [&](std::string_view name) {
+    std::vector<std::string_view> keys;
+    for (const auto& other : analysed.only(name).others) keys.push_back(other.key);
+    std::sort(keys.begin(), keys.end());
+    return keys;
+  };
+  EXPECT_EQ(othersOf("UsePCG"), (std::vector<std::string_view>{"RTMAlgorithm"}));
+  EXPECT_EQ(othersOf("m_iNVentInlet"), (std::vector<std::string_view>{"RTMAlgorithm", "UsePCG"}));
 }
 
 TEST(History, KeepsOnlyTheLinesThatTouchWhatIsWanted) {
