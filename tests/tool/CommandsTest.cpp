@@ -239,6 +239,17 @@ TEST(Explain, TellsAnArrayWithKeysForItsElementsAsOne) {
   EXPECT_THAT(element.out, Not(HasSubstr("line 4")));
 }
 
+TEST(Explain, CountsTheStepsThatAreNotKept) {
+  const auto explainedWith = [](int lines) {
+    std::string text = "[ShortShot]\n";
+    for (int i = 0; i < lines; ++i) text += "TimeLimit = 2\n";
+    return runTool({"explain", TemporaryFile(text).path(), "TimeLimit"}).out;
+  };
+  EXPECT_THAT(explainedWith(2000), Not(HasSubstr("not kept")));
+  EXPECT_THAT(explainedWith(2001), HasSubstr("\n  ... 1 step that is not kept\n"));
+  EXPECT_THAT(explainedWith(2002), HasSubstr("\n  ... 2 steps that are not kept\n"));
+}
+
 TEST(Explain, KnowsTheNamesInTheLinesOfAList) {
   const TemporaryFile file("[RTM]\nIsVentInlet = 1\nNVentInlet = 1\nVentInletID = 7\n[/RTM]\n");
   EXPECT_THAT(runTool({"explain", file.path(), "NVentInlet"}).out, HasSubstr("final value  1\n"));

@@ -274,7 +274,10 @@ void printText(const Explained& explained, const zeb::History& history) {
   bool touched = false;
   const std::vector<const zeb::HistoryStep*> steps = explained.steps(history);
   for (const zeb::HistoryStep* step : steps) {
-    if (step->leftOut > 0) std::cout << "  ... " << step->leftOut << " steps that are not kept\n";
+    if (step->leftOut > 0) {
+      std::cout << "  ... " << step->leftOut << (step->leftOut == 1 ? " step that is" : " steps that are")
+                << " not kept\n";
+    }
     if (step->kind == zeb::HistoryStep::Kind::kRepair) {
       std::cout << "  " << coloured(Colour::kCyan, "repair") << "  " << step->condition
                 << (step->before == step->after ? ": nothing to change" : "") << '\n';
