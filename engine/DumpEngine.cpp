@@ -26,16 +26,17 @@ struct ValueDump {
   }
 };
 
-}  // namespace
-
-std::string dumpValue(const Row& row, const void* block) {
-  return visit(row.field, const_cast<void*>(block), ValueDump{row.dump});
-}
-
+// What stands before the value of a dumped member.
 std::string dumpLabel(const Row& row) {
   if (!row.label.empty()) return std::string(row.label);
   const std::string gap = row.tabs == kOneSpace ? " " : std::string(static_cast<std::size_t>(row.tabs), '\t');
   return std::string(row.field.member) + gap + "= ";
+}
+
+}  // namespace
+
+std::string dumpValue(const Row& row, const void* block) {
+  return visit(row.field, const_cast<void*>(block), ValueDump{row.dump});
 }
 
 std::string dumpText(const BlockTable& table, const void* block) {
@@ -48,11 +49,6 @@ std::string dumpText(const BlockTable& table, const void* block) {
     text += '\n';
   }
   return text;
-}
-
-int printParameters(const BlockTable& table, const void* block) {
-  writeOut(dumpText(table, block));
-  return 1;
 }
 
 }  // namespace zeb

@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include "engine/BlockAccess.h"
 #include "engine/ParameterTable.hpp"
 
 namespace zeb {
@@ -12,23 +11,8 @@ namespace zeb {
 /// heading.
 std::string dumpText(const BlockTable& table, const void* block);
 
-/// What stands before the value of a dumped member.
-std::string dumpLabel(const Row& row);
-
 /// A member's value as the dump writes it: six significant digits for doubles, an empty text for a null one, the
 /// address for an array.
 std::string dumpValue(const Row& row, const void* block);
-
-/// Writes the dump to standard output. Returns 1.
-template <class Block>
-int printParameters(const Block& block);
-
-/// As above, for a table at hand.
-int printParameters(const BlockTable& table, const void* block);
-
-template <class Block>
-int printParameters(const Block& block) {
-  return printParameters(tableOf<Block>(), &block);
-}
 
 }  // namespace zeb

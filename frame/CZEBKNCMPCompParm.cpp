@@ -72,7 +72,9 @@ int CZEBKNCMPCompParm::modifyParameters() { return m_tool ? zeb::modifyParameter
 
 int CZEBKNCMPCompParm::OutputParameters() {
   if (!m_tool) return -1;
-  for (const zeb::BlockEntry& entry : zeb::dumpedBlocks()) zeb::printParameters(entry.table(), entry.locate(*m_tool));
+  for (const zeb::BlockEntry& entry : zeb::dumpedBlocks()) {
+    zeb::writeOut(zeb::dumpText(entry.table(), entry.locate(*m_tool)));
+  }
   return 1;
 }
 

@@ -151,11 +151,6 @@ std::string dumpedHotInitT(double value) {
   return dump.substr(equals + 2, dump.find('\n', line) - equals - 2);
 }
 
-TEST(GeneralDump, IsAnsweredWithOne) {
-  const Block block;
-  EXPECT_EQ(printedBy([&] { EXPECT_EQ(zeb::printParameters(block), 1); }), dumpOf(block));
-}
-
 TEST(GeneralDump, ADoubleLooksAsAStreamShowsIt) {
   EXPECT_EQ(dumpedHotInitT(1234567), "1.23457e+06");
   EXPECT_EQ(dumpedHotInitT(0.00001), "1e-05");

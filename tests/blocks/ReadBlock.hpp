@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "engine/BlockAccess.h"
 #include "engine/DumpEngine.hpp"
 #include "engine/SectionEngine.hpp"
 #include "tests/support/Printed.hpp"
