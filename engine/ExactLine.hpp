@@ -95,13 +95,9 @@ struct ExactKeys {
 /// Whether nothing but a number stands between `at` and the line's end; stores it then.
 template <class Number>
 bool storeLoneNumber(const char* at, const char* end, Number& member) {
-  while (at != end && isSpace(*at)) ++at;
+  while (*at == ' ') ++at;
   Number number;
-  if constexpr (std::is_same_v<Number, int>) {
-    at = readShortInt(at, EndsByItself(), number);
-  } else {
-    at = readShortDecimal(at, EndsByItself(), number);
-  }
+  at = readShort(at, EndsByItself(), number);
   if (at == nullptr) return false;
   while (at != end && isBlank(*at)) ++at;
   if (at != end) return false;

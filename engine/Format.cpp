@@ -1,7 +1,6 @@
 // Openings are rare, so the test for their first character decides most lines.
 #include "engine/Format.hpp"
 
-#include <algorithm>
 #include <fstream>
 
 #include "engine/Rank0Section.hpp"
@@ -38,11 +37,50 @@ void run(const DispatchEntry& entry, std::string_view line, int lineNumber, Line
   if (section.whenRead != nullptr) section.whenRead(entry.block);
 }
 
-// Whether the opening stands at the text's first bracket or, where there are more of them, at another one.
-bool holds(std::string_view fromFirstBracket, bool hasMoreBrackets, std::string_view open) {
-  if (fromFirstBracket.starts_with(open)) return true;
-  return hasMoreBrackets && fromFirstBracket.find(open, 1) != fromFirstBracket.npos;
-}
+// Runs sections whose openings stand in a line.
+class Dispatcher {
+ public:
+  Dispatcher(std::span<const DispatchEntry> entries, LineReader& lines)
+      : m_entries(entries), m_lines(lines), m_bracket(entries.front().opening().front()) {
+    // All openings of a format begin with the same character; the one behind it tells most of them apart.
+    for (const DispatchEntry& entry : entries) m_initials += entry.opening()[1];
+  }
+
+  /// Every section whose opening stands anywhere in the line, in the order of the entries. Each takes its lines from
+  /// the same stream; the openings are all looked for in `line`, never in what a section has read.
+  void runSections(std::string_view line) const {
+    const std::size_t first = line.find(m_bracket);
+    if (first == line.npos || first + 1 == line.size()) return;
+    const std::string copy(line);  // the line itself goes when a section takes the next one
+    const std::string_view candidates = std::string_view(copy).substr(first);
+    if (candidates.find(m_bracket, 1) == candidates.npos) {
+      runOnly(candidates, copy);
+    } else {
+      runAll(candidates, copy);
+    }
+  }
+
+ private:
+  // One bracket opens one section at most.
+  void runOnly(std::string_view candidate, std::string_view line) const {
+    for (std::size_t at = 0; (at = m_initials.find(candidate[1], at)) != m_initials.npos; ++at) {
+      if (candidate.starts_with(m_entries[at].opening()))
+        return run(m_entries[at], line, m_lines.lineNumber(), m_lines);
+    }
+  }
+
+  void runAll(std::string_view candidates, std::string_view line) const {
+    const int lineNumber = m_lines.lineNumber();
+    for (const DispatchEntry& entry : m_entries) {
+      if (candidates.find(entry.opening()) != candidates.npos) run(entry, line, lineNumber, m_lines);
+    }
+  }
+
+  std::span<const DispatchEntry> m_entries;
+  LineReader& m_lines;
+  char m_bracket;
+  std::string m_initials;
+};
 
 bool printsName(Format::NameLine when, const LineSource& source) {
   switch (when) {
@@ -58,28 +96,10 @@ bool printsName(Format::NameLine when, const LineSource& source) {
 
 }  // namespace
 
-void dispatchLine(std::span<const DispatchEntry> entries, std::string_view line, LineReader& lines) {
-  // All openings of a format begin with the same character.
-  const char bracket = entries.front().opening().front();
-  const std::size_t first = line.find(bracket);
-  if (first == line.npos) return;
-  // A copy, as the sections take further lines.
-  const std::string whole(line);
-  const int lineNumber = lines.lineNumber();
-  const std::string_view candidates = std::string_view(whole).substr(first);
-  const bool hasMore = candidates.find(bracket, 1) != candidates.npos;
-  const char initial = whole.c_str()[first + 1];
-  const auto mayOpen = [=](const DispatchEntry& entry) { return entry.initial == initial || hasMore; };
-  auto entry = entries.begin();
-  while ((entry = std::find_if(entry, entries.end(), mayOpen)) != entries.end()) {
-    if (holds(candidates, hasMore, entry->opening())) run(*entry, whole, lineNumber, lines);
-    ++entry;
-  }
-}
-
 void readLines(std::span<const DispatchEntry> sections, LineReader& lines) {
+  const Dispatcher dispatcher(sections, lines);
   std::string_view line;
-  while (lines.next(line)) dispatchLine(sections, line, lines);
+  while (lines.next(line)) dispatcher.runSections(line);
 }
 
 int readFile(const Format& format, std::span<const DispatchEntry> sections, const std::string& fileName,

@@ -14,8 +14,6 @@ namespace zeb {
 struct DispatchEntry {
   const Section* section;
   void* block;
-  /// What follows the opening's bracket, at hand for the test that refuses most sections.
-  char initial = opening()[1];
 
   /// What announces the section: its opening or, for a head, the version line. It begins with the format's bracket.
   std::string_view opening() const { return section->headVersion != 0 ? "[VER]" : section->open; }
@@ -42,10 +40,6 @@ int readFile(const Format& format, std::span<const DispatchEntry> sections, cons
 
 /// Reads an open stream, of which ranks other than 0 take no notice. Collective.
 void readLines(std::span<const DispatchEntry> sections, LineReader& lines);
-
-/// Runs, in the order of `entries`, every section whose opening stands anywhere in the line. Each takes its lines from
-/// the same stream; the openings are all looked for in `line`, never in what a section has read.
-void dispatchLine(std::span<const DispatchEntry> entries, std::string_view line, LineReader& lines);
 
 /// A version line scanned with "%s%d": one word, then the number. False (and 0) when there is no number.
 bool scanVersion(std::string_view line, int& version);

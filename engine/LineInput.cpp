@@ -38,33 +38,30 @@ LineMarks marksOf(const char* text) {
 void LineInput::startWithNothing() {
   m_text = m_firstBlock + kLineMargin;
   m_text[0] = '\n';
-  m_marks = m_firstMarks;
-  m_marks[0] = {.ends = 1, .signs = 0};
+  m_allMarks = m_firstMarks;
   m_at = m_end = m_text;
-  m_ends = 1;
-  m_marked = 0;
+  mark(0);
 }
 
 // The line at a block's end goes on in the next block, unless the input ends with it.
 bool LineInput::nextWithCare(std::string_view& line, const char*& equals) {
+  const auto nextEnd = [this] {
+    while (m_marks.ends == 0) goToNextMarks();
+    return m_marked + std::countr_zero(m_marks.ends);
+  };
   bool goesOn = true;
   while (goesOn && nextEnd() == m_end) goesOn = readMore();
   const char* const end = nextEnd();
-  if (m_at == m_end) {
-    line = {};
-    equals = nullptr;
-    return false;
-  }
-  const std::uint64_t ends = m_ends;
-  take(end, line, equals);
+  line = {m_at, static_cast<std::size_t>(end - m_at)};
+  line = line.substr(0, line.find('\0'));
+  equals = static_cast<const char*>(std::memchr(m_at, '=', line.size()));
+  const bool delivered = m_at != m_end;
   if (end == m_end) {
-    // The last line has no LF of its own.
-    m_at = m_end;
-    m_ends = ends;
+    m_at = m_end;  // the last line has no LF of its own
+  } else {
+    goBehind(end);
   }
-  if (m_mayHoldNul) line = line.substr(0, line.find('\0'));
-  if (equals != nullptr && equals >= line.data() + line.size()) equals = nullptr;
-  return true;
+  return delivered;
 }
 
 // Puts more text behind what is left. False when there is none.
@@ -94,9 +91,9 @@ bool LineInput::makeRoom(std::size_t kept) {
   std::unique_ptr<char[]> block(new char[kLineMargin + capacity + kLineMargin]);
   std::unique_ptr<LineMarks[]> marks(new LineMarks[capacity / kMarked + 1]);
   std::memcpy(block.get() + kLineMargin, m_at, kept);
-  std::memcpy(marks.get(), m_marks, (kept / kMarked + 1) * sizeof(LineMarks));
+  std::memcpy(marks.get(), m_allMarks, (kept / kMarked + 1) * sizeof(LineMarks));
   m_at = m_text = block.get() + kLineMargin;
-  m_marks = marks.get();
+  m_allMarks = marks.get();
   m_largeBlock = std::move(block);
   m_largeMarks = std::move(marks);
   m_capacity = capacity;
@@ -123,10 +120,11 @@ std::size_t LineInput::readBehind(std::size_t& kept) {
 void LineInput::mark(std::size_t from) {
   const auto length = static_cast<std::size_t>(m_end - m_text);
   for (std::size_t number = from; number <= length / kMarked; ++number) {
-    m_marks[number] = marksOf(m_text + number * kMarked);
+    m_allMarks[number] = marksOf(m_text + number * kMarked);
   }
-  m_marked = from;
-  m_ends = m_marks[from].ends;
+  m_wholeMarks = m_allMarks + from;
+  m_marks = *m_wholeMarks;
+  m_marked = m_text + from * kMarked;
 }
 
 }  // namespace zeb

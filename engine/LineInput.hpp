@@ -30,11 +30,21 @@ class LineInput {
   /// Delivers the next line, without its LF and up to its first NUL, valid until the next call, and its first '=',
   /// null where it has none. False, with an empty line, when the input is exhausted or cannot be read.
   bool next(std::string_view& line, const char*& equals) {
-    const char* const end = nextEnd();
+    const char* sign = nullptr;
+    while (m_marks.ends == 0) [[unlikely]] {
+        if (sign == nullptr && m_marks.signs != 0) sign = m_marked + std::countr_zero(m_marks.signs);
+        goToNextMarks();
+      }
+    // Of the signs, those in front of the first line end are the line's.
+    const std::uint64_t signs = m_marks.signs & (m_marks.ends - 1) & ~m_marks.ends;
+    if (sign == nullptr && signs != 0) sign = m_marked + std::countr_zero(signs);
+    const char* const end = m_marked + std::countr_zero(m_marks.ends);
     if (end == m_end || m_mayHoldNul) [[unlikely]] {
       return nextWithCare(line, equals);
     }
-    take(end, line, equals);
+    line = {m_at, static_cast<std::size_t>(end - m_at)};
+    equals = sign;
+    goBehind(end);
     return true;
   }
 
@@ -50,41 +60,25 @@ class LineInput {
   std::size_t readBehind(std::size_t& kept);
   void mark(std::size_t from);
 
-  // Behind the text stands an LF more, so that the search for one needs no limit.
-  const char* nextEnd() {
-    while (m_ends == 0) m_ends = m_marks[++m_marked].ends;
-    return m_text + m_marked * kMarked + std::countr_zero(m_ends);
+  void goToNextMarks() {
+    m_marks = *++m_wholeMarks;
+    m_marked += kMarked;
   }
-
-  void take(const char* end, std::string_view& line, const char*& equals) {
-    m_ends &= m_ends - 1;
-    line = {m_at, static_cast<std::size_t>(end - m_at)};
-    equals = firstSign(end);
+  // `end` is the first that is marked.
+  void goBehind(const char* end) {
+    m_marks.signs &= ~(m_marks.ends ^ (m_marks.ends - 1));
+    m_marks.ends &= m_marks.ends - 1;
     m_at = end + 1;
   }
 
-  const char* firstSign(const char* end) const {
-    const auto offset = static_cast<std::size_t>(m_at - m_text);
-    const LineMarks* marks = m_marks + offset / kMarked;
-    const LineMarks* const last = m_marks + m_marked;
-    const char* from = m_at;
-    std::uint64_t signs = marks->signs >> (offset % kMarked);
-    while (signs == 0 && marks != last) {
-      from = m_text + static_cast<std::size_t>(++marks - m_marks) * kMarked;
-      signs = marks->signs;
-    }
-    if (signs == 0) return nullptr;
-    const char* const sign = from + std::countr_zero(signs);
-    return sign < end ? sign : nullptr;
-  }
-
   std::istream& m_stream;
-  char* m_text;        // the block's first character
-  LineMarks* m_marks;  // of the block
-  const char* m_at;    // what is left of the block's text
+  char* m_text;           // the block's first character
+  LineMarks* m_allMarks;  // of the block; behind its text stands an LF more, so that the search for one needs no limit
+  const char* m_at;       // what is left of the block's text
   const char* m_end;
-  std::uint64_t m_ends;  // the marked line ends that are left of the 64 characters with the number m_marked
-  std::size_t m_marked;
+  LineMarks m_marks;  // those that are left of the 64 characters at m_marked
+  const char* m_marked;
+  const LineMarks* m_wholeMarks;  // of these 64 characters
   std::size_t m_capacity = kFirstCapacity;
   bool m_mayHoldNul = false;
   bool m_isExhausted = false;

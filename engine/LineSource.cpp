@@ -88,7 +88,8 @@ void LineSource::trace(std::string_view text) const {
 }
 
 int openFile(std::ifstream& stream, const std::string& fileName) {
-  stream.imbue(std::locale::classic());  // a host's global locale may take characters for others
+  // A host's global locale may take characters for others.
+  if (stream.getloc() != std::locale::classic()) stream.imbue(std::locale::classic());
   CZEBFileIO opener;
   opener.ZEBOpenFile(stream, fileName.c_str(), kZEBOpenRead, 500, 10);
   return stream.good() ? 1 : -1;

@@ -25,10 +25,11 @@ struct PositionalReader {
     std::string_view line;
     lines.nextOrEmpty(line);
     FieldScanner scanner(line);
-    const Slot* end = section.positional.slots.data() + section.positional.slots.size();
+    const Slot* const end = section.positional.slots.data() + section.positional.slots.size();
     const bool absentIsZero = section.positional.isAbsentZero(number);
     int converted = 0, expected = 0;
     for (; slot != end && slot->at.line == number; ++slot, ++expected) {
+      if (takePlain(scanner, *slot)) continue;
       Parsed parsed;
       const std::string_view before = scanner.rest();
       const bool read = scanField(scanner, slot->type, parsed.number);
@@ -41,6 +42,14 @@ struct PositionalReader {
       lines.observer()->linePositional(number, converted, expected, scanner.rest());
     }
     return slot;
+  }
+
+  // A number that nobody watches and that no rule changes goes straight into its member. Where this fails, the scanner
+  // gives no further field.
+  bool takePlain(FieldScanner& scanner, const Slot& slot) const {
+    if (lines.observer() != nullptr || slot.row == nullptr || !slot.row->rule.none()) return false;
+    const Field& field = slot.row->field;
+    return slot.type == FieldType::kInt ? scanner.next(field.in<int>(block)) : scanner.next(field.in<double>(block));
   }
 
   void store(const Slot& slot, Parsed& parsed) const {

@@ -133,7 +133,9 @@ void reportGated(const Found& found, std::string_view line, std::string_view val
 
 void echo(const Found& found) {
   const Echo& echo = found.row.echo;
-  std::string text(echo.label);
+  std::string text;
+  text.reserve(120);
+  text += echo.label;
   if (found.row.field.type == FieldType::kInt) {
     text += std::to_string(member<int>(found));
   } else {
@@ -277,6 +279,10 @@ void readSection(const Section& section, void* block, LineReader& lines) {
     const char* const end = line.data() + line.size();
     if (exact != nullptr && !observed && storeExact(*exact, block, equals + 1, end)) continue;
 
+    if (line == section.close && !section.closingLineIsRead) {
+      closed = true;
+      break;
+    }
     const char* const unsearched = exact == nullptr ? line.data() : equals + 1;
     KeyFilter::Hits hits = section.filter.find({unsearched, static_cast<std::size_t>(end - unsearched)});
     if (exact != nullptr) hits.keys.insert(exact->found);

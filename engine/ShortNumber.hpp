@@ -83,4 +83,13 @@ const char* readShortDecimal(const char* at, End end, double& value) {
   return at;
 }
 
+template <class End>
+const char* readShort(const char* at, End end, int& value) {
+  return readShortInt(at, end, value);
+}
+template <class End>
+const char* readShort(const char* at, End end, double& value) {
+  return readShortDecimal(at, end, value);
+}
+
 }  // namespace zeb

@@ -7,8 +7,6 @@
 #include <limits>
 #include <system_error>
 
-#include "engine/ShortNumber.hpp"
-
 namespace zeb {
 
 namespace {
@@ -205,14 +203,14 @@ bool FieldScanner::take(std::size_t used) {
   return !m_failed;
 }
 
-bool FieldScanner::next(double& value) {
+bool FieldScanner::nextOfAnyForm(double& value) {
   if (m_failed) return false;
   const char* end = m_rest.data() + m_rest.size();
   const char* after = scanDouble(skipSpace(m_rest.data(), end), end, value);
   return take(after == nullptr ? 0 : static_cast<std::size_t>(after - m_rest.data()));
 }
 
-bool FieldScanner::next(int& value) { return !m_failed && take(extractInt(m_rest, value)); }
+bool FieldScanner::nextOfAnyForm(int& value) { return !m_failed && take(extractInt(m_rest, value)); }
 
 bool FieldScanner::next(std::string_view& word) { return !m_failed && take(extractWord(m_rest, word)); }
 

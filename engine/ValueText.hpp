@@ -4,6 +4,8 @@
 #include <cstring>
 #include <string_view>
 
+#include "engine/ShortNumber.hpp"
+
 namespace zeb {
 
 /// The text after the line's first '=', leading spaces (not tabs) removed; empty when there is no '='.
@@ -34,13 +36,28 @@ class FieldScanner {
  public:
   explicit FieldScanner(std::string_view line) : m_rest(line) {}
 
-  bool next(double& value);
-  bool next(int& value);
+  bool next(double& value) { return takeShort(value) || nextOfAnyForm(value); }
+  bool next(int& value) { return takeShort(value) || nextOfAnyForm(value); }
   bool next(std::string_view& word);
   /// What no field has taken yet.
   std::string_view rest() const { return m_rest; }
 
  private:
+  // Most fields are short numbers with a blank in front and behind.
+  template <class Number>
+  bool takeShort(Number& value) {
+    const char* const end = m_rest.data() + m_rest.size();
+    const char* at = m_rest.data();
+    while (at != end && *at == ' ') ++at;
+    Number number;
+    at = readShort(at, end, number);
+    if (m_failed || at == nullptr || (at != end && *at != ' ')) return false;
+    value = number;
+    m_rest = {at, static_cast<std::size_t>(end - at)};
+    return true;
+  }
+  bool nextOfAnyForm(double& value);
+  bool nextOfAnyForm(int& value);
   bool take(std::size_t used);
 
   std::string_view m_rest;

@@ -5,6 +5,7 @@
 #include <locale>
 #include <memory>
 #include <streambuf>
+#include <typeinfo>
 
 #include "platform/ZEB3DTool.h"
 
@@ -21,6 +22,7 @@ class TextModeBuffer final : public std::streambuf {
   void forget() {
     setg(area_, area_, area_);
     heldCr_ = false;
+    ended_ = false;
   }
 
   /// Reads ahead; false if the file cannot be read. A directory opens without complaint and fails only here.
@@ -48,6 +50,7 @@ class TextModeBuffer final : public std::streambuf {
   static char* dropCrBeforeLf(char* begin, char* end);
 
   std::filebuf& file_;
+  bool ended_ = false;   // the file gave less than it was asked for
   bool heldCr_ = false;  // the block read last ended in a CR, which waits for the character after it
   char area_[kAreaSize];
 };
@@ -56,7 +59,8 @@ bool TextModeBuffer::fill() {
   char* end = area_;
   do {
     const std::streamsize held = heldCr_ ? 1 : 0;
-    const std::streamsize read = file_.sgetn(area_ + held, kAreaSize - held);
+    const std::streamsize read = ended_ ? 0 : file_.sgetn(area_ + held, kAreaSize - held);
+    ended_ = read < kAreaSize - held;
     if (heldCr_) area_[0] = '\r';
     end = area_ + held + read;
     heldCr_ = read > 0 && end[-1] == '\r';
@@ -96,7 +100,8 @@ void ownBuffer(std::ios_base::event event, std::ios_base& stream, int slot) {
   stream.pword(slot) = nullptr;
   if (event == std::ios_base::copyfmt_event || buffer == nullptr) return;  // after copyfmt it is the other stream's
   // A stream that copies another's format lives on; one that is being destroyed is no more than its base by now.
-  auto* const living = dynamic_cast<std::ios*>(&stream);
+  const bool lives = typeid(stream) != typeid(std::ios_base);
+  auto* const living = lives ? dynamic_cast<std::ios*>(&stream) : nullptr;
   if (living != nullptr && living->rdbuf() == buffer) living->rdbuf(&buffer->file());
   delete buffer;
 }
