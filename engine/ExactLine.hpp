@@ -92,24 +92,24 @@ struct ExactKeys {
   }
 };
 
-/// Whether nothing but a number stands between `at` and the line's end; stores it then.
+/// Stores the number behind the '='. Returns where the text behind it begins, the line's end where there is none; null,
+/// and nothing is stored, where it is no short number with a blank or nothing behind.
 template <class Number>
-bool storeLoneNumber(const char* at, const char* end, Number& member) {
+const char* storeShort(const char* at, const char* end, Number& member) {
   while (*at == ' ') ++at;
   Number number;
   at = readShort(at, EndsByItself(), number);
-  if (at == nullptr) return false;
+  if (at == nullptr || !(at == end || isBlank(*at))) return nullptr;
   while (at != end && isBlank(*at)) ++at;
-  if (at != end) return false;
   member = number;
-  return true;
+  return at;
 }
 
-/// The whole short way: whether the line was "KEY = NUMBER" and is done.
-inline bool storeExact(const ExactKey& key, void* block, const char* behindEquals, const char* end) {
-  if (key.plain == FieldType::kInt) return storeLoneNumber(behindEquals, end, *static_cast<int*>(key.locate(block)));
-  if (key.plain == FieldType::kNone) return false;
-  return storeLoneNumber(behindEquals, end, *static_cast<double*>(key.locate(block)));
+/// The whole short way, for a key of the line that is told where its '=' and its end are.
+inline const char* storeExact(const ExactKey& key, void* block, const char* equals, const char* end) {
+  if (key.plain == FieldType::kInt) return storeShort(equals + 1, end, *static_cast<int*>(key.locate(block)));
+  if (key.plain == FieldType::kNone) return nullptr;
+  return storeShort(equals + 1, end, *static_cast<double*>(key.locate(block)));
 }
 
 namespace detail {
@@ -133,8 +133,8 @@ struct ExactKeysTable {
   std::array<bool, Count> isExact{};
   std::uint64_t seed = 0;
 
-  template <class Plain>
-  constexpr ExactKeysTable(std::span<const std::string_view> texts, std::string_view closingTag, const Plain& plain) {
+  constexpr ExactKeysTable(std::span<const std::string_view> texts, std::string_view closingTag,
+                           const std::array<Field, Count>& plain) {
     for (std::size_t k = 0; k < Count; ++k) {
       check(texts[k]);
       if (texts[k].find(closingTag) != texts[k].npos) throw "a key holds its section's closing tag";

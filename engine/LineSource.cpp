@@ -2,10 +2,8 @@
 #include "engine/LineSource.hpp"
 
 #include <algorithm>
-#include <climits>
 #include <cstring>
 #include <locale>
-#include <streambuf>
 #include <string_view>
 
 #include "engine/ReadObserver.hpp"
@@ -18,41 +16,13 @@ namespace {
 
 std::string_view upToNul(std::string_view text) { return text.substr(0, text.find('\0')); }
 
-// The characters that a stream's buffer holds ready. Only a stream buffer may look at its own, so this borrows the
-// right.
-struct ReadyText : std::streambuf {
-  static std::string_view of(const std::streambuf& buffer) {
-    const char* const begin = (buffer.*&ReadyText::gptr)();
-    const auto length = static_cast<std::size_t>((buffer.*&ReadyText::egptr)() - begin);
-    return {begin, std::min<std::size_t>(length, INT_MAX)};  // take() counts in ints
-  }
-  static void take(std::streambuf& buffer, std::size_t count) { (buffer.*&ReadyText::gbump)(static_cast<int>(count)); }
-};
-
-// A line that is ready as a whole, for half of what std::getline takes for it.
-bool takeReadyLine(std::istream& stream, std::string& line) {
-  if (!stream.good()) return false;
-  std::streambuf& buffer = *stream.rdbuf();
-  const std::string_view ready = ReadyText::of(buffer);
-  const std::size_t length = ready.find('\n');
-  if (length == ready.npos) return false;
-  line.assign(upToNul({ready.data(), length}));
-  ReadyText::take(buffer, length + 1);
-  return true;
-}
-
-// A line that goes on where the buffer's text ends, the last line, or none.
-bool readSplitLine(std::istream& stream, std::string& line) {
+bool readLine(std::istream& stream, std::string& line) {
   if (!std::getline(stream, line, '\n')) {
     line.clear();
     return false;
   }
   line.resize(upToNul(line).size());
   return true;
-}
-
-bool readLine(std::istream& stream, std::string& line) {
-  return takeReadyLine(stream, line) || readSplitLine(stream, line);
 }
 
 }  // namespace

@@ -187,13 +187,6 @@ struct Row {
 template <auto... Members>
 inline constexpr std::array<std::string_view, sizeof...(Members)> members{detail::pointerName<Members>()...};
 
-/// All that the reader needs of a row that is a plain number, close together: rows are large, and most of what a file
-/// sets are plain numbers.
-struct PlainNumber {
-  FieldType type = FieldType::kNone;  // kNone: the row asks for more
-  void* (*locate)(void* block) = nullptr;
-};
-
 /// Whether what `announcing` opens or runs sets the member of `row`.
 bool fills(const Row& announcing, const Row& row);
 
@@ -223,12 +216,11 @@ struct Section {
   std::span<const std::uint8_t> readingOrder = {};  // row of each key, in the order in which the reader tests the keys
   KeyFilter filter = {};                            // numbers the keys in that order
   int gate = -1;                                    // number of the key whose member is the gate
-  std::span<const PlainNumber> plainNumbers = {};   // by key
-  ExactKeys exactKeys = {};
-  bool closingLineIsRead = false;           // the closing line's keys count too
-  int headVersion = 0;                      // a head behind "[VER]": read only for this version number
-  void (*whenRead)(void* block) = nullptr;  // runs at the end of each reading
-  bool readByRank0 = false;                 // rank 0 reads the stream by itself and broadcasts the members
+  ExactKeys exactKeys = {};                         // the same keys
+  bool closingLineIsRead = false;                   // the closing line's keys count too
+  int headVersion = 0;                              // a head behind "[VER]": read only for this version number
+  void (*whenRead)(void* block) = nullptr;          // runs at the end of each reading
+  bool readByRank0 = false;                         // rank 0 reads the stream by itself and broadcasts the members
   PositionalLines positional = {};
 
   bool isPositional() const { return positional.lines > 0; }

@@ -203,14 +203,6 @@ bool isClosedBy(const Section& section, std::string_view line) { return line.fin
 
 namespace {
 
-void storePlainNumber(const PlainNumber& plain, void* block, std::string_view value) {
-  if (plain.type == FieldType::kInt) {
-    extractInt(value, *static_cast<int*>(plain.locate(block)));
-  } else {
-    extractDouble(value, *static_cast<double*>(plain.locate(block)));
-  }
-}
-
 // What a key opens or runs behind its value.
 ListResult readBehind(const Found& found, std::string_view& line) {
   ListResult result = ListResult::kSameLine;
@@ -236,16 +228,10 @@ ListResult readKey(const Found& found, std::string_view& line, std::string_view 
 // Reads the keys that stand in the line, in the section's order. False when a list met the section's end.
 bool readKeys(const Section& section, void* block, LineReader& lines, std::string_view& line, KeySet keys) {
   if (keys.empty()) return true;
-  const bool observed = lines.observer() != nullptr;
   int lineNumber = lines.lineNumber();
   std::string_view value = valueText(line);
   while (!keys.empty()) {
     const std::size_t number = keys.popFirst();
-    const PlainNumber& plain = section.plainNumbers[number];
-    if (plain.type != FieldType::kNone && !observed) {
-      storePlainNumber(plain, block, value);
-      continue;
-    }
     const Found found{section, section.rowOf(number), section.filter.keys[number], block, lines, lineNumber};
     if (section.gate >= 0 && static_cast<int>(number) > section.gate && isGateClosed(section, block)) {
       reportGated(found, line, value);
@@ -275,19 +261,19 @@ void readSection(const Section& section, void* block, LineReader& lines) {
   bool closed = false;
   while (!closed && lines.next(line)) {
     const char* const equals = lines.equals();
-    const ExactKey* const exact = equals == nullptr ? nullptr : section.exactKeys.find(line.data(), equals);
     const char* const end = line.data() + line.size();
-    if (exact != nullptr && !observed && storeExact(*exact, block, equals + 1, end)) continue;
+    const ExactKey* const exact = equals == nullptr ? nullptr : section.exactKeys.find(line.data(), equals);
+    const char* const behind = exact == nullptr || observed ? nullptr : storeExact(*exact, block, equals, end);
+    if (behind == end) continue;
 
-    if (line == section.close && !section.closingLineIsRead) {
-      closed = true;
-      break;
-    }
+    closed = line == section.close;
+    if (closed && !section.closingLineIsRead) break;
     const char* const unsearched = exact == nullptr ? line.data() : equals + 1;
     KeyFilter::Hits hits = section.filter.find({unsearched, static_cast<std::size_t>(end - unsearched)});
-    if (exact != nullptr) hits.keys.insert(exact->found);
     closed = hits.closingTag;
     if (closed && !section.closingLineIsRead) break;
+    if (behind != nullptr && hits.keys.empty()) continue;
+    if (exact != nullptr) hits.keys.insert(exact->found);
     if (!readKeys(section, block, lines, line, hits.keys)) closed = isClosedBy(section, line);
   }
   if (observed) [[unlikely]] {

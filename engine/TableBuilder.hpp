@@ -119,17 +119,16 @@ struct Reading {
     return found;
   }
 
-  static constexpr auto collectPlainNumbers() {
-    std::array<PlainNumber, kCount> plain{};
+  static constexpr auto collectPlainFields() {
+    std::array<Field, kCount> plain{};
     for (std::size_t k = 0; k < kCount; ++k) {
       const Row& row = Rows[kKeys.row[k]];
       const bool gated = gate() >= 0 && static_cast<int>(k) > gate();
-      if (row.isPlainNumber() && !gated) plain[k] = {row.field.type, row.field.locate};
+      if (row.isPlainNumber() && !gated) plain[k] = row.field;
     }
     return plain;
   }
-  static constexpr auto kPlainNumbers = collectPlainNumbers();
-  static constexpr ExactKeysTable<kCount> kExactKeys{kKeys.key, SectionTags::kClose, kPlainNumbers};
+  static constexpr ExactKeysTable<kCount> kExactKeys{kKeys.key, SectionTags::kClose, collectPlainFields()};
 };
 
 template <const auto& Rows, const auto& Layout>
@@ -239,7 +238,6 @@ constexpr Section keyed() {
   section.readingOrder = Read::kKeys.row;
   section.filter = Read::kFilter.view();
   section.gate = Read::gate();
-  section.plainNumbers = Read::kPlainNumbers;
   section.exactKeys = Read::kExactKeys.view();
   return section;
 }
