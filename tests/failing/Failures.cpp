@@ -1,4 +1,4 @@
-// The opener and the link() of this program take precedence over those of the libraries.
+// The opener, the operator new and the link() of this program take precedence over those of the libraries.
 #include "tests/failing/Failures.h"
 
 #include <dlfcn.h>
@@ -6,8 +6,11 @@
 
 #include <atomic>
 #include <cerrno>
+#include <cstdint>
+#include <cstdlib>
 #include <fstream>
 #include <memory>
+#include <new>
 #include <streambuf>
 #include <vector>
 
@@ -19,6 +22,8 @@ constexpr int kNever = -1;
 
 std::atomic<int> linesUntilFailure = kNever;
 std::atomic<bool> linksAreRefused = false;
+std::atomic<std::size_t> large = SIZE_MAX;
+std::atomic<int> largeAllocations = 0;
 
 /// The characters of another buffer, one by one, up to the failure.
 class FailingBuffer final : public std::streambuf {
@@ -57,6 +62,13 @@ ReadsFailBehind::~ReadsFailBehind() { linesUntilFailure = kNever; }
 LinksAreRefused::LinksAreRefused() { linksAreRefused = true; }
 LinksAreRefused::~LinksAreRefused() { linksAreRefused = false; }
 
+LargeAllocations::LargeAllocations(std::size_t fromBytes) {
+  largeAllocations = 0;
+  large = fromBytes;
+}
+LargeAllocations::~LargeAllocations() { large = SIZE_MAX; }
+int LargeAllocations::count() const { return largeAllocations; }
+
 }  // namespace zebtest
 
 void CZEBFileIO::ZEBOpenFile(std::ifstream& stream, const char* fileName, ZEBOpenMode mode, int first, int second) {
@@ -71,6 +83,18 @@ void CZEBFileIO::ZEBOpenFile(std::ifstream& stream, const char* fileName, ZEBOpe
   buffers.push_back(std::make_unique<FailingBuffer>(*base.rdbuf(), linesUntilFailure));
   base.rdbuf(buffers.back().get());
 }
+
+void* operator new(std::size_t bytes) {
+  if (bytes >= large) ++largeAllocations;
+  if (void* const memory = std::malloc(bytes)) return memory;
+  throw std::bad_alloc();
+}
+
+void* operator new[](std::size_t bytes) { return operator new(bytes); }
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete[](void* memory) noexcept { std::free(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
 
 extern "C" int link(const char* from, const char* to) noexcept {
   static const auto real = next<int (*)(const char*, const char*)>("link");

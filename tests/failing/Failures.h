@@ -1,5 +1,7 @@
-// What fails beneath the library when a test wants it to: reads of opened files, and links.
+// What fails beneath the library when a test wants it to: reads of opened files, links, and memory.
 #pragma once
+
+#include <cstddef>
 
 namespace zebtest {
 
@@ -19,6 +21,17 @@ class LinksAreRefused {
   LinksAreRefused(const LinksAreRefused&) = delete;
   LinksAreRefused& operator=(const LinksAreRefused&) = delete;
   ~LinksAreRefused();
+};
+
+/// While it lives, large allocations are counted.
+class LargeAllocations {
+ public:
+  explicit LargeAllocations(std::size_t fromBytes);
+  LargeAllocations(const LargeAllocations&) = delete;
+  LargeAllocations& operator=(const LargeAllocations&) = delete;
+  ~LargeAllocations();
+
+  int count() const;
 };
 
 }  // namespace zebtest
