@@ -29,10 +29,10 @@ void printLine(bool wanted, const std::string& text) {
   if (wanted) zeb::writeOut(text + "\n");
 }
 
-void printIfLimited(bool wanted, const char* what, int number) {
-  if (number <= kMaxEntries) return;
-  printLine(wanted, std::string(what) + " is limited to " + std::to_string(kMaxEntries) +
-                        ". (current=" + std::to_string(number) + ")");
+// Whatever the debug mode: a schedule that differs from what was asked for must not pass in silence.
+void printIfLimited(const char* what, int number) {
+  printLine(number > kMaxEntries, std::string(what) + " is limited to " + std::to_string(kMaxEntries) +
+                                      ". (current=" + std::to_string(number) + ")");
 }
 
 }  // namespace
@@ -77,13 +77,13 @@ int COutput_F2C_MultiTiming::Input_Step1(double fillingTime, int splitNumber, in
               "Default split number should be greater than 2. (current=" + std::to_string(splitNumber) + ")");
     return kSplitNumberTooSmall;
   }
+  printIfLimited("Default split number", splitNumber);  // also for a refused time: the grid is made all the same
   if (!(fillingTime > 0.0)) {
     printLine(m_bDebugMode,
               "Filling time should be greater than zero. (current=" + zeb::formatGeneral(fillingTime) + ")");
     return kFillingTimeNotPositive;
   }
-  printIfLimited(m_bDebugMode, "Default split number", splitNumber);
-  printIfLimited(m_bDebugMode, "Input CMX multi time count", cmxCount);
+  printIfLimited("Input CMX multi time count", cmxCount);
   m_pdCMXTime = std::make_shared<std::vector<double>>(index(std::clamp(cmxCount, 0, kMaxEntries)) + 1);
   return kOk;
 }

@@ -11,7 +11,8 @@
 /// debug mode every refused input and the result are printed to standard output, one line each.
 ///
 /// At most 1,000,000 grid steps and 1,000,000 CMX moments are worked with: a finer grid is replaced by one of 1,000,000
-/// steps over the same span, CMX moments with higher IDs are not kept. Debug mode says so.
+/// steps over the same span, CMX moments with higher IDs are not kept. Input_Step1() prints one line that says so,
+/// whatever the debug mode.
 ///
 /// Copies share the arrays: a moment stored through one is seen by the other until either starts anew. Destroying all
 /// of them is safe.

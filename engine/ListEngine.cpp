@@ -59,7 +59,8 @@ ListResult readList(ListContext& context) {
   const Field& counted = list.count.member.empty() ? context.row.field : list.count;
   const int count = counted.in<int>(context.block);
   auto& array = list.array.in<SharedArray<double>>(context.block);
-  if (list.makesRoom) array.allocate(list.perEntry * (static_cast<std::size_t>(count) + 1));
+  if (list.makesRoom) array.announce(list.perEntry * (static_cast<std::size_t>(count) + 1));
+  if (list.hasLines) array.makeRoom();
   // A copy is asked: the block itself hands nothing out, so that a count that is read again releases the array.
   if (list.hasLines) readEntries(context, SharedArray<double>(array).get(), count);
   return ListResult::kSameLine;

@@ -120,7 +120,7 @@ struct List {
   Field count = {};           // how many; none: the announcing key's own value
   std::uint8_t perEntry = 1;  // elements of the array
   bool makesRoom = true;      // a new array each time
-  bool hasLines = true;       // else room is all that is made
+  bool hasLines = true;       // else room is all that is made: when it is needed, at the latest at the section's end
   bool lastIsRest = false;    // the last entry is one minus the others, whatever its line says
   bool toEndOfFile = false;   // it takes all lines that are left, the closing line included
   Entry entry = Entry::kValue;
@@ -130,6 +130,7 @@ struct List {
   ListReader read = nullptr;        // null: as the above says
 
   constexpr bool isNone() const { return array.member.empty() && read == nullptr; }
+  constexpr bool isRoomOnly() const { return !isNone() && read == nullptr && makesRoom && !hasLines; }
   constexpr bool isScanned() const { return entry != Entry::kValue; }
 };
 
@@ -216,6 +217,7 @@ struct Section {
   std::span<const std::uint8_t> readingOrder = {};  // row of each key, in the order in which the reader tests the keys
   KeyFilter filter = {};                            // numbers the keys in that order
   int gate = -1;                                    // number of the key whose member is the gate
+  int roomOnly = -1;                                // number of the key whose list only makes room
   ExactKeys exactKeys = {};                         // the same keys
   bool closingLineIsRead = false;                   // the closing line's keys count too
   int headVersion = 0;                              // a head behind "[VER]": read only for this version number

@@ -45,6 +45,7 @@ void storeText(const Found& found, std::string_view text) {
 }
 
 KeyOutcome storeElement(const Found& found, double value) {
+  member<SharedArray<double>>(found).makeRoom();
   // A copy is asked: the block itself hands nothing out, so that a count that is read again releases the array.
   const SharedArray<double> array(member<SharedArray<double>>(found));
   if (found.row.element == kNoElement || found.row.element >= array.size()) return KeyOutcome::kNotStored;
@@ -275,6 +276,9 @@ void readSection(const Section& section, void* block, LineReader& lines) {
     if (behind != nullptr && hits.keys.empty()) continue;
     if (exact != nullptr) hits.keys.insert(exact->found);
     if (!readKeys(section, block, lines, line, hits.keys)) closed = isClosedBy(section, line);
+  }
+  if (section.roomOnly >= 0) [[unlikely]] {
+    section.rowOf(static_cast<std::size_t>(section.roomOnly)).list.array.in<SharedArray<double>>(block).makeRoom();
   }
   if (observed) [[unlikely]] {
     lines.observer()->sectionEnded(section, closed ? SectionEnd::kClosed : SectionEnd::kUnclosed);

@@ -37,12 +37,12 @@ class SharedArray {
   }
 
   /// Number of elements of the current array, 0 while there is none.
-  std::size_t size() const { return m_size; }
+  std::size_t size() const { return m_current ? m_size : 0; }
 
   /// Copies elements 1 to size() - 1 to the same places of `out`: the entries of the library's 1-based lists. Nothing
   /// is handed out.
   void copyEntries(T* out) const {
-    for (std::size_t i = 1; i < m_size; ++i) out[i] = m_current.get()[i];
+    for (std::size_t i = 1; i < size(); ++i) out[i] = m_current.get()[i];
   }
 
   /// Makes this object empty.
@@ -53,6 +53,14 @@ class SharedArray {
   T* allocate(std::size_t n) {
     replaceBy(std::shared_ptr<T>(new T[n](), std::default_delete<T[]>()), n);
     return m_current.get();
+  }
+
+  /// Makes this object empty until makeRoom(), which then makes a new array of `n` elements.
+  void announce(std::size_t n) { replaceBy(std::shared_ptr<T>(), n); }
+
+  /// Makes the array that was announced, if it is still to be made.
+  void makeRoom() {
+    if (!m_current && m_size > 0) allocate(m_size);
   }
 
  private:
@@ -69,7 +77,7 @@ class SharedArray {
   }
 
   std::shared_ptr<T> m_current;
-  std::size_t m_size;
+  std::size_t m_size;  // without a current array: of the announced one
   std::unique_ptr<std::vector<std::shared_ptr<T>>> m_earlier;
   mutable std::atomic<bool> m_handedOut;
 };

@@ -109,14 +109,21 @@ struct Reading {
   }
   static constexpr KeyFilterTables<kCount + 1, shortest()> kFilter{withClosingTag()};
 
-  static constexpr int gate() {
+  // -1: no key of the section is such a one.
+  static constexpr int theOnly(bool (*isIt)(const Row&)) {
     int found = -1;
     for (std::size_t k = 0; k < kCount; ++k) {
-      if (Rows[kKeys.row[k]].gateBelow == kNoGate) continue;
-      if (found >= 0) throw "a section has at most one gate";
+      if (!isIt(Rows[kKeys.row[k]])) continue;
+      if (found >= 0) throw "a section has at most one of these";
       found = static_cast<int>(k);
     }
     return found;
+  }
+  static constexpr int gate() {
+    return theOnly([](const Row& row) { return row.gateBelow != kNoGate; });
+  }
+  static constexpr int roomOnly() {
+    return theOnly([](const Row& row) { return row.list.isRoomOnly(); });
   }
 
   static constexpr auto collectPlainFields() {
@@ -238,6 +245,7 @@ constexpr Section keyed() {
   section.readingOrder = Read::kKeys.row;
   section.filter = Read::kFilter.view();
   section.gate = Read::gate();
+  section.roomOnly = Read::roomOnly();
   section.exactKeys = Read::kExactKeys.view();
   return section;
 }

@@ -80,8 +80,9 @@ class CZEBKNCMPCompParm {
   int setZEBCom(CZEBCom* com);
 
   /// Reads the CMP file; then, when the viscoelastic block's setIstoCalcRS(true) was called, the file with the
-  /// extension ".vecmp" in its place, which is written with defaults when it is missing or invalid. A missing CMP file
-  /// reads as an empty one. Collective. Throws std::out_of_range only when the viscoelastic file is asked for and
+  /// extension ".vecmp" in its place, which is written with defaults when it is missing or invalid. An invalid one is
+  /// kept with ".bak" behind its name, or ".bak.1" and so on; one that cannot be read stays as it is. A missing CMP
+  /// file reads as an empty one. Collective. Throws std::out_of_range only when the viscoelastic file is asked for and
   /// `fileName` has no '.'.
   int setSolidFillBlock(const std::string& fileName);
   /// Applies what the molding type, the material and the settings themselves demand. Call it once: some repairs

@@ -78,11 +78,13 @@ struct CZEBKNMaterialParam::Record {
     curves.assign(at(count), ZEB_MTC{});
     entries.resize(at(count));
     values.resize(at(count));
+    for (int i = 0; i < count; ++i) setCurveCount(i, 0);
   }
 
+  // No array is null, also where there are no entries.
   void setCurveCount(int index, int count) {
-    entries[at(index)].assign(at(count), ZEB_MTC_Entry{});
-    values[at(index)].assign(at(count), 0.0);
+    entries[at(index)].assign(std::max<std::size_t>(at(count), 1), ZEB_MTC_Entry{});
+    values[at(index)].assign(std::max<std::size_t>(at(count), 1), 0.0);
     curves[at(index)].iCount = count;
     curves[at(index)].pEntry = entries[at(index)].data();
     curves[at(index)].pdValue = values[at(index)].data();
@@ -143,7 +145,10 @@ void CZEBKNMaterialParam::replaceRecord(std::shared_ptr<Record> next) {
 
 int CZEBKNMaterialParam::LoadFromEngine(const std::string& name) {
   const std::unique_ptr<ZebMaterial, void (*)(ZebMaterial*)> engine(ZebGetMaterial(name), &ZebReleaseMaterial);
-  if (engine == nullptr) return 1;
+  if (engine == nullptr) {
+    zeb::writeOut("Material: the engine does not know " + name + ", an empty record is used.\n");
+    return 1;
+  }
   CopyMaterialData(*engine);
   int unused = 0;
   int count = 0;
@@ -152,7 +157,12 @@ int CZEBKNMaterialParam::LoadFromEngine(const std::string& name) {
   m_record->setCurves(m_nMtcCount);
   for (int i = 0; i < m_nMtcCount; ++i) {
     const ZEB_MTC* const curve = ZebGetMTCData(engine.get(), i);
-    if (curve != nullptr) CopyMtcParam(*curve, i);
+    if (curve != nullptr) {
+      CopyMtcParam(*curve, i);
+    } else {
+      zeb::writeOut("Material: the engine does not have test curve " + std::to_string(i + 1) +
+                    ", an empty one is used.\n");
+    }
   }
   return 1;
 }

@@ -24,9 +24,9 @@ class CZEBKNMaterialParam {
   /// same run, which stays the caller's; null for a serial run. A further call replaces what the getters hand out.
   /// Always 1.
   ///
-  /// A material that the engine does not know gives an empty record without test curves. A count that is negative or
-  /// above 1,000,000, or whose array is missing, is taken as 0 on all ranks, and rank 0 prints one line on standard
-  /// output. Texts are cut after 254 characters.
+  /// A material that the engine does not know gives an empty record without test curves, a test curve that it does not
+  /// have an empty one. A count that is negative or above 1,000,000, or whose array is missing, is taken as 0 on all
+  /// ranks. Of each of these rank 0 prints one line on standard output. Texts are cut after 254 characters.
   int SetInput(std::string name, CZEBCom* communicator);
 
   /// The private copy, owned by this object; null before SetInput(). On ranks other than 0 the second to seventh text

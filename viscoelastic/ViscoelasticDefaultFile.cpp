@@ -1,5 +1,10 @@
 // The default viscoelastic file: its text, and how it gets into its place whole or not at all.
+#include <unistd.h>
+
 #include <cerrno>
+#include <charconv>
+#include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -7,7 +12,6 @@
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <utility>
 
 #include "engine/TextOutput.hpp"
 #include "viscoelastic/ViscoelasticFile.hpp"
@@ -94,96 +98,162 @@ std::string defaultText(const CZEBCMPVEParm& block) {
   return text;
 }
 
-/// A file of its own, beside the one that it is to replace; it is gone when this goes, unless it was moved.
+// --- Files beside it ----------------------------------------------------------------------------------------------
+
+namespace fs = std::filesystem;
+
+// Between `name` and the process: several hosts may share the folder, and a number says something on one of them only.
+std::string ofThisHost(const std::string& name) {
+  char host[256] = {};
+  return name + '.' + (gethostname(host, sizeof host - 1) == 0 ? host : "") + '.';
+}
+
+std::string ofThisProcess(const std::string& name) { return ofThisHost(name) + std::to_string(getpid()); }
+
+/// Makes an empty file that was not there: `name`, or with .1, .2, ... behind it. Returns its name, empty on a failure.
+std::string reserve(const std::string& name) {
+  for (int number = 0;; ++number) {
+    const std::string candidate = number == 0 ? name : name + '.' + std::to_string(number);
+    errno = 0;
+    if (std::FILE* const file = std::fopen(candidate.c_str(), "wbx")) {
+      std::fclose(file);
+      return candidate;
+    }
+    if (errno != EEXIST) return {};
+  }
+}
+
+/// Writes and closes; true when every byte has reached the file.
+bool write(std::FILE* file, const std::string& text) {
+  if (file == nullptr) return false;
+  const bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size();
+  return std::fclose(file) == 0 && written;
+}
+
+void removeQuietly(const fs::path& name) {
+  std::error_code ignored;
+  fs::remove(name, ignored);
+}
+
+/// A reserved name; its file is gone when this goes.
 class TemporaryFile {
  public:
-  // Exclusive creation: two jobs that write at the same time get two files.
-  explicit TemporaryFile(const std::string& target) {
-    constexpr int kAttempts = 100;
-    for (int number = 0; number < kAttempts && m_file == nullptr; ++number) {
-      m_name = target + ".tmp" + std::to_string(number);
-      errno = 0;
-      m_file = std::fopen(m_name.c_str(), "wbx");
-      if (m_file == nullptr && errno != EEXIST) return;
-    }
-    m_exists = m_file != nullptr;
-  }
+  explicit TemporaryFile(const std::string& name) : m_name(reserve(name)) {}
   ~TemporaryFile() {
-    if (m_file != nullptr) std::fclose(m_file);
-    if (m_exists) std::remove(m_name.c_str());
+    if (!m_name.empty()) removeQuietly(m_name);
   }
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
 
-  /// True when every byte has reached the file.
-  bool write(const std::string& text) {
-    if (m_file == nullptr) return false;
-    const bool written = std::fwrite(text.data(), 1, text.size(), m_file) == text.size();
-    return std::fclose(std::exchange(m_file, nullptr)) == 0 && written;
-  }
-
-  /// This job's alone as long as the file stands there.
   const std::string& name() const { return m_name; }
-
-  /// Replaces a file of that name in one step.
-  bool moveTo(const std::string& target) {
-    std::error_code error;
-    std::filesystem::rename(m_name, target, error);
-    if (!error) m_exists = false;
-    return !error;
-  }
 
  private:
   std::string m_name;
-  std::FILE* m_file = nullptr;
-  bool m_exists = false;
 };
 
-bool holds(const std::string& fileName, const std::string& text) {
+std::string temporaryName(const std::string& target) { return target + ".tmp"; }
+
+/// Whether a file's name is `prefix` and a process that lives no more, as reserve(ofThisProcess()) makes them.
+bool isOfDeadProcess(std::string_view name, std::string_view prefix) {
+  if (!name.starts_with(prefix)) return false;
+  const char* const end = name.data() + name.size();
+  int process = 0, number = 0;
+  auto parsed = std::from_chars(name.data() + prefix.size(), end, process);
+  if (process <= 0) return false;
+  if (parsed.ptr != end && *parsed.ptr == '.') parsed = std::from_chars(parsed.ptr + 1, end, number);
+  if (parsed.ec != std::errc() || parsed.ptr != end) return false;
+  return kill(process, 0) != 0 && errno == ESRCH;
+}
+
+// The hour is for a process that another container's numbers hide from this one.
+void removeLeftovers(const std::string& target) {
+  const fs::path path(target);
+  const std::string prefix = ofThisHost(temporaryName(path.filename().string()));
+  const fs::file_time_type limit = fs::file_time_type::clock::now() - std::chrono::hours(1);
+  std::error_code error;
+  for (fs::directory_iterator entry(path.has_parent_path() ? path.parent_path() : ".", error), end;
+       !error && entry != end; entry.increment(error)) {
+    if (!isOfDeadProcess(entry->path().filename().string(), prefix)) continue;
+    std::error_code unknown;
+    if (entry->last_write_time(unknown) < limit && !unknown) removeQuietly(entry->path());
+  }
+}
+
+// --- The file's place ---------------------------------------------------------------------------------------------
+
+// No more than any default text has; empty where the file cannot be read.
+std::string contentOf(const std::string& fileName) {
+  constexpr std::size_t kLongest = 1 << 14;
+  std::string content(kLongest, '\0');
   std::ifstream file(fileName, std::ios::binary);
-  std::string content(text.size() + 1, '\0');
   file.read(content.data(), static_cast<std::streamsize>(content.size()));
-  return file.gcount() == static_cast<std::streamsize>(text.size()) && content.compare(0, text.size(), text) == 0;
+  content.resize(static_cast<std::size_t>(file.gcount()));
+  return content;
 }
 
 // What this library writes for a model before anyone edits it.
-bool isUntouchedDefault(const std::string& fileName) {
+bool isUntouchedDefault(const std::string& content) {
   constexpr int kLastModel = 19;
   CZEBCMPVEParm block;
   for (int model = 0; model <= kLastModel; ++model) {
     block.setVEModel(model);
     block.InitBoundingParameters();
-    if (holds(fileName, defaultText(block))) return true;
+    if (content == defaultText(block)) return true;
   }
   return false;
 }
 
-// By now another job may have put its default under the user's name, and a look at the name followed by a rename of it
-// could push that default over the user's file in the backup. So the file gets a second name, `link`, that no other job
-// touches; what is looked at and what becomes the backup is then the same file. The user's name never stands empty.
-bool backUp(const std::string& fileName, const std::string& link, const std::string& text) {
-  std::error_code error, ignored;
-  std::filesystem::create_hard_link(fileName, link, error);
-  if (error) std::filesystem::copy_file(fileName, link, error);  // a file system without links
-  if (!error && !holds(link, text) && !isUntouchedDefault(link)) {
-    std::filesystem::rename(link, fileName + ".bak", error);
+/// Puts the text where no file is; one that has appeared there meanwhile stays. `temporary` holds the text.
+bool putWhereNoneIs(const std::string& fileName, const std::string& temporary, const std::string& text) {
+  std::error_code error;
+  fs::create_hard_link(temporary, fileName, error);
+  if (!error || error == std::errc::file_exists) return true;
+  errno = 0;  // a file system without links
+  std::FILE* const file = std::fopen(fileName.c_str(), "wbx");
+  if (file == nullptr) return errno == EEXIST;
+  const bool written = write(file, text);
+  if (!written) removeQuietly(fileName);
+  return written;
+}
+
+// A look at the name followed by a rename onto it would push out what somebody saves in between. So whatever has the
+// name is taken away first, under a name that nobody else touches, and then looked at; and what takes its place takes a
+// place that is empty. A process that dies in between leaves the user's file under that name.
+bool replace(const std::string& fileName, const std::string& temporary, const std::string& text) {
+  const std::string taken = reserve(ofThisProcess(fileName + ".old"));
+  if (taken.empty()) return false;
+  std::error_code error;
+  fs::rename(fileName, taken, error);
+  if (error) {
+    removeQuietly(taken);
+    const bool anotherJobTookIt = error == std::errc::no_such_file_or_directory;
+    return anotherJobTookIt && putWhereNoneIs(fileName, temporary, text);
   }
-  // A rename does nothing where the backup is a link to the same file already.
-  std::filesystem::remove(link, ignored);
-  return !error;
+  if (!putWhereNoneIs(fileName, temporary, text)) {
+    fs::rename(taken, fileName, error);
+    return false;
+  }
+  if (isUntouchedDefault(contentOf(taken))) {
+    removeQuietly(taken);
+    return true;
+  }
+  const std::string backup = reserve(fileName + ".bak");
+  if (!backup.empty()) fs::rename(taken, backup, error);
+  return true;
 }
 
 bool putFile(const std::string& fileName, const std::string& text) {
   std::error_code error;
-  const std::filesystem::file_status status = std::filesystem::status(fileName, error);
-  const bool exists = std::filesystem::exists(status);
+  fs::file_status found = fs::status(fileName, error);
+  if (!fs::exists(found)) found = fs::symlink_status(fileName, error);  // a link that leads nowhere is there, too
+  const bool exists = fs::exists(found);
   // A device or a folder of that name is nobody's parameter file; it is not replaced.
-  if (exists && !std::filesystem::is_regular_file(status)) return false;
-  if (exists && holds(fileName, text)) return true;
-  TemporaryFile file(fileName);
-  if (!file.write(text)) return false;
-  if (exists && !backUp(fileName, file.name() + ".bak", text)) return false;
-  return file.moveTo(fileName);
+  if (exists && !fs::is_regular_file(found)) return false;
+  if (exists && contentOf(fileName) == text) return true;
+  removeLeftovers(fileName);
+  const TemporaryFile file(ofThisProcess(temporaryName(fileName)));
+  if (file.name().empty() || !write(std::fopen(file.name().c_str(), "wb"), text)) return false;
+  return exists ? replace(fileName, file.name(), text) : putWhereNoneIs(fileName, file.name(), text);
 }
 
 }  // namespace

@@ -3,8 +3,14 @@
 #include "viscoelastic/ViscoelasticFile.hpp"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
+#include <istream>
+#include <iterator>
 #include <span>
+#include <streambuf>
+#include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -240,15 +246,68 @@ struct ViscoelasticReader {
 
 namespace {
 
-bool openOnRank0(std::ifstream& stream, const std::string& fileName, const LineSource& source) {
-  int opened = -1;
-  if (source.reads()) {
-    if (source.com != nullptr && source.printLevel > 0) writeOut("VE CMP file name = " + fileName + "\n");
-    opened = openFile(stream, fileName);
+/// Delivers the lines of a file's head, which it takes at once, and then the rest of the file.
+class HeadFirst final : public std::streambuf {
+ public:
+  /// False when reading fails within the head.
+  bool takeHead(std::istream& file) {
+    m_file = file.rdbuf();
+    const LineSource source{};
+    for (std::string line; m_lines < kHeadLines && source.getLine(file, line) == 1; ++m_lines) m_text += line + '\n';
+    deliver();
+    return !file.bad();
   }
-  if (source.com != nullptr) source.com->Broadi(opened);
-  return opened == 1;
-}
+
+  /// Of the head, as far as it was taken.
+  int lines() const { return m_lines; }
+
+ protected:
+  int_type underflow() override {
+    if (traits_type::eq_int_type(m_file->sgetc(), traits_type::eof())) return traits_type::eof();
+    m_text.resize(static_cast<std::size_t>(std::clamp<std::streamsize>(m_file->in_avail(), 1, kAtOnce)));
+    m_text.resize(static_cast<std::size_t>(m_file->sgetn(m_text.data(), std::ssize(m_text))));
+    deliver();
+    return traits_type::to_int_type(m_text.front());
+  }
+
+ private:
+  static constexpr int kHeadLines = 9;
+  static constexpr std::streamsize kAtOnce = 1 << 14;
+
+  void deliver() { setg(m_text.data(), m_text.data(), m_text.data() + m_text.size()); }
+
+  std::streambuf* m_file = nullptr;
+  std::string m_text;
+  int m_lines = 0;
+};
+
+/// The file as rank 0 finds it; the other ranks learn only whether it is open.
+struct Companion {
+  std::ifstream file;
+  HeadFirst text;
+  std::istream stream{&text};
+  enum { kOpen, kMissing, kFailed } state = kMissing;
+
+  void open(const std::string& fileName) {
+    std::error_code unknown;
+    // Asked first: a file that appears behind a failed opening is one that the default does not replace.
+    const auto before = std::filesystem::symlink_status(fileName, unknown).type();
+    if (openFile(file, fileName) != 1) {
+      state = before == std::filesystem::file_type::not_found ? kMissing : kFailed;
+      if (state == kFailed) say("Cannot open " + fileName);
+      return;
+    }
+    state = text.takeHead(file) ? kOpen : kFailed;
+    if (state == kFailed) {
+      say("Reading " + fileName + " failed behind line " + std::to_string(text.lines()));
+    }
+  }
+
+ private:
+  static void say(const std::string& what) {
+    writeOut("Error! " + what + "; nothing of it is taken, and it stays as it is.\n");
+  }
+};
 
 }  // namespace
 
@@ -265,15 +324,23 @@ int readViscoelasticLines(std::istream& stream, CZEBCMPVEParm& block, const Line
 int readViscoelasticFile(const std::string& fileName, CZEBCMPVEParm& block, const LineSource& source,
                          ReadObserver* observer, bool writesDefault) {
   if (observer != nullptr) observer->fileStarted(fileName);
-  std::ifstream stream;
-  if (openOnRank0(stream, fileName, source)) {
-    if (readViscoelasticLines(stream, block, source, observer) == 1) return 1;
-    stream.close();
+  Companion companion;
+  if (source.reads()) {
+    if (source.com != nullptr && source.printLevel > 0) writeOut("VE CMP file name = " + fileName + "\n");
+    companion.open(fileName);
+  }
+  int opened = companion.state == Companion::kOpen ? 1 : -1;
+  if (source.com != nullptr) source.com->Broadi(opened);
+  if (opened == 1) {
+    if (readViscoelasticLines(companion.stream, block, source, observer) == 1) return 1;
+    companion.file.close();
   } else {
-    if (observer != nullptr) observer->fileRefused(0, "the file cannot be opened");
+    const bool isMissing = companion.state == Companion::kMissing;
+    if (observer != nullptr) observer->fileRefused(0, isMissing ? "the file cannot be opened" : kUnreadable);
     block.InitBoundingParameters();
   }
-  if (writesDefault && source.reads()) writeDefaultViscoelasticFile(fileName, block);
+  const bool replaces = source.reads() && companion.state != Companion::kFailed;
+  if (writesDefault && replaces) writeDefaultViscoelasticFile(fileName, block);
   return -1;
 }
 

@@ -6,6 +6,7 @@
 #include "inspect/check/Check.hpp"
 #include "inspect/check/Checker.hpp"
 #include "inspect/set/Silence.hpp"
+#include "viscoelastic/ViscoelasticFile.hpp"
 
 namespace zeb {
 
@@ -21,8 +22,8 @@ const CheckRule kViscoelasticRefused{
     "The viscoelastic file is rejected; a solver overwrites it.",
     "correct the file before the solver sees it",
     "Only with --viscoelastic. A viscoelastic file is refused as a whole when its version, model or confirmation "
-    "is wrong. A solver keeps it as NAME.vecmp.bak, writes a default file in its place and reckons with "
-    "the defaults.",
+    "is wrong. A solver keeps it as NAME.vecmp.bak (or NAME.vecmp.bak.1 and so on, as no backup is overwritten), "
+    "writes a default file in its place and reckons with the defaults. A file that cannot be read stays as it is.",
     {"[ShortShot]\nTimeLimit = 2\n[/ShortShot]\n", 1, 1,
      "line 1 does not hold the version of this file format; nothing of it is used, and a solver writes "
      "a default file in its place",
@@ -64,7 +65,8 @@ void checkFile(const std::string& fileName, FileKind kind, const AnalysisOptions
 
 void Checker::fileRefused(int lineNumber, std::string_view text, std::string_view reason) {
   m_found.add(kViscoelasticRefused, lineNumber, text, 0,
-              std::string(reason) + "; nothing of it is used, and a solver writes a default file in its place");
+              std::string(reason) + "; nothing of it is used, and a solver " +
+                  (reason == kUnreadable ? "leaves it as it is" : "writes a default file in its place"));
 }
 
 }  // namespace zeb

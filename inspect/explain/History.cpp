@@ -41,12 +41,18 @@ bool isOrdered(const HistoryStep* a, const HistoryStep* b) { return a->order < b
 }  // namespace
 
 void History::Chain::add(HistoryStep step) {
-  if (first.size() < kMostSteps) return first.push_back(std::move(step));
+  if (last.empty() && first.size() < kMostSteps && firstText < kMostText) {
+    firstText += step.after.size();
+    return first.push_back(std::move(step));
+  }
+  lastText += step.after.size();
   last.push_back(std::move(step));
-  if (last.size() <= kMostSteps) return;
-  const std::size_t leftOut = last.front().leftOut + 1;
-  last.pop_front();
-  last.front().leftOut = leftOut;
+  while (last.size() > kMostSteps || (last.size() > 1 && lastText > kMostText)) {
+    const std::size_t leftOut = last.front().leftOut + 1;
+    lastText -= last.front().after.size();
+    last.pop_front();
+    last.front().leftOut = leftOut;
+  }
 }
 
 std::vector<const HistoryStep*> History::stepsOf(const Row& row, void* block, Elements elements) const {
@@ -229,10 +235,17 @@ void History::repaired(const RepairEvent& event) {
   add(*event.row, std::move(step));
 }
 
+bool History::isWanted(const Row& row) const {
+  const auto isOf = [&](const Row* wanted) { return wanted->field.member == row.field.member; };
+  return m_wanted.empty() || std::any_of(m_wanted.begin(), m_wanted.end(), isOf);
+}
+
+// The members that share a line with a wanted one are told, too; none of them is an array as a whole.
+bool History::wantsValueOf(const Row& row) const { return !row.field.isArray() || row.isElement() || isWanted(row); }
+
 // A file may hold millions of lines; a step is worth keeping for the members that are asked for.
 void History::add(const Row& row, HistoryStep step) {
-  const auto isWanted = [&](const Row* wanted) { return wanted->field.member == row.field.member; };
-  if (!m_wanted.empty() && std::none_of(m_wanted.begin(), m_wanted.end(), isWanted)) return;
+  if (!isWanted(row)) return;
   step.order = ++m_steps;
   m_chains[{step.address, &row}].add(std::move(step));
 }

@@ -59,7 +59,8 @@ struct HistoryStep {
   }
 };
 
-/// Of a member that is set very often only the first and the last kMostSteps steps are kept.
+/// Of a member that is set very often only the first and the last kMostSteps steps are kept; fewer of an array so long
+/// that the texts of its values would fill more than kMostText characters.
 ///
 /// Records while a file is read and repaired; ask afterwards, as long as the parameter set lives.
 class History final : public TraceReader {
@@ -76,7 +77,7 @@ class History final : public TraceReader {
   /// The lines that opened the section, in order.
   std::vector<int> openings(const Section& section) const;
 
-  bool wantsValues() const override { return true; }
+  bool wantsValueOf(const Row& row) const override;
   void fileStarted(std::string_view fileName) override;
   void line(const ReadLine& line) override;
   void fileRefused(int lineNumber, std::string_view text, std::string_view reason) override;
@@ -84,10 +85,12 @@ class History final : public TraceReader {
 
  private:
   static constexpr std::size_t kMostSteps = 1000;
+  static constexpr std::size_t kMostText = 20'000'000;
   // What happened to one member by one of its rows.
   struct Chain {
     std::vector<HistoryStep> first;
     std::deque<HistoryStep> last;
+    std::size_t firstText = 0, lastText = 0;  // characters of the values
     void add(HistoryStep step);
   };
 
@@ -98,6 +101,7 @@ class History final : public TraceReader {
   void addList(const ListTaken& list, const ReadLine& line);
   void addUnreadFields(const ReadLine& line);
   void addRefusal(const ReadLine& line);
+  bool isWanted(const Row& row) const;
   void add(const Row& row, HistoryStep step);
 
   std::vector<const Row*> m_wanted;  // empty: all

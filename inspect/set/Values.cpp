@@ -6,6 +6,12 @@ namespace zeb {
 
 namespace {
 
+template <class Number>
+void append(std::string& text, Number value) {
+  char digits[40];
+  text.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
+}
+
 struct ValueText {
   std::string operator()(int value) const { return exact(value); }
   std::string operator()(double value) const { return exact(value); }
@@ -18,18 +24,23 @@ struct ValueText {
   // 0.
   template <class Element>
   std::string operator()(SharedArray<Element> array) const {
+    array.makeRoom();
     if (array.get() == nullptr) return "none";
     std::string text = "[";
-    for (std::size_t i = 1; i < array.size(); ++i) text += (i > 1 ? ", " : "") + exact(array.get()[i]);
-    return text + "]";
+    for (std::size_t i = 1; i < array.size(); ++i) {
+      if (i > 1) text += ", ";
+      append(text, array.get()[i]);
+    }
+    return text += "]";
   }
 };
 
 }  // namespace
 
 std::string exact(double value) {
-  char text[40];
-  return {text, std::to_chars(text, text + sizeof text, value).ptr};
+  std::string text;
+  append(text, value);
+  return text;
 }
 
 std::string exact(int value) { return std::to_string(value); }

@@ -173,9 +173,12 @@ void LineTrace::listEnded() { closeList(); }
 void LineTrace::closeList() {
   if (!std::exchange(m_listIsOpen, false)) return;
   const bool refused = m_list.announcing.outcome == KeyOutcome::kRefused;
+  const List& list = m_list.announcing.row->list;
   for (const Before& before : m_before) {
+    // The new array may still be to be made.
+    const bool isNew = list.isRoomOnly() && list.array.member == before.row->field.member;
     m_list.members.push_back(
-        {before.row, before.block, refused || before.isReplaced(), valueFor(*before.row, before.block)});
+        {before.row, before.block, refused || isNew || before.isReplaced(), valueFor(*before.row, before.block)});
   }
   m_before.clear();
   m_list.hitsBefore = m_line.hits.size();
@@ -210,7 +213,7 @@ void LineTrace::repaired(const RepairEvent& event) {
 }
 
 std::string LineTrace::valueFor(const Row& row, void* block) const {
-  return m_reader.wantsValues() ? valueOf(row, block) : std::string();
+  return m_reader.wantsValueOf(row) ? valueOf(row, block) : std::string();
 }
 
 ParameterFile readTraced(const std::string& fileName, FileKind kind, const AnalysisOptions& options, CZEBCom* com,

@@ -22,8 +22,8 @@ class TraceReader {
   /// its last one; 0 where it has none or cannot be opened.
   virtual void fileRefused(int /*lineNumber*/, std::string_view /*text*/, std::string_view /*reason*/) {}
   virtual void repaired(const RepairEvent& /*event*/) {}
-  /// Whether records shall hold the members' values: it costs a text for each.
-  virtual bool wantsValues() const { return false; }
+  /// Whether records shall hold the values of the row's member: it costs a text for each, and an array's is long.
+  virtual bool wantsValueOf(const Row& /*row*/) const { return false; }
 };
 
 /// A line is handed on when the next one is read; the lines of a positional section together, when it ends, as a later

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/check/CheckSupport.hpp"
+#include "tests/support/TestFolder.hpp"
 
 namespace {
 
@@ -516,6 +517,18 @@ TEST(CheckCompanion, AMissingOneIsAFinding) {
   ASSERT_EQ(findings.size(), 1u) << told(findings);
   EXPECT_EQ(zebtest::idOf(findings[0]), "viscoelastic-refused");
   EXPECT_EQ(findings[0].place.line, 0);
+  EXPECT_THAT(findings[0].message, testing::EndsWith("a solver writes a default file in its place"));
+}
+
+TEST(CheckCompanion, OneThatCannotBeReadIsAFindingAndStays) {
+  const zeb::test::TestFolder folder;
+  std::filesystem::create_directory(folder.path("part.vecmp"));
+  Checking checking;
+  checking.options.viscoelastic = true;
+  const auto findings = zebtest::findingsOf(folder.write("part.cmp", ""), checking);
+  ASSERT_EQ(findings.size(), 1u) << told(findings);
+  EXPECT_EQ(zebtest::idOf(findings[0]), "viscoelastic-refused");
+  EXPECT_THAT(findings[0].message, testing::EndsWith("a solver leaves it as it is"));
 }
 
 // The list of strain rates that a solver writes into its default file: none is wanted, one stands there.

@@ -39,6 +39,35 @@ TEST_F(CMXLists, RepeatedGateCountMakesANewArray) {
   EXPECT_EQ(first[2], 2.0) << "an array once handed out stays";
 }
 
+TEST_F(CMXLists, GateCountLeavesRoomHoweverItsSectionEnds) {
+  const struct {
+    const char* lines;
+    Doubles gates;
+  } cases[] = {
+      {"ValueNoHRGate = 2\n</FILL_ADVANCED_HRSteady>\n", {0, 0, 0}},
+      {"ValueNoHRGate = 2\n", {0, 0, 0}},
+      {"ValueNoHRGate = 2", {0, 0, 0}},
+      {"ValueNoHRGate = 0\n", {0}},
+      {"ValueNoHRGate = 5\nValueNoHRGate = 1\n", {0, 0}},
+      {"ValueHRGateType = 1\nValueNoHRGate = 1\n", {0, 0}},
+      {"ValueNoHRGate = 2\nValueHRGateType = 1\n1 = 3\n2 = 4\nValueNoHRGate = 1\n", {0, 0}},
+      {"ValueNoHRGate = 5\nValueNoHRGate = 2\nValueHRGateType = 1\n1 = 3\n2 = 4\n", {0, 3, 4}},
+      {"ValueNoHRGate = 2\nValueHRGateType = 1\n1 = 3\n2 = 4\nValueHRGateType = 2\n1 = 5\n", {0, 5, 4}},
+      {"ValueNoHRGate = -1\nValueNoHRGate = 1\n", {0, 0}},
+  };
+  for (const auto& c : cases) {
+    CZEBCMXInternalTool tool;
+    std::istringstream stream(std::string("<FILL_ADVANCED_HRSteady>\n") + c.lines);
+    tool.readBlocks(stream);
+    const auto& gates = tool.block<CZEBCMX_FILL_ADVANCED_HRSteady>();
+    ASSERT_EQ(gates.iNHRGate() + 1, std::ssize(c.gates)) << c.lines;
+    ASSERT_NE(gates.pHRGateBC(), nullptr) << c.lines;
+    EXPECT_EQ(Doubles(gates.pHRGateBC(), gates.pHRGateBC() + c.gates.size()), c.gates) << c.lines;
+  }
+  readGates("ValueNoHRGate = 1\nValueNoHRGate = -1\n");
+  EXPECT_EQ(m_gates.pHRGateBC(), nullptr) << "a refused count leaves no array";
+}
+
 TEST_F(CMXLists, NoMomentsMakeAnArrayWithTheZeroAlone) {
   EXPECT_EQ(m_fill.pOutTimeStep(), nullptr);
   read("<FILL_OUTPUT_TIMES>\nValueNoFillOutputTime = 0\n</FILL_OUTPUT_TIMES>\n");

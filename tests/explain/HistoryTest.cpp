@@ -140,6 +140,24 @@ TEST(History, KeepsTheFirstAndTheLastStepsOfAMemberThatIsSetVeryOften) {
   EXPECT_EQ(steps.back()->leftOut, 0u);
 }
 
+TEST(History, KeepsFewerStepsOfALongArray) {
+  std::string text = "<FILL_ADVANCED_HRSteady>\n";
+  for (int i = 0; i < 200; ++i) text += "ValueNoHRGate = 100000\n";
+  const Analysed analysed(text, zeb::FileKind::kCmx);
+  const auto steps = analysed.steps("m_pHRGateBC");
+  std::size_t characters = 0, leftOut = 0;
+  for (const zeb::HistoryStep* step : steps) {
+    characters += step->after.size();
+    leftOut += step->leftOut;
+  }
+  EXPECT_EQ(steps.size() + leftOut, 200u);
+  EXPECT_EQ(steps.front()->lineNumber, 2);
+  EXPECT_EQ(steps.back()->lineNumber, 201);
+  EXPECT_EQ(steps.back()->after.size(), 300'000u) << "100,000 zeros";
+  EXPECT_GT(characters, 30'000'000u);
+  EXPECT_LT(characters, 41'000'000u);
+}
+
 TEST(History, TellsKeysBehindAClosedGate) {
   const Analysed analysed("[UNFSetting]\nSpeed_V = 3\nFillType = 2\nSpeed_V = 4\n[/UNFSetting]\n");
   const auto steps = analysed.steps("Speed_V");

@@ -107,6 +107,14 @@ TEST(MaterialParam, LongTextsAreCut) {
   EXPECT_STREQ(param.GetZebMaterial()->szText[4], "") << "a null text";
 }
 
+void expectEmpty(const ZEB_MTC& curve) {
+  EXPECT_EQ(curve.iCount, 0);
+  ASSERT_NE(curve.pEntry, nullptr);
+  ASSERT_NE(curve.pdValue, nullptr);
+  EXPECT_EQ(curve.pEntry[0].iValue[2], 0);
+  EXPECT_EQ(curve.pdValue[0], 0.0);
+}
+
 TEST(MaterialParam, CountsWithoutArraysAreTakenAsZero) {
   FakeEngine engine;
   engine.material.table[16].iCount = 3;
@@ -129,17 +137,24 @@ TEST(MaterialParam, CountsWithoutArraysAreTakenAsZero) {
   for (int i = 0; i < 4; ++i) {
     ASSERT_NE(param.GetMtcData(i), nullptr);
     EXPECT_EQ(param.GetMtcData(i)->iA, 2 * i + 1);
-    EXPECT_EQ(param.GetMtcData(i)->iCount, 0);
+    expectEmpty(*param.GetMtcData(i));
   }
 }
 
-TEST(MaterialParam, CurveThatTheEngineDoesNotHaveIsEmpty) {
+TEST(MaterialParam, CurveThatTheEngineDoesNotHaveIsToldAndEmpty) {
   FakeEngine engine;
-  engine.reportedCurves = 2;
+  engine.addCurve(1, 2, {{1.0, {1, 1, 1}, 1.0}});
+  engine.reportedCurves = 3;
   CZEBKNMaterialParam param;
-  param.SetInput("X", nullptr);
-  ASSERT_NE(param.GetMtcData(1), nullptr);
-  EXPECT_EQ(param.GetMtcData(1)->iCount, 0);
+  EXPECT_EQ(printedBy([&] { param.SetInput("X", nullptr); }),
+            "Material: the engine does not have test curve 2, an empty one is used.\n"
+            "Material: the engine does not have test curve 3, an empty one is used.\n");
+  EXPECT_EQ(param.GetMtcData(0)->iCount, 1);
+  for (const int i : {1, 2}) {
+    ASSERT_NE(param.GetMtcData(i), nullptr);
+    EXPECT_EQ(param.GetMtcData(i)->iA, 0);
+    expectEmpty(*param.GetMtcData(i));
+  }
 }
 
 TEST(MaterialParam, SecondInputReplacesTheRecordAndKeepsWhatWasHandedOut) {

@@ -181,11 +181,23 @@ TEST(MaterialDistribution, UnknownMaterialIsAnEmptyRecordOnAllRanks) {
   engine.knowsMaterial = false;
   TwoRanks ranks;
   ranks.input("nowhere");
+  EXPECT_EQ(ranks.printedByRank0, "Material: the engine does not know nowhere, an empty record is used.\n");
   EXPECT_EQ(engine.calls, std::vector<std::string>{"ZebGetMaterial nowhere"});
   EXPECT_TRUE(curvesOf(ranks.receiver).empty());
   EXPECT_STREQ(ranks.receiver.GetZebMaterial()->szText[0], "");
   for (const ZebMatParam& table : ranks.receiver.GetZebMaterial()->table) EXPECT_EQ(table.iCount, 0);
   EXPECT_EQ(ranks.calls().back(), "Broadi 0");
+}
+
+TEST(MaterialDistribution, CurveThatTheEngineDoesNotHaveIsAnEmptyOneOnAllRanks) {
+  FakeEngine engine;
+  makeFiveCoefficientMaterial(engine);
+  engine.reportedCurves = 3;
+  TwoRanks ranks;
+  ranks.input("EP");
+  EXPECT_EQ(ranks.printedByRank0, "Material: the engine does not have test curve 3, an empty one is used.\n");
+  const auto calls = ranks.calls();
+  EXPECT_EQ(std::vector<std::string>(calls.end() - 3, calls.end()), std::vector<std::string>(3, "Broadi 0"));
 }
 
 TEST(MaterialDistribution, CountsThatMakeNoSenseAreSentAsZero) {

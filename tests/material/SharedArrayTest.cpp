@@ -49,6 +49,28 @@ TEST(SharedArray, WhatNobodyAskedForIsReleasedWhenReplaced) {
   EXPECT_EQ(Counted::alive, 10);
 }
 
+TEST(SharedArray, OneThatIsAnnouncedIsMadeOnceWhenThereIsToBeRoom) {
+  SharedArray<Counted> array;
+  array.makeRoom();
+  EXPECT_EQ(array.get(), nullptr) << "none was announced";
+  array.allocate(2);
+  for (int i = 0; i < 100; ++i) array.announce(10);
+  EXPECT_EQ(array.get(), nullptr);
+  EXPECT_EQ(array.size(), 0u);
+  EXPECT_EQ(Counted::alive, 0);
+  array.makeRoom();
+  const Counted* const made = array.get();
+  EXPECT_NE(made, nullptr);
+  EXPECT_EQ(array.size(), 10u);
+  array.makeRoom();
+  EXPECT_EQ(array.get(), made);
+  array.announce(3);
+  EXPECT_EQ(Counted::alive, 10) << "what was handed out stays";
+  array.release();
+  array.makeRoom();
+  EXPECT_EQ(array.get(), nullptr);
+}
+
 TEST(SharedArray, CopiesShareUntilOneIsReplaced) {
   auto original = std::make_unique<SharedArray<Counted>>();
   original->allocate(4);

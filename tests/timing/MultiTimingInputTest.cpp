@@ -147,33 +147,73 @@ TEST(MultiTimingInput, OnlyIdsBelowOneAndAboveANegativeCountAreRefused) {
   }
 }
 
-TEST(MultiTimingInput, HugeCountsAreBounded) {
-  Timing timing;
-  timing.SetDebugMode(true);
-  EXPECT_EQ(printedBy([&] { EXPECT_EQ(timing.Input_Step1(10.0, 3, INT_MAX, Timing::kSeconds), 0); }),
-            "Input CMX multi time count is limited to 1000000. (current=2147483647)\n");
-  timing.SetDebugMode(false);
-  EXPECT_EQ(timing.Input_Step2(INT_MAX, 1.0), 0);
-  EXPECT_EQ(timing.Input_Step2(1, 1.0), 0);
-  const Result result = resultOf(timing);
+// Both with and without debug mode, which says no more about it.
+class MultiTimingLimit : public testing::TestWithParam<bool> {
+ protected:
+  MultiTimingLimit() { m_timing.SetDebugMode(GetParam()); }
+  std::string printedByStep1(double time, int steps, int count, int status = 0) {
+    return printedBy([&] { EXPECT_EQ(m_timing.Input_Step1(time, steps, count, Timing::kSeconds), status); });
+  }
+
+  Timing m_timing;
+};
+
+TEST_P(MultiTimingLimit, HugeCountsAreBounded) {
+  EXPECT_EQ(printedByStep1(10.0, 3, 1'000'000), "");
+  EXPECT_EQ(m_timing.Input_Step2(1'000'000, 1.0), 0);
+  for (const int count : {1'000'001, INT_MAX}) {
+    EXPECT_EQ(printedByStep1(10.0, 3, count),
+              "Input CMX multi time count is limited to 1000000. (current=" + std::to_string(count) + ")\n");
+  }
+  m_timing.SetDebugMode(false);
+  EXPECT_EQ(m_timing.Input_Step2(1'000'001, 1.0), 0);
+  EXPECT_EQ(m_timing.Input_Step2(INT_MAX, 1.0), 0);
+  EXPECT_EQ(m_timing.Input_Step2(1, 1.0), 0);
+  const Result result = resultOf(m_timing);
   ASSERT_EQ(result.entries.size(), 3u);
   EXPECT_EQ(result.entries[0], std::make_pair(1.0, -1));
 }
 
-TEST(MultiTimingInput, HugeSplitNumbersAreBounded) {
-  Timing timing;
-  timing.SetDebugMode(true);
-  EXPECT_EQ(printedBy([&] { EXPECT_EQ(timing.Input_Step1(10.0, INT_MAX, 0, Timing::kSeconds), 0); }),
-            "Default split number is limited to 1000000. (current=2147483647)\n");
-  timing.SetDebugMode(false);
+TEST_P(MultiTimingLimit, TheLastMomentThatIsKeptIsTheMillionth) {
+  constexpr int kCount = 1'000'002;
+  EXPECT_NE(printedByStep1(2.0 * kCount, 3, kCount), "");
+  m_timing.SetDebugMode(false);
+  for (int id = 1; id <= kCount; ++id) ASSERT_EQ(m_timing.Input_Step2(id, id), 0);
+  int entries = 0;
+  EXPECT_EQ(m_timing.Output_Step1(entries), 0);
+  double time = 0.0;
+  int source = 0;
+  ASSERT_EQ(m_timing.Output_Step2(entries, time, source), 0);
+  EXPECT_EQ(source, 0) << "the second grid moment lies behind the file's last";
+  ASSERT_EQ(m_timing.Output_Step2(entries - 1, time, source), 0);
+  EXPECT_EQ(time, 1e6);
+}
+
+TEST_P(MultiTimingLimit, HugeSplitNumbersAreBounded) {
+  EXPECT_EQ(printedByStep1(10.0, 1'000'000, 0), "");
+  for (const int steps : {1'000'001, INT_MAX}) {
+    EXPECT_EQ(printedByStep1(10.0, steps, 0),
+              "Default split number is limited to 1000000. (current=" + std::to_string(steps) + ")\n");
+  }
+  m_timing.SetDebugMode(false);
   int count = 0;
-  EXPECT_EQ(timing.Output_Step1(count), 0);
+  EXPECT_EQ(m_timing.Output_Step1(count), 0);
   EXPECT_EQ(count, 999'999);
   double time = 0.0;
   int source = 1;
-  EXPECT_EQ(timing.Output_Step2(count, time, source), 0);
+  EXPECT_EQ(m_timing.Output_Step2(1, time, source), 0);
+  EXPECT_EQ(time, 10.0 / 1'000'000);
+  EXPECT_EQ(m_timing.Output_Step2(count, time, source), 0);
   EXPECT_NEAR(time, 10.0, 1e-4);
 }
+
+TEST_P(MultiTimingLimit, AGridOfARefusedTimeIsBoundedAndToldToo) {
+  const std::string told = "Default split number is limited to 1000000. (current=1000001)\n";
+  const std::string refused = "Filling time should be greater than zero. (current=0)\n";
+  EXPECT_EQ(printedByStep1(0.0, 1'000'001, 0, -2), GetParam() ? told + refused : told);
+}
+
+INSTANTIATE_TEST_SUITE_P(DebugMode, MultiTimingLimit, testing::Bool());
 
 TEST(MultiTimingInput, NewFirstStepForgetsTheMoments) {
   Timing timing;

@@ -2,9 +2,11 @@
 // several ranks.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <csignal>
 #include <filesystem>
@@ -174,13 +176,19 @@ TEST(DefaultViscoelasticFile, TakesThePlaceOfAnInvalidOneWithTheModelThatWasSet)
   EXPECT_NE(contentOf(name).find("\n2 0.000000 0\n-1\n"), std::string::npos);
 }
 
-TEST(DefaultViscoelasticFile, NewerInvalidFileTakesThePlaceOfAnOlderBackup) {
+TEST(DefaultViscoelasticFile, NoBackupIsOverwritten) {
   const TestFolder folder;
-  const std::string name = folder.write("thing.vecmp", "newer\n");
-  folder.write("thing.vecmp.bak", "older\n");
-  EXPECT_EQ(zeb::writeDefaultViscoelasticFile(name, CZEBCMPVEParm()), 1);
-  EXPECT_EQ(contentOf(name), kDefaultFile);
-  EXPECT_EQ(contentOf(name + ".bak"), "newer\n");
+  const std::string name = folder.write("thing.vecmp", "first\n");
+  std::filesystem::create_directory(folder.path("thing.vecmp.bak.1"));
+  for (const char* users : {"first\n", "second\n", "third\n"}) {
+    folder.write("thing.vecmp", users);
+    EXPECT_EQ(zeb::writeDefaultViscoelasticFile(name, CZEBCMPVEParm()), 1);
+    EXPECT_EQ(contentOf(name), kDefaultFile);
+  }
+  EXPECT_EQ(contentOf(name + ".bak"), "first\n");
+  EXPECT_EQ(contentOf(name + ".bak.2"), "second\n");
+  EXPECT_EQ(contentOf(name + ".bak.3"), "third\n");
+  EXPECT_EQ(filesIn(folder).size(), 5u);
 }
 
 TEST(DefaultViscoelasticFile, BackupIsTheFileItself) {
@@ -225,6 +233,43 @@ TEST(DefaultViscoelasticFile, JobsThatWriteAtTheSameTimeKeepTheUsersFile) {
     ASSERT_EQ(contentOf(name).substr(0, 5), "1006\n");
     const auto files = std::filesystem::directory_iterator(folder.path());
     ASSERT_EQ(std::distance(begin(files), end(files)), 2) << "no temporary is left";
+  }
+}
+
+// Each file that the user saves bears another text; all but those that the user replaced are to be found.
+TEST(DefaultViscoelasticFile, FilesThatAUserSavesMeanwhileAreKept) {
+  constexpr int kRounds = 100, kJobs = 2;
+  const std::string starts[] = {"", "nonsense\n", kDefaultFile};
+  for (int round = 0; round < kRounds; ++round) {
+    const TestFolder folder;
+    const std::string name = folder.path("thing.vecmp"), saved = "saved in round " + std::to_string(round) + "\n";
+    const std::string& start = starts[round % 3];
+    if (!start.empty()) folder.write("thing.vecmp", start);
+    std::vector<std::thread> jobs;
+    std::atomic<int> ready = 0;
+    const auto meet = [&] {
+      for (++ready; ready <= kJobs;) std::this_thread::yield();
+    };
+    for (int job = 0; job < kJobs; ++job) {
+      jobs.emplace_back([&, job] {
+        CZEBCMPVEParm block;
+        block.setVEModel(job + 2);
+        block.InitBoundingParameters();
+        meet();
+        EXPECT_EQ(zeb::writeDefaultViscoelasticFile(name, block), 1);
+      });
+    }
+    folder.write("thing.new", saved);
+    meet();
+    for (int pause = round % 10 * 10; pause > 0; --pause) std::this_thread::yield();
+    std::filesystem::rename(folder.path("thing.new"), name);
+    for (std::thread& job : jobs) job.join();
+    int found = 0;
+    for (const std::string& file : filesIn(folder)) {
+      found += contentOf(folder.path(file)) == saved ? 1 : 0;
+      for (const char* ours : {".tmp", ".old"}) EXPECT_EQ(file.find(ours), file.npos) << file;
+    }
+    ASSERT_EQ(found, 1) << "round " << round;
   }
 }
 
@@ -298,30 +343,84 @@ TEST(DefaultViscoelasticFile, FullDiskLeavesTheUsersFileAndNoTemporary) {
 
 TEST(DefaultViscoelasticFile, FolderOfThatNameIsNotMovedAside) {
   const TestFolder folder;
-  std::filesystem::create_directory(folder.path("thing.vecmp"));
-  CZEBCMPVEParm block;
-  EXPECT_EQ(printedBy([&] { EXPECT_EQ(readFile(folder.path("thing.vecmp"), block), -1); }), kCannotOpen);
-  EXPECT_TRUE(std::filesystem::is_directory(folder.path("thing.vecmp")));
+  const std::string name = folder.path("thing.vecmp");
+  std::filesystem::create_directory(name);
+  EXPECT_EQ(printedBy([&] { EXPECT_EQ(zeb::writeDefaultViscoelasticFile(name, CZEBCMPVEParm()), -1); }), kCannotOpen);
+  EXPECT_TRUE(std::filesystem::is_directory(name));
   EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp"}));
 }
 
-TEST(DefaultViscoelasticFile, WithoutABackupTheUsersFileStays) {
+TEST(DefaultViscoelasticFile, LinkThatLeadsNowhereIsNotReplaced) {
   const TestFolder folder;
-  const std::string name = folder.write("thing.vecmp", "1005\n");
-  std::filesystem::create_directories(folder.path("thing.vecmp.bak/full"));
-  CZEBCMPVEParm block;
-  EXPECT_EQ(printedBy([&] { EXPECT_EQ(readFile(name, block), -1); }), kCannotOpen);
-  EXPECT_EQ(contentOf(name), "1005\n");
-  EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp", "thing.vecmp.bak"}));
+  const std::string name = folder.path("thing.vecmp");
+  std::filesystem::create_symlink("elsewhere.vecmp", name);
+  EXPECT_EQ(printedBy([&] { EXPECT_EQ(zeb::writeDefaultViscoelasticFile(name, CZEBCMPVEParm()), -1); }), kCannotOpen);
+  EXPECT_TRUE(std::filesystem::is_symlink(name));
+  EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp"}));
 }
 
-TEST(DefaultViscoelasticFile, AnotherJobsTemporaryIsNotTouched) {
+// --- What is left of processes that died ------------------------------------------------------------------------
+
+std::string hostName() {
+  char name[256] = {};
+  EXPECT_EQ(gethostname(name, sizeof name - 1), 0);
+  return name;
+}
+
+// A process that has been, and is no more.
+std::string deadProcess() {
+  const pid_t child = fork();
+  if (child == 0) _exit(0);
+  EXPECT_EQ(waitpid(child, nullptr, 0), child);
+  return std::to_string(child);
+}
+
+TEST(DefaultViscoelasticFile, OnlyOldTemporariesOfDeadProcessesOfThisHostAreRemoved) {
+  const std::string dead = deadProcess(), host = hostName(), own = std::to_string(getpid());
+  const struct {
+    std::string name;
+    int minutes;
+    bool stays;
+  } files[] = {
+      {"thing.vecmp.tmp." + host + '.' + dead, 61, false},
+      {"thing.vecmp.tmp." + host + '.' + dead + ".7", 61, false},
+      {"thing.vecmp.tmp." + host + '.' + dead, 59, true},
+      {"thing.vecmp.tmp." + host + '.' + own, 61, true},
+      {"thing.vecmp.tmp." + host + ".1", 61, true},  // it lives, and is another user's
+      {"thing.vecmp.tmp." + host + ".-1", 61, true},
+      {"thing.vecmp.tmp." + host + ".0", 61, true},
+      {"thing.vecmp.tmp." + host + ".99999999999", 61, true},
+      {"thing.vecmp.tmp." + host + '.' + dead + ".txt", 61, true},
+      {"thing.vecmp.tmp." + host + '.' + dead + '.', 61, true},
+      {"thing.vecmp.tmp." + host + '.' + dead + ".1.2", 61, true},
+      {"thing.vecmp.tmp." + host + '.', 61, true},
+      {"thing.vecmp.tmp.not-" + host + '.' + dead, 61, true},
+      {"other.vecmp.tmp." + host + '.' + dead, 61, true},
+      {"thing.vecmp.old." + host + '.' + dead, 61, true},  // a user's file that a process died with
+      {"thing.vecmp.tmp0", 61, true},
+  };
+  for (const auto& file : files) {
+    const TestFolder folder;
+    const std::string name = folder.write(file.name, "half of anot");
+    std::filesystem::last_write_time(
+        name, std::filesystem::file_time_type::clock::now() - std::chrono::minutes(file.minutes));
+    EXPECT_EQ(zeb::writeDefaultViscoelasticFile(folder.path("thing.vecmp"), CZEBCMPVEParm()), 1);
+    EXPECT_EQ(contentOf(folder.path("thing.vecmp")), kDefaultFile);
+    EXPECT_EQ(std::filesystem::exists(name), file.stays) << file.name << " of " << file.minutes << " minutes";
+    EXPECT_EQ(filesIn(folder).size(), file.stays ? 2u : 1u) << file.name;
+  }
+}
+
+TEST(DefaultViscoelasticFile, ManyLeftoversDoNotStopIt) {
   const TestFolder folder;
-  folder.write("thing.vecmp.tmp0", "half of anot");
+  const std::string own = "thing.vecmp.tmp." + hostName() + '.' + std::to_string(getpid());
+  folder.write(own, "");
+  for (int number = 0; number <= 200; ++number) {
+    folder.write("thing.vecmp.tmp" + std::to_string(number), "");
+    folder.write(own + '.' + std::to_string(number), "");
+  }
   EXPECT_EQ(zeb::writeDefaultViscoelasticFile(folder.path("thing.vecmp"), CZEBCMPVEParm()), 1);
   EXPECT_EQ(contentOf(folder.path("thing.vecmp")), kDefaultFile);
-  EXPECT_EQ(contentOf(folder.path("thing.vecmp.tmp0")), "half of anot");
-  EXPECT_EQ(filesIn(folder), (Names{"thing.vecmp", "thing.vecmp.tmp0"}));
 }
 
 // --- Several ranks ----------------------------------------------------------------------------------------------

@@ -268,7 +268,9 @@ void addSchedule(CLI::App& app, int& exitCode) {
   command->add_option("--fill-time", arguments->fillTime, "Filling time in seconds, above 0")
       ->required()
       ->type_name("T");
-  command->add_option("--split", arguments->split, "Equal steps of the grid, 3 or more")->required()->type_name("N");
+  command->add_option("--split", arguments->split, "Equal steps of the grid, 3 to 1,000,000")
+      ->required()
+      ->type_name("N");
   command
       ->add_option("--type", arguments->type,
                    "Scale of the moments: 1 seconds, 2 or 3 percent, any other a scale of your own (default: the "
