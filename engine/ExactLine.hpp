@@ -92,24 +92,25 @@ struct ExactKeys {
   }
 };
 
-/// Stores the number behind the '='. Returns where the text behind it begins, the line's end where there is none; null,
-/// and nothing is stored, where it is no short number with a blank or nothing behind.
+/// Stores the number that stands from `at` on, where it is a short one, a blank or nothing stands behind it, and
+/// neither a key nor the closing tag in what follows.
 template <class Number>
-const char* storeShort(const char* at, const char* end, Number& member) {
+bool storeShort(const char* at, const char* end, const KeyFilter& filter, Number& member) {
   while (*at == ' ') ++at;
   Number number;
   at = readShort(at, EndsByItself(), number);
-  if (at == nullptr || !(at == end || isBlank(*at))) return nullptr;
-  while (at != end && isBlank(*at)) ++at;
+  if (at == nullptr || !(at == end || isBlank(*at))) return false;
+  if (at != end && filter.find({at, static_cast<std::size_t>(end - at)}).any()) return false;
   member = number;
-  return at;
+  return true;
 }
 
-/// The whole short way, for a key of the line that is told where its '=' and its end are.
-inline const char* storeExact(const ExactKey& key, void* block, const char* equals, const char* end) {
-  if (key.plain == FieldType::kInt) return storeShort(equals + 1, end, *static_cast<int*>(key.locate(block)));
-  if (key.plain == FieldType::kNone) return nullptr;
-  return storeShort(equals + 1, end, *static_cast<double*>(key.locate(block)));
+/// The whole short way, for a key of the line that is told where its '=' and its end are. False, and nothing is stored,
+/// where it does not lead to the line's end.
+inline bool storeExact(const ExactKey& key, void* block, const char* equals, const char* end, const KeyFilter& filter) {
+  if (key.plain == FieldType::kInt) return storeShort(equals + 1, end, filter, *static_cast<int*>(key.locate(block)));
+  if (key.plain == FieldType::kNone) return false;
+  return storeShort(equals + 1, end, filter, *static_cast<double*>(key.locate(block)));
 }
 
 namespace detail {

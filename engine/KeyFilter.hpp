@@ -57,6 +57,8 @@ struct KeyFilter {
   struct Hits {
     KeySet keys;
     bool closingTag = false;
+
+    bool any() const { return closingTag || !keys.empty(); }
   };
 
   std::span<const std::string_view> keys;

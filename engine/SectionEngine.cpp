@@ -264,8 +264,7 @@ void readSection(const Section& section, void* block, LineReader& lines) {
     const char* const equals = lines.equals();
     const char* const end = line.data() + line.size();
     const ExactKey* const exact = equals == nullptr ? nullptr : section.exactKeys.find(line.data(), equals);
-    const char* const behind = exact == nullptr || observed ? nullptr : storeExact(*exact, block, equals, end);
-    if (behind == end) continue;
+    if (exact != nullptr && !observed && storeExact(*exact, block, equals, end, section.filter)) continue;
 
     closed = line == section.close;
     if (closed && !section.closingLineIsRead) break;
@@ -273,7 +272,6 @@ void readSection(const Section& section, void* block, LineReader& lines) {
     KeyFilter::Hits hits = section.filter.find({unsearched, static_cast<std::size_t>(end - unsearched)});
     closed = hits.closingTag;
     if (closed && !section.closingLineIsRead) break;
-    if (behind != nullptr && hits.keys.empty()) continue;
     if (exact != nullptr) hits.keys.insert(exact->found);
     if (!readKeys(section, block, lines, line, hits.keys)) closed = isClosedBy(section, line);
   }
