@@ -148,6 +148,19 @@ TEST(Tool, RefusesAFileThatMayNotBeRead) {
   }
 }
 
+TEST(Tool, TellsOfAFullDeviceWhateverItPrints) {
+  const TemporaryFile file(kOutlet);
+  const std::vector<std::string> commands[] = {
+      {"--help"},   {"--version"},        {"show", "--help"},           {"manual"},           {"complete", ""},
+      {"template"}, {"check", "--rules"}, {"list", "--format", "json"}, {"show", file.path()}};
+  for (std::vector<std::string> words : commands) {
+    words.insert(words.begin(), {"-c", "exec \"$0\" \"$@\" > /dev/full", ZEB_COMPPARM});
+    const ToolRun run = zebtest::runProgram("/bin/sh", words);
+    EXPECT_EQ(run.exitCode, 2) << words[3];
+    EXPECT_EQ(run.err, "compparm: cannot write to standard output\n") << words[3];
+  }
+}
+
 TEST(Tool, EmptyFileHoldsTheDefaults) {
   const TemporaryFile file("");
   const ToolRun run = runTool({"show", file.path(), "--changed"});

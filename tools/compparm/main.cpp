@@ -65,7 +65,8 @@ int run(int argc, char** argv) {
   try {
     if (!servesTheShell(app, words)) app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return error.get_exit_code() == 0 ? app.exit(error) : fail(problemOf(app, words, error.what()));
+    if (error.get_exit_code() != 0) return fail(problemOf(app, words, error.what()));
+    app.exit(error);  // prints the help or the version
   }
   std::cout.flush();
   if (!std::cout) return fail("cannot write to standard output");
