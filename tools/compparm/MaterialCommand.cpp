@@ -3,7 +3,6 @@
 #include <iostream>
 #include <memory>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "inspect/explain/Settings.hpp"
 #include "inspect/set/OutputCapture.hpp"

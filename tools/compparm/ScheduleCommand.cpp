@@ -4,7 +4,6 @@
 #include <iostream>
 #include <memory>
 #include <optional>
-#include <sstream>
 
 #include "cmx/COutput_F2C_MultiTiming.h"
 #include "cmx/CZEBCMX_FILL_OUTPUT_TIMES.h"
@@ -180,8 +179,7 @@ void printHeading(const ScheduleArguments& arguments, const Schedule& schedule) 
 }
 
 void printEnd(const Schedule& schedule) {
-  std::istringstream lines(schedule.messages);
-  for (std::string line; std::getline(lines, line);) std::cout << line << '\n';
+  for (const std::string& line : split(schedule.messages, '\n')) std::cout << line << '\n';
   if (!schedule.cut.empty()) std::cout << coloured(Colour::kYellow, "The list is cut short: ") << schedule.cut << ".\n";
   if (const std::size_t count = withoutEntry(schedule); count > 0) {
     std::cout << count

@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
-#include <sstream>
 
 #include "inspect/explain/Origins.hpp"
 #include "inspect/explain/Settings.hpp"
@@ -121,8 +120,7 @@ void printText(const ShowArguments& arguments, const Shown& shown) {
   }
   if (!shown.messages.empty()) {
     std::cout << coloured(Colour::kBold, "Printed while reading") << '\n';
-    std::istringstream lines(shown.messages);
-    for (std::string line; std::getline(lines, line);) std::cout << "  " << printable(line) << '\n';
+    for (const std::string& line : split(shown.messages, '\n')) std::cout << "  " << printable(line) << '\n';
     std::cout << '\n';
   }
   if (!shown.hasSections) {
@@ -199,8 +197,7 @@ Reading read(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* m
 // The standard solver's reader echoes every line that it shares, whatever the print level.
 std::string withoutLineEcho(const std::string& text) {
   std::string kept;
-  std::istringstream lines(text);
-  for (std::string line; std::getline(lines, line);) {
+  for (const std::string& line : split(text, '\n')) {
     if (!line.starts_with(" - CPUID:")) kept += line + '\n';
   }
   return kept;
