@@ -6,6 +6,7 @@
 #include <fstream>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <set>
 #include <string_view>
 #include <utility>
@@ -20,7 +21,7 @@ constexpr std::string_view kSuffix = ".json";
 
 struct EngineState {
   std::mutex mutex;
-  std::vector<std::string> folders{"."};
+  std::optional<std::vector<std::string>> folders;
   std::string lastError;
 };
 
@@ -29,10 +30,14 @@ EngineState& engineState() {
   return state;
 }
 
-void setLastError(std::string error) {
+void setLastError(const char* error) noexcept {
   EngineState& state = engineState();
   const std::lock_guard lock(state.mutex);
-  state.lastError = std::move(error);
+  try {
+    state.lastError = error;
+  } catch (const std::bad_alloc&) {
+    state.lastError = "out of memory";  // so short that it needs none
+  }
 }
 
 bool namesFile(const std::string& name) {
@@ -133,7 +138,7 @@ void setMaterialFolders(std::vector<std::string> folders) {
 std::vector<std::string> materialFolders() {
   EngineState& state = engineState();
   const std::lock_guard lock(state.mutex);
-  return state.folders;
+  return state.folders.value_or(std::vector<std::string>{"."});
 }
 
 std::string lastMaterialError() {
@@ -150,7 +155,7 @@ ZebMaterial* ZebGetMaterial(const std::string& name) {
     zeb::setLastError("");
     return &record.release()->material;
   } catch (const std::bad_alloc&) {
-    zeb::setLastError("material '" + name + "': not enough memory");
+    zeb::setLastError("out of memory");
   } catch (const std::exception& error) {
     zeb::setLastError(error.what());
   }
