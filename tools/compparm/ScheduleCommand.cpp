@@ -157,13 +157,17 @@ void printJson(const ScheduleArguments& arguments, const Schedule& schedule) {
                        {"from", entry.source == 0 ? "grid" : "CMX"},
                        {"merged", entry.merged}});
   }
+  Json moments = Json::array();
+  for (const double moment : schedule.fileMoments) {
+    moments.push_back(std::isfinite(moment) ? Json(moment) : jsonOf(zeb::exact(moment)));
+  }
   Json document = {{"file", arguments.file},
                    {"type", schedule.type},
                    {"fillTime", arguments.fillTime},
                    {"span", schedule.span},
                    {"split", arguments.split},
                    {"unit", unit(schedule.type)},
-                   {"cmxMoments", schedule.fileMoments},
+                   {"cmxMoments", std::move(moments)},
                    {"moments", std::move(entries)},
                    {"withoutEntry", withoutEntry(schedule)}};
   if (!schedule.cut.empty()) document["cut"] = schedule.cut;
