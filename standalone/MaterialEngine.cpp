@@ -1,6 +1,8 @@
 // The material engine's four functions: finding and loading files, handing out and releasing records.
 #include "standalone/MaterialEngine.h"
 
+#include <dirent.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -51,17 +53,20 @@ bool exists(const std::string& file) {
   return std::filesystem::exists(file, ignored);
 }
 
-bool isPlain(const std::string& name) {
+bool isPlain(std::string_view name) {
   return std::none_of(name.begin(), name.end(), [](unsigned char c) { return c < 0x20 || c == 0x7f; });
 }
 
-/// The names of a folder's materials that a line of text can hold; none where the folder cannot be read.
+/// The names of a folder's materials that a line of text can hold; none where the folder cannot be read. (The standard
+/// library's directory_iterator ends the program where memory fails.)
 std::set<std::string> materialsIn(const std::string& folder) {
   std::set<std::string> names;
-  std::error_code error;
-  for (std::filesystem::directory_iterator file(folder, error), end; !error && file != end; file.increment(error)) {
-    const std::string name = file->path().stem().string();
-    if (file->path().extension() == kSuffix && isPlain(name)) names.insert(name);
+  const std::unique_ptr<DIR, int (*)(DIR*)> files(opendir(folder.c_str()), closedir);
+  while (const dirent* const file = files == nullptr ? nullptr : readdir(files.get())) {
+    std::string_view name = file->d_name;
+    if (name.size() <= kSuffix.size() || !name.ends_with(kSuffix)) continue;
+    name.remove_suffix(kSuffix.size());
+    if (isPlain(name)) names.emplace(name);
   }
   return names;
 }

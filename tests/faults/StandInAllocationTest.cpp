@@ -64,6 +64,21 @@ TEST(MaterialEngine, TellsThatThereIsNoMemory) {
   EXPECT_GT(failEach(load), 100);
 }
 
+TEST(MaterialEngine, NamesTheMaterialsThereAreOrTellsThatThereIsNoMemory) {
+  const std::string folder = std::string(ZEB_EXAMPLES_DIR) + "/materials";
+  const std::string complete = "material 'pa6' not found in " + folder + "; there are: epoxy-encapsulant, pa66-gf30";
+  zeb::setMaterialFolders({folder});
+  const auto search = [&complete] {
+    const ZebMaterial* const material = ZebGetMaterial("pa6");
+    zebtest::failAllocation(0);
+    EXPECT_EQ(material, nullptr);
+    const std::string error = zeb::lastMaterialError();
+    EXPECT_TRUE(error == complete || error == "out of memory") << error;
+    return error == complete;
+  };
+  EXPECT_GT(failEach(search), 10);
+}
+
 TEST(TextFileOpener, DeliversTheFileOrThrows) {
   const TemporaryFile file("one\r\ntwo\n");
   const auto open = [&file] {
