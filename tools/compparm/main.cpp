@@ -1,7 +1,9 @@
 // compparm: see, check and compare the computation parameters of an injection-molding analysis.
+#include <atomic>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <new>
 
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"
@@ -44,6 +46,14 @@ bool servesTheShell(const CLI::App& app, const std::vector<std::string>& words) 
   return true;
 }
 
+// Looked at in the end: streams keep to themselves what is thrown inside them, and the texts that they make are cut.
+constinit std::atomic<bool> hasMemoryFailed{false};
+
+void noteFailedMemory() {
+  hasMemoryFailed = true;
+  throw std::bad_alloc();
+}
+
 int run(int argc, char** argv) {
   CLI::App app{"Shows the computation parameters of an injection-molding analysis as the solver will use them.",
                "compparm"};
@@ -69,24 +79,28 @@ int run(int argc, char** argv) {
     app.exit(error);  // prints the help or the version
   }
   std::cout.flush();
+  if (hasMemoryFailed) throw std::bad_alloc();
   if (!std::cout) return fail("cannot write to standard output");
   return exitCode;
 }
 
 // What no catch reaches ends here: memory that fails before main begins or in a destructor. (A JSON document's needs
 // some.)
-void tellAndEnd() noexcept {
+[[noreturn]] void tellAndEnd() noexcept {
   try {
     if (const auto error = std::current_exception()) std::rethrow_exception(error);
   } catch (const std::exception& error) {
     std::_Exit(fail(error));
   } catch (...) {
   }
-  std::abort();
+  std::_Exit(hasMemoryFailed ? fail(std::bad_alloc()) : fail("ended by an error that nobody expected"));
 }
 
 // Ahead of the initialisers of the command line's own objects, which allocate.
-__attribute__((constructor(101))) void prepareToTell() { std::set_terminate(tellAndEnd); }
+__attribute__((constructor(101))) void prepareToTell() {
+  std::set_terminate(tellAndEnd);
+  std::set_new_handler(noteFailedMemory);
+}
 
 }  // namespace
 

@@ -41,8 +41,9 @@ void* allocate(std::size_t size, std::size_t alignment) {
 constexpr std::size_t kAlignment = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 
 void* orThrow(void* place) {
-  if (place == nullptr) throw std::bad_alloc();
-  return place;
+  if (place != nullptr) return place;
+  if (const std::new_handler handler = std::get_new_handler()) handler();
+  throw std::bad_alloc();
 }
 
 struct Count {
