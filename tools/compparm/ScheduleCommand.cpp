@@ -14,6 +14,7 @@
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"
 #include "tools/compparm/JsonText.hpp"
+#include "tools/compparm/Ranks.hpp"
 #include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
@@ -284,7 +285,7 @@ void addSchedule(CLI::App& app, int& exitCode) {
                                 {"schedule part.cmx --fill-time 1.2 --split 10 --type 2", "moments in percent"}}) +
                   "\n\"CMX n\" is the n-th entry that stems from the file. "
                   "Exit codes: 0, 1 when the file's list is cut short, 2 error.");
-  command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
+  runOnce(*command, exitCode, [arguments] { return run(*arguments); });
 }
 
 }  // namespace compparm

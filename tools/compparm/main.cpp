@@ -7,6 +7,7 @@
 
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"
+#include "tools/compparm/Ranks.hpp"
 #include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
@@ -90,10 +91,10 @@ int run(int argc, char** argv) {
   try {
     if (const auto error = std::current_exception()) std::rethrow_exception(error);
   } catch (const std::exception& error) {
-    std::_Exit(fail(error));
+    MpiRun::abort(fail(error));
   } catch (...) {
   }
-  std::_Exit(hasMemoryFailed ? fail(std::bad_alloc()) : fail("ended by an error that nobody expected"));
+  MpiRun::abort(hasMemoryFailed ? fail(std::bad_alloc()) : fail("ended by an error that nobody expected"));
 }
 
 // Ahead of the initialisers of the command line's own objects, which allocate.
@@ -110,6 +111,8 @@ int main(int argc, char** argv) {
   try {
     return compparm::run(argc, argv);
   } catch (const std::exception& error) {
-    return compparm::fail(error);
+    const int exitCode = compparm::fail(error);
+    if (compparm::MpiRun::isPresent()) compparm::MpiRun::abort(exitCode);
+    return exitCode;
   }
 }
