@@ -13,6 +13,7 @@
 #include <string_view>
 #include <utility>
 
+#include "standalone/HostDefinition.hpp"
 #include "standalone/MaterialRecord.hpp"
 
 namespace zeb {
@@ -25,6 +26,7 @@ struct EngineState {
   std::mutex mutex;
   std::optional<std::vector<std::string>> folders;
   std::string lastError;
+  std::set<void*> records;  // that are handed out
 };
 
 EngineState& engineState() {
@@ -128,8 +130,32 @@ std::unique_ptr<MaterialRecord> loadMaterial(const std::string& name) {
   }
 }
 
+/// Null for a material of another engine.
 MaterialRecord* recordOf(ZebMaterial* material) {
-  return material == nullptr ? nullptr : static_cast<MaterialRecord*>(material->pEngine);
+  EngineState& state = engineState();
+  const std::lock_guard lock(state.mutex);
+  const bool isOwn = material != nullptr && state.records.contains(material->pEngine);
+  return isOwn ? static_cast<MaterialRecord*>(material->pEngine) : nullptr;
+}
+
+ZebMaterial* handOut(std::unique_ptr<MaterialRecord> record) {
+  EngineState& state = engineState();
+  const std::lock_guard lock(state.mutex);
+  state.records.insert(record.get());
+  return &record.release()->material;
+}
+
+void takeBack(MaterialRecord* record) {
+  EngineState& state = engineState();
+  const std::lock_guard lock(state.mutex);
+  state.records.erase(record);
+  delete record;
+}
+
+/// What the host's engine does with a material that this one has not made; null where there is none.
+template <class Function>
+Function* hostFunction(ZebMaterial* material, const char* symbol, const void* caller) {
+  return recordOf(material) == nullptr ? hostDefinition<Function>(symbol, caller) : nullptr;
 }
 
 }  // namespace
@@ -155,10 +181,14 @@ std::string lastMaterialError() {
 }  // namespace zeb
 
 ZebMaterial* ZebGetMaterial(const std::string& name) {
+  if (auto* const get =
+          zeb::hostDefinition<decltype(ZebGetMaterial)>(zeb::symbol::kGetMaterial, __builtin_return_address(0))) {
+    return get(name);
+  }
   try {
     auto record = zeb::loadMaterial(name);
     zeb::setLastError("");
-    return &record.release()->material;
+    return zeb::handOut(std::move(record));
   } catch (const std::bad_alloc&) {
     zeb::setLastError("out of memory");
   } catch (const std::exception& error) {
@@ -168,6 +198,10 @@ ZebMaterial* ZebGetMaterial(const std::string& name) {
 }
 
 int ZebGetMTCInfo(ZebMaterial* material, int& unused, int& count) {
+  if (auto* const get =
+          zeb::hostFunction<decltype(ZebGetMTCInfo)>(material, zeb::symbol::kGetMTCInfo, __builtin_return_address(0))) {
+    return get(material, unused, count);
+  }
   const zeb::MaterialRecord* const record = zeb::recordOf(material);
   unused = 0;
   count = record == nullptr ? 0 : static_cast<int>(record->testCurves.size());
@@ -175,9 +209,19 @@ int ZebGetMTCInfo(ZebMaterial* material, int& unused, int& count) {
 }
 
 const ZEB_MTC* ZebGetMTCData(ZebMaterial* material, int index) {
+  if (auto* const get =
+          zeb::hostFunction<decltype(ZebGetMTCData)>(material, zeb::symbol::kGetMTCData, __builtin_return_address(0))) {
+    return get(material, index);
+  }
   const zeb::MaterialRecord* const record = zeb::recordOf(material);
   if (record == nullptr || index < 0 || static_cast<std::size_t>(index) >= record->testCurves.size()) return nullptr;
   return &record->testCurves[static_cast<std::size_t>(index)].record;
 }
 
-void ZebReleaseMaterial(ZebMaterial* material) { delete zeb::recordOf(material); }
+void ZebReleaseMaterial(ZebMaterial* material) {
+  if (auto* const release = zeb::hostFunction<decltype(ZebReleaseMaterial)>(material, zeb::symbol::kReleaseMaterial,
+                                                                            __builtin_return_address(0))) {
+    return release(material);
+  }
+  zeb::takeBack(zeb::recordOf(material));
+}
