@@ -2,7 +2,8 @@
 # cores, without a remote shell and without a network.
 include_guard()
 
-set(zebMpiRun ${MPIEXEC_EXECUTABLE})
+# A name may have been given where several MPI stand side by side.
+find_program(zebMpiRun ${MPIEXEC_EXECUTABLE} REQUIRED NO_CACHE)
 set(zebMpiEnvironment
   OMPI_ALLOW_RUN_AS_ROOT=1
   OMPI_ALLOW_RUN_AS_ROOT_CONFIRM=1

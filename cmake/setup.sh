@@ -7,6 +7,7 @@ zeb_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # The one list of Debian packages, by what they are for.
 zeb_packages_build=(g++ cmake ninja-build nlohmann-json3-dev libcli11-dev libopenmpi-dev openmpi-bin)
 zeb_packages_test=(libgtest-dev libgmock-dev locales pkg-config)
+zeb_packages_mpich=(mpich libmpich-dev) # stands beside Open MPI, which keeps the plain names
 zeb_packages_bench=(libbenchmark-dev libinih-dev libsimpleini-dev)
 zeb_packages_ci=(clang clang-format clang-tidy libclang-rt-dev llvm python3 shellcheck ccache git)
 

@@ -1,13 +1,15 @@
 // The process library's classes, as the host's companion library declares them.
 #pragma once
 
-class ZEBG_DataEntryValueStorage {
+#include "platform/ZEBVisible.h"
+
+class ZEB_VISIBLE ZEBG_DataEntryValueStorage {
  public:
   virtual ~ZEBG_DataEntryValueStorage();
 };
 
 /// The process conditions of one rank.
-class ZEBG_SimulatorProcess : public ZEBG_DataEntryValueStorage {
+class ZEB_VISIBLE ZEBG_SimulatorProcess : public ZEBG_DataEntryValueStorage {
  public:
   ZEBG_SimulatorProcess();
 };

@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "platform/ZEBVisible.h"
+
 /// One property table: `pdValue` holds iCount + 1 doubles, entries 0 to iCount - 1 are used.
 struct ZebMatParam {
   int iA;
@@ -37,7 +39,7 @@ struct ZebMaterial {
   double dLast;
 };
 
-ZebMaterial* ZebGetMaterial(const std::string& name);
-int ZebGetMTCInfo(ZebMaterial* material, int& unused, int& count);
-const ZEB_MTC* ZebGetMTCData(ZebMaterial* material, int index);
-void ZebReleaseMaterial(ZebMaterial* material);
+ZEB_VISIBLE ZebMaterial* ZebGetMaterial(const std::string& name);
+ZEB_VISIBLE int ZebGetMTCInfo(ZebMaterial* material, int& unused, int& count);
+ZEB_VISIBLE const ZEB_MTC* ZebGetMTCData(ZebMaterial* material, int index);
+ZEB_VISIBLE void ZebReleaseMaterial(ZebMaterial* material);

@@ -1,15 +1,19 @@
 // The material engine's four functions: finding and loading files, handing out and releasing records.
 #include "standalone/MaterialEngine.h"
 
+#include <dirent.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <set>
 #include <string_view>
 #include <utility>
 
+#include "standalone/HostDefinition.hpp"
 #include "standalone/MaterialRecord.hpp"
 
 namespace zeb {
@@ -20,8 +24,9 @@ constexpr std::string_view kSuffix = ".json";
 
 struct EngineState {
   std::mutex mutex;
-  std::vector<std::string> folders{"."};
+  std::optional<std::vector<std::string>> folders;
   std::string lastError;
+  std::set<void*> records;  // that are handed out
 };
 
 EngineState& engineState() {
@@ -29,10 +34,14 @@ EngineState& engineState() {
   return state;
 }
 
-void setLastError(std::string error) {
+void setLastError(const char* error) noexcept {
   EngineState& state = engineState();
   const std::lock_guard lock(state.mutex);
-  state.lastError = std::move(error);
+  try {
+    state.lastError = error;
+  } catch (const std::bad_alloc&) {
+    state.lastError = "out of memory";  // so short that it needs none
+  }
 }
 
 bool namesFile(const std::string& name) {
@@ -46,17 +55,20 @@ bool exists(const std::string& file) {
   return std::filesystem::exists(file, ignored);
 }
 
-bool isPlain(const std::string& name) {
+bool isPlain(std::string_view name) {
   return std::none_of(name.begin(), name.end(), [](unsigned char c) { return c < 0x20 || c == 0x7f; });
 }
 
-/// The names of a folder's materials that a line of text can hold; none where the folder cannot be read.
+/// The names of a folder's materials that a line of text can hold; none where the folder cannot be read. (The standard
+/// library's directory_iterator ends the program where memory fails.)
 std::set<std::string> materialsIn(const std::string& folder) {
   std::set<std::string> names;
-  std::error_code error;
-  for (std::filesystem::directory_iterator file(folder, error), end; !error && file != end; file.increment(error)) {
-    const std::string name = file->path().stem().string();
-    if (file->path().extension() == kSuffix && isPlain(name)) names.insert(name);
+  const std::unique_ptr<DIR, int (*)(DIR*)> files(opendir(folder.c_str()), closedir);
+  while (const dirent* const file = files == nullptr ? nullptr : readdir(files.get())) {
+    std::string_view name = file->d_name;
+    if (name.size() <= kSuffix.size() || !name.ends_with(kSuffix)) continue;
+    name.remove_suffix(kSuffix.size());
+    if (isPlain(name)) names.emplace(name);
   }
   return names;
 }
@@ -118,8 +130,32 @@ std::unique_ptr<MaterialRecord> loadMaterial(const std::string& name) {
   }
 }
 
+/// Null for a material of another engine.
 MaterialRecord* recordOf(ZebMaterial* material) {
-  return material == nullptr ? nullptr : static_cast<MaterialRecord*>(material->pEngine);
+  EngineState& state = engineState();
+  const std::lock_guard lock(state.mutex);
+  const bool isOwn = material != nullptr && state.records.contains(material->pEngine);
+  return isOwn ? static_cast<MaterialRecord*>(material->pEngine) : nullptr;
+}
+
+ZebMaterial* handOut(std::unique_ptr<MaterialRecord> record) {
+  EngineState& state = engineState();
+  const std::lock_guard lock(state.mutex);
+  state.records.insert(record.get());
+  return &record.release()->material;
+}
+
+void takeBack(MaterialRecord* record) {
+  EngineState& state = engineState();
+  const std::lock_guard lock(state.mutex);
+  state.records.erase(record);
+  delete record;
+}
+
+/// What the host's engine does with a material that this one has not made; null where there is none.
+template <class Function>
+Function* hostFunction(ZebMaterial* material, const char* symbol, const void* caller) {
+  return recordOf(material) == nullptr ? hostDefinition<Function>(symbol, caller) : nullptr;
 }
 
 }  // namespace
@@ -133,7 +169,7 @@ void setMaterialFolders(std::vector<std::string> folders) {
 std::vector<std::string> materialFolders() {
   EngineState& state = engineState();
   const std::lock_guard lock(state.mutex);
-  return state.folders;
+  return state.folders.value_or(std::vector<std::string>{"."});
 }
 
 std::string lastMaterialError() {
@@ -145,12 +181,16 @@ std::string lastMaterialError() {
 }  // namespace zeb
 
 ZebMaterial* ZebGetMaterial(const std::string& name) {
+  if (auto* const get =
+          zeb::hostDefinition<decltype(ZebGetMaterial)>(zeb::symbol::kGetMaterial, __builtin_return_address(0))) {
+    return get(name);
+  }
   try {
     auto record = zeb::loadMaterial(name);
     zeb::setLastError("");
-    return &record.release()->material;
+    return zeb::handOut(std::move(record));
   } catch (const std::bad_alloc&) {
-    zeb::setLastError("material '" + name + "': not enough memory");
+    zeb::setLastError("out of memory");
   } catch (const std::exception& error) {
     zeb::setLastError(error.what());
   }
@@ -158,6 +198,10 @@ ZebMaterial* ZebGetMaterial(const std::string& name) {
 }
 
 int ZebGetMTCInfo(ZebMaterial* material, int& unused, int& count) {
+  if (auto* const get =
+          zeb::hostFunction<decltype(ZebGetMTCInfo)>(material, zeb::symbol::kGetMTCInfo, __builtin_return_address(0))) {
+    return get(material, unused, count);
+  }
   const zeb::MaterialRecord* const record = zeb::recordOf(material);
   unused = 0;
   count = record == nullptr ? 0 : static_cast<int>(record->testCurves.size());
@@ -165,9 +209,19 @@ int ZebGetMTCInfo(ZebMaterial* material, int& unused, int& count) {
 }
 
 const ZEB_MTC* ZebGetMTCData(ZebMaterial* material, int index) {
+  if (auto* const get =
+          zeb::hostFunction<decltype(ZebGetMTCData)>(material, zeb::symbol::kGetMTCData, __builtin_return_address(0))) {
+    return get(material, index);
+  }
   const zeb::MaterialRecord* const record = zeb::recordOf(material);
   if (record == nullptr || index < 0 || static_cast<std::size_t>(index) >= record->testCurves.size()) return nullptr;
   return &record->testCurves[static_cast<std::size_t>(index)].record;
 }
 
-void ZebReleaseMaterial(ZebMaterial* material) { delete zeb::recordOf(material); }
+void ZebReleaseMaterial(ZebMaterial* material) {
+  if (auto* const release = zeb::hostFunction<decltype(ZebReleaseMaterial)>(material, zeb::symbol::kReleaseMaterial,
+                                                                            __builtin_return_address(0))) {
+    return release(material);
+  }
+  zeb::takeBack(zeb::recordOf(material));
+}

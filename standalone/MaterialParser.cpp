@@ -5,7 +5,6 @@
 #include <initializer_list>
 #include <limits>
 #include <nlohmann/json.hpp>
-#include <set>
 
 #include "standalone/MaterialEngine.h"
 #include "standalone/MaterialRecord.hpp"
@@ -16,7 +15,7 @@ namespace {
 using Json = nlohmann::json;
 
 constexpr std::size_t kLargestList = 1000000;
-constexpr int kDeepestNesting = 16;
+constexpr std::size_t kDeepestNesting = 16;
 
 /// A value together with where it stands, for example `tables[2].values[0]`.
 class Node {
@@ -191,40 +190,88 @@ std::string plainMessage(const std::string& message) {
   return plain;
 }
 
-/// Refuses, while a text is parsed, what the JSON library takes: any depth, and the last of two values of one name.
-class ParseGuard {
+/// A tree that is taken down without an allocation: the JSON library's own destructor makes one for every value that
+/// holds others, and where memory fails there it ends the program.
+struct Document {
+  Document() = default;
+  Document(const Document&) = delete;
+  Document& operator=(const Document&) = delete;
+  ~Document() { clear(root); }
+
+  static void clear(Json& value) {
+    if (!value.is_structured()) return;
+    for (Json& inner : value) clear(inner);
+    value.clear();
+  }
+
+  Json root;
+};
+
+/// Builds the tree from a text. Refuses what the JSON library takes: any depth, and the last of two values of one name.
+class Builder final : public nlohmann::json_sax<Json> {
  public:
-  void see(int depth, Json::parse_event_t event, const Json& parsed) {
-    if (depth > kDeepestNesting) throw MaterialFileError("is nested too deeply");
-    if (event == Json::parse_event_t::object_start) names_.emplace_back();
-    if (event == Json::parse_event_t::object_end) names_.pop_back();
-    if (event != Json::parse_event_t::key) return;
-    const auto& name = parsed.get_ref<const std::string&>();
-    if (!names_.back().insert(name).second) throw MaterialFileError("has the name " + Node::quoted(name) + " twice");
+  explicit Builder(Json& root) : member_(&root) {}
+
+  bool null() override { return put(nullptr); }
+  bool boolean(bool value) override { return put(value); }
+  bool number_integer(number_integer_t value) override { return put(value); }
+  bool number_unsigned(number_unsigned_t value) override { return put(value); }
+  bool number_float(number_float_t value, const string_t& /*text*/) override { return put(value); }
+  bool string(string_t& value) override { return put(std::move(value)); }
+  bool binary(binary_t& /*value*/) override { return false; }  // no text holds any
+  bool start_object(std::size_t /*size*/) override { return open(Json::value_t::object); }
+  bool end_object() override { return close(); }
+  bool start_array(std::size_t /*size*/) override { return open(Json::value_t::array); }
+  bool end_array() override { return close(); }
+
+  bool key(string_t& name) override {
+    checkDepth();
+    if (open_.back()->contains(name)) throw MaterialFileError("has the name " + Node::quoted(name) + " twice");
+    member_ = &(*open_.back())[name];
+    return true;
+  }
+
+  bool parse_error(std::size_t /*position*/, const std::string& /*token*/, const Json::exception& error) override {
+    throw MaterialFileError(plainMessage(error.what()));
   }
 
  private:
-  std::vector<std::set<std::string>> names_;  // of every open object
-};
-
-Json parseJson(const std::string& text) {
-  ParseGuard guard;
-  const auto check = [&guard](int depth, Json::parse_event_t event, const Json& parsed) {
-    guard.see(depth, event, parsed);
-    return true;
-  };
-  try {
-    return Json::parse(text, check);
-  } catch (const Json::exception& error) {
-    throw MaterialFileError(plainMessage(error.what()));
+  void checkDepth() const {
+    if (open_.size() > kDeepestNesting) throw MaterialFileError("is nested too deeply");
   }
-}
+
+  Json& place() {
+    checkDepth();
+    return !open_.empty() && open_.back()->is_array() ? open_.back()->emplace_back() : *member_;
+  }
+
+  bool put(Json value) {
+    place() = std::move(value);
+    return true;
+  }
+
+  bool open(Json::value_t type) {
+    open_.push_back(&place());
+    *open_.back() = Json(type);
+    return true;
+  }
+
+  bool close() {
+    open_.pop_back();
+    return true;
+  }
+
+  Json* member_;  // the value of the last name, or the root
+  std::vector<Json*> open_;
+};
 
 }  // namespace
 
 void parseMaterial(const std::string& json, MaterialRecord& record) {
-  const Json document = parseJson(json);
-  const Node root(document, "");
+  Document document;
+  Builder builder(document.root);
+  Json::sax_parse(json, &builder);
+  const Node root(document.root, "");
   root.checkObject({"$schema", "comment", "header", "texts", "tables", "model", "coefficients", "last", "testCurves"});
   ZebMaterial& material = record.material;
   readIntegers(root.member("header"), std::size(material.iHeader), material.iHeader);

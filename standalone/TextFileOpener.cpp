@@ -8,6 +8,7 @@
 #include <typeinfo>
 
 #include "platform/ZEB3DTool.h"
+#include "standalone/HostDefinition.hpp"
 
 namespace zeb {
 namespace {
@@ -128,7 +129,11 @@ void useClassicLocale(std::ifstream& stream) {
 }  // namespace
 }  // namespace zeb
 
-void CZEBFileIO::ZEBOpenFile(std::ifstream& stream, const char* fileName, ZEBOpenMode mode, int, int) {
+void CZEBFileIO::ZEBOpenFile(std::ifstream& stream, const char* fileName, ZEBOpenMode mode, int first, int second) {
+  using Opener = void(CZEBFileIO*, std::ifstream&, const char*, ZEBOpenMode, int, int);
+  if (auto* const open = zeb::hostDefinition<Opener>(zeb::symbol::kOpenFile, __builtin_return_address(0))) {
+    return open(this, stream, fileName, mode, first, second);
+  }
   if (stream.is_open()) stream.close();
   if (zeb::TextModeBuffer* const used = zeb::ownedBufferOf(stream)) used->forget();
   if (fileName == nullptr || mode != kZEBOpenRead) {

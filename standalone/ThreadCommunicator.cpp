@@ -271,12 +271,20 @@ void ThreadTeam::run(const std::function<void(int rank, CZEBCom& com)>& work) {
   };
   std::vector<std::thread> threads;
   threads.reserve(static_cast<std::size_t>(size()));
+  const auto start = [&](int id) {
+    try {
+      threads.emplace_back(runRank, id);
+    } catch (const std::system_error& error) {
+      const std::string rank = "rank " + std::to_string(id) + " of " + std::to_string(size());
+      throw std::system_error(error.code(), rank + " cannot be started");
+    }
+  };
   try {
-    for (int id = 1; id < size(); ++id) threads.emplace_back(runRank, id);
-  } catch (const std::system_error&) {
+    for (int id = 1; id < size(); ++id) start(id);
+    runRank(0);
+  } catch (...) {
     meeting_->poison(std::current_exception());
   }
-  runRank(0);
   for (std::thread& thread : threads) thread.join();
   meeting_->rethrowFirstError();
 }

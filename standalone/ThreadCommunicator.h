@@ -24,9 +24,9 @@ class ThreadTeam {
   CZEBCom& rank(int index);
 
   /// Calls `work` once per rank, each on a thread of its own (rank 0 on the calling one), and waits for all. If one
-  /// throws, the others' collective calls throw as well, and the first exception is thrown again here. Ranks that
-  /// end with different numbers of calls, or meet in different calls, give a std::runtime_error. May be called again
-  /// afterwards, whatever happened.
+  /// throws, or its thread cannot be started, the others' collective calls throw as well, and the first exception is
+  /// thrown again here. Ranks that end with different numbers of calls, or meet in different calls, give a
+  /// std::runtime_error. May be called again afterwards, whatever happened.
   void run(const std::function<void(int rank, CZEBCom& com)>& work);
 
  private:

@@ -30,13 +30,11 @@ Json asResult(const Diagnostic& found, std::string_view severity) {
   if (found.place.line > 0) {
     location["region"] = {{"startLine", found.place.line}, {"startColumn", found.place.column}};
   }
-  Json result;
-  result["ruleId"] = found.rule->id;
-  result["ruleIndex"] = indexOf(*found.rule);
-  result["level"] = severity;
-  result["message"] = {{"text", found.message + ". Hint: " + found.hint + "."}};
-  result["locations"] = Json::array({Json{{"physicalLocation", std::move(location)}}});
-  return result;
+  return {{"ruleId", found.rule->id},
+          {"ruleIndex", indexOf(*found.rule)},
+          {"level", severity},
+          {"message", {{"text", found.message + ". Hint: " + found.hint + "."}}},
+          {"locations", Json::array({Json{{"physicalLocation", std::move(location)}}})}};
 }
 
 }  // namespace
@@ -88,15 +86,12 @@ Json diagnosticsAsSarif(std::span<const Diagnostic> all, std::string_view severi
   }
   Json results = Json::array();
   for (const Diagnostic& found : all) results.push_back(asResult(found, severity));
-  Json run;
-  run["tool"]["driver"] = {{"name", "compparm"}, {"version", ZEB_VERSION}, {"rules", std::move(rules)}};
-  run["columnKind"] = "unicodeCodePoints";
-  run["results"] = std::move(results);
-  Json log;
-  log["$schema"] = "https://json.schemastore.org/sarif-2.1.0.json";
-  log["version"] = "2.1.0";
-  log["runs"] = Json::array({std::move(run)});
-  return log;
+  Json driver = {{"name", "compparm"}, {"version", ZEB_VERSION}, {"rules", std::move(rules)}};
+  Json run = {
+      {"tool", {{"driver", std::move(driver)}}}, {"columnKind", "unicodeCodePoints"}, {"results", std::move(results)}};
+  return {{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
+          {"version", "2.1.0"},
+          {"runs", Json::array({std::move(run)})}};
 }
 
 }  // namespace zeb

@@ -1,6 +1,7 @@
 #include "inspect/set/OutputCapture.hpp"
 
 #include <iostream>
+#include <new>
 
 namespace zeb {
 
@@ -8,10 +9,19 @@ OutputCapture::OutputCapture() : m_before(std::cout.rdbuf(&m_buffer)) {}
 
 OutputCapture::~OutputCapture() { std::cout.rdbuf(m_before); }
 
+const std::string& OutputCapture::text() const {
+  if (m_buffer.isCut) throw std::bad_alloc();
+  return m_buffer.text;
+}
+
 std::streamsize OutputCapture::Buffer::xsputn(const char* data, std::streamsize count) {
   if (std::this_thread::get_id() == owner) {
     const std::lock_guard lock(mutex);
-    text.append(data, static_cast<std::size_t>(count));
+    try {
+      text.append(data, static_cast<std::size_t>(count));
+    } catch (const std::bad_alloc&) {
+      isCut = true;
+    }
   }
   return count;
 }

@@ -17,7 +17,8 @@ class OutputCapture {
   OutputCapture& operator=(const OutputCapture&) = delete;
   ~OutputCapture();
 
-  const std::string& text() const { return m_buffer.text; }
+  /// Throws std::bad_alloc where memory failed for some of it: a stream keeps to itself what its buffer throws.
+  const std::string& text() const;
 
  private:
   struct Buffer final : std::streambuf {
@@ -27,6 +28,7 @@ class OutputCapture {
     std::mutex mutex;
     std::thread::id owner = std::this_thread::get_id();
     std::string text;
+    bool isCut = false;
   };
 
   Buffer m_buffer;

@@ -90,6 +90,16 @@ void ZebDestroyMpiCommunicator(CZEBCom* communicator) {
   if (--zeb::liveCommunicators == 0 && zeb::initialisedHere) zeb::finaliseMpi();
 }
 
+void ZebMpiAbort(int exitCode) {
+  int finalised = 0;
+  MPI_Finalized(&finalised);
+  if (finalised == 0) {
+    zeb::initialiseMpi();
+    MPI_Abort(MPI_COMM_WORLD, exitCode);
+  }
+  std::_Exit(exitCode);
+}
+
 int ZebMpiAllAgree(int localOk) {
   const int mine = localOk != 0 ? 1 : 0;
   int all = 0;

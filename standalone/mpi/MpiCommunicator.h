@@ -32,7 +32,7 @@ class MpiCommunicator final : public CZEBCom {
 }  // namespace zeb
 
 // Plain C names, so that a program can load this library only when it runs under MPI (dlsym with the names below).
-// All functions but Destroy are collective over MPI_COMM_WORLD.
+// All functions but Destroy and Abort are collective over MPI_COMM_WORLD.
 extern "C" {
 
 /// A communicator over MPI_COMM_WORLD. Initialises MPI if nobody has, with ranks that yield their core while they wait
@@ -41,6 +41,10 @@ CZEBCom* ZebCreateMpiCommunicator();
 
 /// Ends a communicator made above (null is ignored). The last one finalises MPI if the first one initialised it.
 void ZebDestroyMpiCommunicator(CZEBCom* communicator);
+
+/// Ends all ranks with this exit code, also those that wait in a collective call, or for MPI to be initialised on this
+/// rank. Allocates nothing itself. Where MPI is finalised nobody waits, and only this rank ends.
+[[noreturn]] void ZebMpiAbort(int exitCode);
 
 /// 1 on every rank if every rank passes a value other than 0, else 0.
 int ZebMpiAllAgree(int localOk);

@@ -1,5 +1,6 @@
 // Ranks in threads: values arrive, ranks wait for each other, and no mistake of one rank leaves the others waiting.
 #include <gtest/gtest.h>
+#include <pthread.h>
 
 #include <atomic>
 #include <chrono>
@@ -139,6 +140,39 @@ TEST(ThreadTeam, FreesRanksThatWaitForABroadcast) {
   } catch (int thrown) {
     EXPECT_EQ(thrown, 42);
   }
+}
+
+// Threads with stacks larger than the address space are refused as those are for which there is no memory.
+class StacksOfThreads {
+ public:
+  explicit StacksOfThreads(std::size_t size) {
+    pthread_getattr_default_np(&m_before);
+    pthread_attr_t attributes = m_before;
+    pthread_attr_setstacksize(&attributes, size);
+    pthread_setattr_default_np(&attributes);
+  }
+  ~StacksOfThreads() { pthread_setattr_default_np(&m_before); }
+  StacksOfThreads(const StacksOfThreads&) = delete;
+  StacksOfThreads& operator=(const StacksOfThreads&) = delete;
+
+ private:
+  pthread_attr_t m_before{};
+};
+
+TEST(ThreadTeam, TellsWhichRankTheSystemRefuses) {
+  ThreadTeam team(3);
+  std::atomic<int> calls{0};
+  const auto work = [&calls](int, CZEBCom& com) {
+    ++calls;
+    com.Barrier();
+  };
+  {
+    const StacksOfThreads stacks(std::size_t{1} << 48);
+    EXPECT_EQ(errorOf(team, work), "rank 1 of 3 cannot be started: Resource temporarily unavailable");
+    EXPECT_EQ(calls.load(), 0);
+  }
+  EXPECT_EQ(errorOf(team, work), "");
+  EXPECT_EQ(calls.load(), 3);
 }
 
 TEST(ThreadTeam, CanBeUsedAgainAfterAFailure) {

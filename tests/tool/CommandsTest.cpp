@@ -73,11 +73,13 @@ void PrintTo(const Refusal& refusal, std::ostream* out) { *out << refusal.name; 
 
 TEST(RanksOption, IsRefusedWhereMpirunHasStartedRanks) {
   const TemporaryFile file(kOutlet);
-  ASSERT_EQ(setenv("OMPI_COMM_WORLD_SIZE", "2", 1), 0);
-  const ToolRun run = runTool({"show", file.path(), "--ranks", "8"});
-  unsetenv("OMPI_COMM_WORLD_SIZE");
-  EXPECT_EQ(run.exitCode, 2);
-  EXPECT_THAT(run.err, HasSubstr("--ranks: mpirun has started ranks of its own"));
+  for (const char* variable : {"OMPI_COMM_WORLD_SIZE", "PMI_SIZE", "MPI_LOCALNRANKS", "PMIX_RANK"}) {
+    ASSERT_EQ(setenv(variable, "2", 1), 0);
+    const ToolRun run = runTool({"show", file.path(), "--ranks", "8"});
+    unsetenv(variable);
+    EXPECT_EQ(run.exitCode, 2) << variable;
+    EXPECT_THAT(run.err, HasSubstr("--ranks: mpirun has started ranks of its own")) << variable;
+  }
 }
 
 const std::string kCodes = "or a code 0 to " + std::to_string(zeb::moldingTypes().size() - 1);
@@ -120,6 +122,7 @@ INSTANTIATE_TEST_SUITE_P(
                 kCodes.c_str()},
         Refusal{"MoldingCodeNegative", {"show", "FILE", "--molding=-1"}, kCodes.c_str()},
         Refusal{"NoRanks", {"show", "FILE", "--ranks", "0"}, "--ranks"},
+        Refusal{"RanksOfBothKinds", {"show", "FILE", "--ranks", "8", "--mpi"}, "--ranks excludes --mpi"},
         Refusal{"UnknownKind", {"show", "FILE", "--as", "nope"}, "--as"},
         Refusal{"RawWithFormat", {"show", "FILE", "--raw", "--format", "json"}, "--raw excludes --format"},
         Refusal{"CheckMissingFile", {"check", "no-such-file.cmp"}, "no-such-file.cmp: no such file"},
@@ -145,6 +148,19 @@ TEST(Tool, RefusesAFileThatMayNotBeRead) {
     EXPECT_EQ(run.exitCode, 2) << arguments[0];
     EXPECT_EQ(run.err, "compparm: " + file.path() + ": Permission denied\n") << arguments[0];
     EXPECT_EQ(run.out, "") << arguments[0];
+  }
+}
+
+TEST(Tool, TellsOfAFullDeviceWhateverItPrints) {
+  const TemporaryFile file(kOutlet);
+  const std::vector<std::string> commands[] = {
+      {"--help"},   {"--version"},        {"show", "--help"},           {"manual"},           {"complete", ""},
+      {"template"}, {"check", "--rules"}, {"list", "--format", "json"}, {"show", file.path()}};
+  for (std::vector<std::string> words : commands) {
+    words.insert(words.begin(), {"-c", "exec \"$0\" \"$@\" > /dev/full", ZEB_COMPPARM});
+    const ToolRun run = zebtest::runProgram("/bin/sh", words);
+    EXPECT_EQ(run.exitCode, 2) << words[3];
+    EXPECT_EQ(run.err, "compparm: cannot write to standard output\n") << words[3];
   }
 }
 

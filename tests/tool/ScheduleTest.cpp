@@ -60,6 +60,11 @@ TEST(Schedule, MergesTheMomentsOfTheFileWithTheGrid) {
   EXPECT_EQ(document.at("withoutEntry"), 0);
 }
 
+TEST(Schedule, JsonHoldsAMomentThatIsNoNumberAsText) {
+  const json document = json::parse(schedule(settings({"1.0", "inf"}), {"--format", "json"}).out);
+  EXPECT_EQ(document.at("cmxMoments"), json({1.0, "inf"}));
+}
+
 TEST(Schedule, MarksAMomentThatEqualsTheGridsAsMerged) {
   const json document = json::parse(schedule(settings({"2.5"}), {"--format", "json"}).out);
   const std::vector<Moment> expected{{2.5, -1, true}, {5.0, 0, false}, {7.5, 0, false}};

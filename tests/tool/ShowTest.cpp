@@ -87,6 +87,14 @@ TEST(Show, JsonHoldsValueDefaultAndOrigin) {
   EXPECT_EQ(repeated.at("origin").at("line"), 5);
 }
 
+TEST(Show, JsonHoldsAsTextsOnlyTheElementsThatAreNoNumbers) {
+  const TemporaryFile file(
+      "<FILL_OUTPUT_TIMES>\nValueNoFillOutputTime = 4\n1 = 0.5\n2 = inf\n3 = nan\n4 = 2\n</FILL_OUTPUT_TIMES>\n",
+      ".cmx");
+  const auto members = membersOf(parsed(runTool({"show", file.path(), "--format", "json"})));
+  EXPECT_EQ(members.at("FILL_OUTPUT_TIMES.m_pOutTimeStep").at("value"), json({0.5, "inf", "nan", 2}));
+}
+
 TEST(Show, ChangedHoldsExactlyWhatDiffers) {
   const TemporaryFile file(kSmallFile);
   const std::map<std::string, double> expected{

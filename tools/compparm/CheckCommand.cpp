@@ -11,6 +11,7 @@
 #include "inspect/check/Manual.hpp"
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
+#include "tools/compparm/Ranks.hpp"
 #include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
@@ -121,7 +122,7 @@ void addCheck(CLI::App& app, int& exitCode) {
       ->type_name("FORMAT");
   command->add_flag("--rules", arguments->manual, "Print the manual of all rules, with examples");
   command->add_flag("--error-on-warning", arguments->errors, "Report findings as errors");
-  command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
+  runOnce(*command, exitCode, [arguments] { return run(*arguments); });
 }
 
 }  // namespace compparm

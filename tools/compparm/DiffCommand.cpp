@@ -11,6 +11,7 @@
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"
 #include "tools/compparm/JsonText.hpp"
+#include "tools/compparm/Ranks.hpp"
 #include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
@@ -132,7 +133,7 @@ void addDiff(CLI::App& app, int& exitCode) {
                                 {"diff part.cmp --molding IM --against-molding RTM", "one file, two molding types"},
                                 {"diff part.cmp --against-material 1", "one file, two material types"}}) +
                   "\nExit codes: 0 the same, 1 different, 2 error.");
-  command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
+  runOnce(*command, exitCode, [arguments] { return run(*arguments); });
 }
 
 }  // namespace compparm

@@ -12,6 +12,7 @@
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"
 #include "tools/compparm/JsonText.hpp"
+#include "tools/compparm/Ranks.hpp"
 #include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
@@ -383,7 +384,7 @@ void addExplain(CLI::App& app, int& exitCode) {
                                 {"explain part.cmp General.VentMode --format json", "for scripts"},
                                 {"explain part.cmx Level1", "of the analysis settings"},
                                 {"explain part.cmp ddt --as std", "as the standard solver reads it"}}));
-  command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
+  runOnce(*command, exitCode, [arguments] { return run(*arguments); });
 }
 
 }  // namespace compparm

@@ -1,24 +1,17 @@
 #include "tools/compparm/HelpText.hpp"
 
 #include <algorithm>
-#include <sstream>
 
 #include "frame/MoldingTypes.hpp"
 #include "inspect/catalogue/Catalogue.hpp"
 #include "inspect/catalogue/NearestNames.hpp"
 #include "inspect/catalogue/Template.hpp"
 #include "inspect/check/Rules.hpp"
+#include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
 
 namespace {
-
-std::vector<std::string> split(std::string_view text, char separator) {
-  std::vector<std::string> parts;
-  std::istringstream stream{std::string(text)};
-  for (std::string part; std::getline(stream, part, separator);) parts.push_back(part);
-  return parts;
-}
 
 bool isOption(std::string_view word) { return word.size() > 1 && word.starts_with('-'); }
 

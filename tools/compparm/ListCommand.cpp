@@ -9,6 +9,7 @@
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"
 #include "tools/compparm/JsonText.hpp"
+#include "tools/compparm/Ranks.hpp"
 #include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
@@ -101,7 +102,7 @@ void addList(CLI::App& app, int& exitCode) {
                                 {"list STD head", "the head of the standard solver"},
                                 {"list --format markdown", "the manual of all keys"}}) +
                   "\nExit codes: 0, 1 when nothing is found.");
-  command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
+  runOnce(*command, exitCode, [arguments] { return run(*arguments); });
 }
 
 }  // namespace compparm

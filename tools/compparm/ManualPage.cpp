@@ -1,6 +1,4 @@
 // The manual page, written from the same descriptions as --help.
-#include <sstream>
-
 #include "tools/compparm/HelpText.hpp"
 
 namespace compparm {

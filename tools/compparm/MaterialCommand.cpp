@@ -3,7 +3,6 @@
 #include <iostream>
 #include <memory>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "inspect/explain/Settings.hpp"
 #include "inspect/set/OutputCapture.hpp"
@@ -236,12 +235,6 @@ int show(const MaterialArguments& arguments, const MpiRun* mpi) {
   return loaded.ranks.same() ? kClean : kFindings;
 }
 
-int run(const MaterialArguments& arguments) {
-  if (!MpiRun::isPresent()) return show(arguments, nullptr);
-  const MpiRun mpi;
-  return mpi.error().empty() ? show(arguments, &mpi) : fail(mpi.error());
-}
-
 }  // namespace
 
 void addMaterial(CLI::App& app, int& exitCode) {
@@ -261,9 +254,9 @@ void addMaterial(CLI::App& app, int& exitCode) {
           "--format", [arguments](const std::string& format) { arguments->json = format == "json"; }, "text or json")
       ->check(CLI::IsMember({"text", "json"}))
       ->type_name("FORMAT");
-  command->callback([arguments, &exitCode] {
+  runOnRanks(*command, exitCode, [arguments](const MpiRun* mpi) {
     if (arguments->folders.empty()) arguments->folders = {"."};
-    exitCode = run(*arguments);
+    return show(*arguments, mpi);
   });
 }
 

@@ -25,18 +25,22 @@ void addRanks(CLI::App& command, int& ranks, const char* about);
 /// Runs the task on `ranks` in-process ranks, rank 0 on the calling thread.
 RankComparison compareThreads(int ranks, const RankTask& task);
 
-/// The real ranks of an mpirun, loaded only when there is one.
+/// The real ranks of an MPI job; the library is loaded only when there is one.
 class MpiRun {
  public:
-  MpiRun();
+  MpiRun() = default;
   MpiRun(const MpiRun&) = delete;
   MpiRun& operator=(const MpiRun&) = delete;
-  ~MpiRun();
 
-  /// Whether this process was started by mpirun.
+  /// Whether an MPI launcher has started this process, as its variables or --mpi tell.
   static bool isPresent();
-  /// Empty, or why the ranks cannot be used.
-  const std::string& error() const { return m_error; }
+  /// Joins the others. Empty, or why the ranks cannot be used.
+  std::string join();
+  /// Leaves them when everything is done. They wait for each other.
+  void leave();
+  /// Ends the process, of a job all ranks: the others would wait for this one, joined or not, for ever. Allocates
+  /// nothing.
+  [[noreturn]] static void abort(int exitCode);
   int rank() const;
   CZEBCom* communicator() const { return m_com; }
   /// Collective. The result is whole on rank 0; elsewhere only whether all ranks are the same.
@@ -45,7 +49,12 @@ class MpiRun {
  private:
   void* m_library = nullptr;
   CZEBCom* m_com = nullptr;
-  std::string m_error;
 };
+
+/// Makes `run` what the command does: on every rank of an MPI job, of which rank 0 tells the result, or in one process
+/// with a null. Call it when the command has its options; it adds --mpi.
+void runOnRanks(CLI::App& command, int& exitCode, std::function<int(const MpiRun* mpi)> run);
+/// The same for what rank 0 does alone.
+void runOnce(CLI::App& command, int& exitCode, std::function<int()> run);
 
 }  // namespace compparm

@@ -4,7 +4,6 @@
 #include <iostream>
 #include <memory>
 #include <optional>
-#include <sstream>
 
 #include "cmx/COutput_F2C_MultiTiming.h"
 #include "cmx/CZEBCMX_FILL_OUTPUT_TIMES.h"
@@ -15,6 +14,7 @@
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"
 #include "tools/compparm/JsonText.hpp"
+#include "tools/compparm/Ranks.hpp"
 #include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
@@ -158,13 +158,17 @@ void printJson(const ScheduleArguments& arguments, const Schedule& schedule) {
                        {"from", entry.source == 0 ? "grid" : "CMX"},
                        {"merged", entry.merged}});
   }
+  Json moments = Json::array();
+  for (const double moment : schedule.fileMoments) {
+    moments.push_back(std::isfinite(moment) ? Json(moment) : jsonOf(zeb::exact(moment)));
+  }
   Json document = {{"file", arguments.file},
                    {"type", schedule.type},
                    {"fillTime", arguments.fillTime},
                    {"span", schedule.span},
                    {"split", arguments.split},
                    {"unit", unit(schedule.type)},
-                   {"cmxMoments", schedule.fileMoments},
+                   {"cmxMoments", std::move(moments)},
                    {"moments", std::move(entries)},
                    {"withoutEntry", withoutEntry(schedule)}};
   if (!schedule.cut.empty()) document["cut"] = schedule.cut;
@@ -180,8 +184,7 @@ void printHeading(const ScheduleArguments& arguments, const Schedule& schedule) 
 }
 
 void printEnd(const Schedule& schedule) {
-  std::istringstream lines(schedule.messages);
-  for (std::string line; std::getline(lines, line);) std::cout << line << '\n';
+  for (const std::string& line : split(schedule.messages, '\n')) std::cout << line << '\n';
   if (!schedule.cut.empty()) std::cout << coloured(Colour::kYellow, "The list is cut short: ") << schedule.cut << ".\n";
   if (const std::size_t count = withoutEntry(schedule); count > 0) {
     std::cout << count
@@ -282,7 +285,7 @@ void addSchedule(CLI::App& app, int& exitCode) {
                                 {"schedule part.cmx --fill-time 1.2 --split 10 --type 2", "moments in percent"}}) +
                   "\n\"CMX n\" is the n-th entry that stems from the file. "
                   "Exit codes: 0, 1 when the file's list is cut short, 2 error.");
-  command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
+  runOnce(*command, exitCode, [arguments] { return run(*arguments); });
 }
 
 }  // namespace compparm

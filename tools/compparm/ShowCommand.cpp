@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
-#include <sstream>
 
 #include "inspect/explain/Origins.hpp"
 #include "inspect/explain/Settings.hpp"
@@ -121,8 +120,7 @@ void printText(const ShowArguments& arguments, const Shown& shown) {
   }
   if (!shown.messages.empty()) {
     std::cout << coloured(Colour::kBold, "Printed while reading") << '\n';
-    std::istringstream lines(shown.messages);
-    for (std::string line; std::getline(lines, line);) std::cout << "  " << printable(line) << '\n';
+    for (const std::string& line : split(shown.messages, '\n')) std::cout << "  " << printable(line) << '\n';
     std::cout << '\n';
   }
   if (!shown.hasSections) {
@@ -199,8 +197,7 @@ Reading read(const ShowArguments& arguments, zeb::FileKind kind, const MpiRun* m
 // The standard solver's reader echoes every line that it shares, whatever the print level.
 std::string withoutLineEcho(const std::string& text) {
   std::string kept;
-  std::istringstream lines(text);
-  for (std::string line; std::getline(lines, line);) {
+  for (const std::string& line : split(text, '\n')) {
     if (!line.starts_with(" - CPUID:")) kept += line + '\n';
   }
   return kept;
@@ -251,20 +248,17 @@ int check(const ShowArguments& arguments, zeb::FileKind& kind) {
               (kind == zeb::FileKind::kCmx ? "a CMX file" : "the standard solver") + ", so --raw cannot be had");
 }
 
-int run(const ShowArguments& arguments) {
+int run(const ShowArguments& arguments, const MpiRun* mpi) {
   zeb::FileKind kind = zeb::FileKind::kCmp;
-  if (!MpiRun::isPresent()) {
-    const int exitCode = check(arguments, kind);
-    return exitCode == kClean ? show(arguments, kind, nullptr) : exitCode;
-  }
-  const MpiRun mpi;
-  if (!mpi.error().empty()) return fail(mpi.error());
   // Rank 0 alone looks at the file: it is the one that reads it.
-  int exitCode = mpi.rank() == 0 ? check(arguments, kind) : kClean;
-  mpi.communicator()->Broadi(exitCode);
-  int shared = static_cast<int>(kind);
-  mpi.communicator()->Broadi(shared);
-  return exitCode == kClean ? show(arguments, static_cast<zeb::FileKind>(shared), &mpi) : exitCode;
+  int exitCode = mpi == nullptr || mpi->rank() == 0 ? check(arguments, kind) : kClean;
+  if (mpi != nullptr) {
+    mpi->communicator()->Broadi(exitCode);
+    int shared = static_cast<int>(kind);
+    mpi->communicator()->Broadi(shared);
+    kind = static_cast<zeb::FileKind>(shared);
+  }
+  return exitCode == kClean ? show(arguments, kind, mpi) : exitCode;
 }
 
 }  // namespace
@@ -291,7 +285,7 @@ void addShow(CLI::App& app, int& exitCode) {
                                 {"show part.cmp --as std", "what the standard solver sees"},
                                 {"show part.cmp --ranks 8", "read on 8 ranks and compare them value by value"}}) +
                   "\nUnder mpirun the real ranks are compared. Exit codes: 0, 1 when ranks differ, 2 error.");
-  command->callback([arguments, &exitCode] { exitCode = run(*arguments); });
+  runOnRanks(*command, exitCode, [arguments](const MpiRun* mpi) { return run(*arguments, mpi); });
 }
 
 }  // namespace compparm

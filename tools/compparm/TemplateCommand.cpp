@@ -6,6 +6,7 @@
 #include "tools/compparm/AnalysisArguments.hpp"
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"
+#include "tools/compparm/Ranks.hpp"
 #include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
@@ -42,7 +43,7 @@ void addTemplate(CLI::App& app, int& exitCode) {
                                 {"template --molding RTM > part.cmp", "for resin transfer molding"},
                                 {"template --sections General Outlet", "two sections"},
                                 {"template --as cmx > part.cmx", "the analysis settings"}}));
-  command->callback([options, &exitCode] { exitCode = run(*options); });
+  runOnce(*command, exitCode, [options] { return run(*options); });
 }
 
 }  // namespace compparm

@@ -3,8 +3,9 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
-#include <iostream>
+#include <new>
 
 #include "tools/compparm/Ranks.hpp"
 
@@ -63,9 +64,26 @@ std::string printable(std::string_view text) {
   return result;
 }
 
-int fail(const std::string& text) {
-  std::cerr << "compparm: " << text << '\n';
+int fail(std::string_view text) {
+  std::fputs("compparm: ", stderr);
+  std::fwrite(text.data(), 1, text.size(), stderr);
+  std::fputc('\n', stderr);
   return kError;
+}
+
+int fail(const std::exception& error) {
+  const bool isMemory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
+  return fail(isMemory ? "not enough memory" : error.what());
+}
+
+std::vector<std::string> split(std::string_view text, char separator) {
+  std::vector<std::string> parts;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find(separator), text.size());
+    parts.emplace_back(text.substr(0, end));
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return parts;
 }
 
 std::string padded(std::string_view text, std::size_t width) {

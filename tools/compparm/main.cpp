@@ -1,10 +1,13 @@
 // compparm: see, check and compare the computation parameters of an injection-molding analysis.
-#include <cstdio>
+#include <atomic>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <new>
 
 #include "tools/compparm/Commands.hpp"
 #include "tools/compparm/HelpText.hpp"
+#include "tools/compparm/Ranks.hpp"
 #include "tools/compparm/Terminal.hpp"
 
 namespace compparm {
@@ -44,6 +47,14 @@ bool servesTheShell(const CLI::App& app, const std::vector<std::string>& words) 
   return true;
 }
 
+// Looked at in the end: streams keep to themselves what is thrown inside them, and the texts that they make are cut.
+constinit std::atomic<bool> hasMemoryFailed{false};
+
+void noteFailedMemory() {
+  hasMemoryFailed = true;
+  throw std::bad_alloc();
+}
+
 int run(int argc, char** argv) {
   CLI::App app{"Shows the computation parameters of an injection-molding analysis as the solver will use them.",
                "compparm"};
@@ -65,11 +76,31 @@ int run(int argc, char** argv) {
   try {
     if (!servesTheShell(app, words)) app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return error.get_exit_code() == 0 ? app.exit(error) : fail(problemOf(app, words, error.what()));
+    if (error.get_exit_code() != 0) return fail(problemOf(app, words, error.what()));
+    app.exit(error);  // prints the help or the version
   }
   std::cout.flush();
+  if (hasMemoryFailed) throw std::bad_alloc();
   if (!std::cout) return fail("cannot write to standard output");
   return exitCode;
+}
+
+// What no catch reaches ends here: memory that fails before main begins or in a destructor. (A JSON document's needs
+// some.)
+[[noreturn]] void tellAndEnd() noexcept {
+  try {
+    if (const auto error = std::current_exception()) std::rethrow_exception(error);
+  } catch (const std::exception& error) {
+    MpiRun::abort(fail(error));
+  } catch (...) {
+  }
+  MpiRun::abort(hasMemoryFailed ? fail(std::bad_alloc()) : fail("ended by an error that nobody expected"));
+}
+
+// Ahead of the initialisers of the command line's own objects, which allocate.
+__attribute__((constructor(101))) void prepareToTell() {
+  std::set_terminate(tellAndEnd);
+  std::set_new_handler(noteFailedMemory);
 }
 
 }  // namespace
@@ -80,6 +111,8 @@ int main(int argc, char** argv) {
   try {
     return compparm::run(argc, argv);
   } catch (const std::exception& error) {
-    return compparm::fail(error.what());
+    const int exitCode = compparm::fail(error);
+    if (compparm::MpiRun::isPresent()) compparm::MpiRun::abort(exitCode);
+    return exitCode;
   }
 }
