@@ -71,6 +71,7 @@ struct KeyFilter {
 
   // The low byte is zero: so a fourth character loaded with the window multiplies out of the hash.
   static constexpr std::uint32_t kMultiplier = 0x3779B100u;
+  static_assert((kMultiplier & 0xFFu) == 0);
 
   /// Requires that one more character may be read behind the line's last one (as in every std::string).
   Hits find(std::string_view line) const;
@@ -144,6 +145,24 @@ struct KeyFilterTables {
       }
     }
     return best;
+  }
+
+  /// Whether the scan meets a text wherever it stands in a line: its windows in the table have all distances to a place
+  /// divisible by the stride, and their chains are found by what a line holds.
+  constexpr bool findsEveryText() const {
+    std::array<unsigned, Count> distances{};  // a bit for each
+    for (const KeyFilter::Entry& entry : entries) {
+      if (isFound(entry)) distances[entry.key] |= 1u << entry.offset % kStride;
+    }
+    return std::ranges::all_of(distances, [](unsigned found) { return found == (1u << kStride) - 1; });
+  }
+
+  constexpr bool isFound(const KeyFilter::Entry& entry) const {
+    const std::string_view text = texts[entry.key];
+    if (entry.offset + kWindow > text.size() || entry.window != windowAt(text, entry.offset, kWindow)) return false;
+    std::uint8_t number = heads[hash(text, entry.offset)];
+    while (number != 0 && &entries[number - 1] != &entry) number = entries[number - 1].next;
+    return number != 0;
   }
 
   constexpr KeyFilter view() const {

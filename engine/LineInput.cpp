@@ -84,7 +84,7 @@ bool LineInput::readMore() {
 bool LineInput::makeRoom(std::size_t kept) {
   const bool stays = m_at == m_text;
   if (kept <= m_capacity / 2) {
-    std::memmove(m_text, m_at, kept);
+    if (!stays) std::memmove(m_text, m_at, kept);
     return stays;
   }
   const std::size_t capacity = 2 * m_capacity;

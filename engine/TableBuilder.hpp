@@ -237,6 +237,7 @@ template <FixedText Name, FixedText CloseName, char Open, char Close, const auto
 constexpr Section keyed() {
   static_assert(areRowsRight<Rows>());
   using Read = Reading<Rows, KeyOrder, Tags<CloseName, Open, Close>>;
+  static_assert(Read::kFilter.findsEveryText());
   Section section;
   section.name = Tags<Name, Open, Close>::kOpen.substr(1, Name.view().size());
   section.open = Tags<Name, Open, Close>::kOpen;

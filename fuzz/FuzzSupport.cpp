@@ -13,10 +13,14 @@
 
 #include "engine/Field.hpp"
 #include "platform/ZEB3DTool.h"
+#include "tests/support/MemberContent.hpp"
 
 namespace zebfuzz {
 
 namespace {
+
+using zebtest::contentOf;
+using zebtest::sameContent;
 
 class MemoryBuffer final : public std::streambuf {
  public:
@@ -61,63 +65,6 @@ class OutputBuffer final : public std::streambuf {
 OutputBuffer& outputBuffer() {
   static auto* const kBuffer = new OutputBuffer;  // std::cout may be flushed after every destructor
   return *kBuffer;
-}
-
-template <class T>
-std::string_view bytesOf(const zeb::SharedArray<T>& array) {
-  if (array.get() == nullptr) return {};
-  return {reinterpret_cast<const char*>(array.get()), array.size() * sizeof(T)};
-}
-
-template <class Value>
-std::string_view bitsOf(const void* member) {
-  return {static_cast<const char*>(member), sizeof(Value)};
-}
-
-// The content of a member as bytes; arrays without one have no data either.
-std::string_view contentOf(const zeb::Field& field, void* block) {
-  void* const member = field.locate(block);
-  switch (field.type) {
-    case zeb::FieldType::kInt:
-      return bitsOf<int>(member);
-    case zeb::FieldType::kDouble:
-      return bitsOf<double>(member);
-    case zeb::FieldType::kBool:
-      return bitsOf<bool>(member);
-    case zeb::FieldType::kText: {
-      const char* text = static_cast<const zeb::OwnedText*>(member)->get();
-      return text == nullptr ? std::string_view() : std::string_view(text, std::strlen(text) + 1);
-    }
-    case zeb::FieldType::kInts:
-      return bytesOf(*static_cast<const zeb::SharedArray<int>*>(member));
-    case zeb::FieldType::kDoubles:
-      return bytesOf(*static_cast<const zeb::SharedArray<double>*>(member));
-    case zeb::FieldType::kNone:
-      break;
-  }
-  return {};
-}
-
-// A run compares several thousand numbers: loads, not calls of memcmp.
-template <class Bits>
-bool sameBits(const void* a, const void* b) {
-  Bits first{}, second{};
-  std::memcpy(&first, a, sizeof first);
-  std::memcpy(&second, b, sizeof second);
-  return first == second;
-}
-
-bool sameContent(const zeb::Field& field, void* a, void* b) {
-  switch (field.type) {
-    case zeb::FieldType::kInt:
-      return sameBits<std::uint32_t>(field.locate(a), field.locate(b));
-    case zeb::FieldType::kDouble:
-      return sameBits<std::uint64_t>(field.locate(a), field.locate(b));
-    case zeb::FieldType::kBool:
-      return sameBits<std::uint8_t>(field.locate(a), field.locate(b));
-    default:
-      return contentOf(field, a) == contentOf(field, b);
-  }
 }
 
 bool isOwned(zeb::FieldType type) {
