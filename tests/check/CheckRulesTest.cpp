@@ -4,11 +4,13 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <set>
 #include <sstream>
 
 #include "inspect/check/Manual.hpp"
 #include "tests/check/CheckSupport.hpp"
+#include "tests/support/TemporaryFile.hpp"
 #include "tests/support/WrittenFile.hpp"
 
 namespace {
@@ -69,6 +71,19 @@ TEST(Rules, EachIsWordedAndHasAnIdentifierOfItsOwn) {
     EXPECT_EQ(zeb::ruleNamed(rule->id), rule) << rule->id;
     EXPECT_FALSE(rule->about.empty() || rule->hint.empty() || rule->why.empty()) << rule->id;
   }
+}
+
+// Neither the compiler nor the linker misses a rule without a place: it throws where it would first find something.
+TEST(Rules, EachThatIsDefinedHasAPlaceInTheManual) {
+  const std::regex definition(R"(\nconst CheckRule (k\w+)\{\s*"([^"]*))");
+  std::size_t defined = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(ZEB_TEST_DATA_DIR "/../../inspect/check")) {
+    const std::string source = zebtest::contentOf(entry.path().string());
+    for (std::sregex_iterator rule(source.begin(), source.end(), definition), end; rule != end; ++rule, ++defined) {
+      EXPECT_NE(zeb::ruleNamed((*rule)[2].str()), nullptr) << "inspect/check/Rules.cpp does not list " << (*rule)[1];
+    }
+  }
+  EXPECT_EQ(defined, zeb::checkRules().size());
 }
 
 TEST(Rules, ManualInTheRepositoryIsCurrent) { zebtest::expectCurrent("docs/rules.md", zeb::rulesMarkdown()); }

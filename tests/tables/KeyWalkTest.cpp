@@ -1,7 +1,6 @@
 // Every key of every section alone in a file: what it changes and prints, against the definition of the format.
 #include <gtest/gtest.h>
 
-#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <map>
@@ -11,12 +10,15 @@
 
 #include "frame/CZEBKNCMPCompParm.h"
 #include "inspect/set/OutputCapture.hpp"
+#include "tests/support/KeyRules.hpp"
 #include "tests/support/SetValues.hpp"
 #include "tests/support/TemporaryFile.hpp"
-#include "tests/support/Tsv.hpp"
 
 namespace {
 
+using zebtest::hasRule;
+using zebtest::numberIn;
+using zebtest::ruled;
 using zebtest::TsvRow;
 using zebtest::unquoted;
 using zebtest::Values;
@@ -32,28 +34,10 @@ std::map<std::string, SectionRows> sectionsOfTheFormat() {
   return sections;
 }
 
-bool hasRule(const TsvRow& row, const char* rule) { return row.at("rule").find(rule) != std::string::npos; }
-
 // The second output of an operation goes by its member.
 std::string nameOf(const TsvRow& row) {
   const std::string& getter = row.at("getter");
   return zeb::blockName(row.at("class")) + "." + (getter == "dDispenser.speed" ? "m_dDispenserSpeed" : getter);
-}
-
-double numberIn(const std::string& text) {
-  double number = std::nan("");
-  std::from_chars(text.data(), text.data() + text.size(), number);
-  return number;
-}
-
-double ruled(const TsvRow& row, double value) {
-  const std::string& rule = row.at("rule");
-  if (hasRule(row, "scale=")) value *= numberIn(rule.substr(rule.find("scale=") + 6));
-  if (!hasRule(row, "clamp=")) return value;
-  const std::string range = rule.substr(rule.find("clamp=") + 6);
-  const std::size_t dots = range.find("..");
-  const double low = numberIn(range.substr(0, dots)), high = numberIn(range.substr(dots + 2));
-  return value < low ? low : value > high ? high : value;  // an open end is no number and bounds nothing
 }
 
 // `echo="text"` prints text, value and line end; a text with '%' is a whole C format.

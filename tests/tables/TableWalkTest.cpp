@@ -102,7 +102,7 @@ TEST_F(TableWalk, EveryMemberHasItsGetterTypeAndDefault) {
     const BlockView& view = block(expected.at("class"));
     const Row* row = rowOfGetter(view, getter);
     if (expected.at("type") == "text") {
-      ASSERT_NE(row, nullptr);
+      ASSERT_NE(row, nullptr) << "no row in the block's table";
       ASSERT_NE(row->field.getText, nullptr);
       const char* text = row->field.getText(view.block);
       EXPECT_EQ(text == nullptr ? "null" : std::string(text),
@@ -110,7 +110,7 @@ TEST_F(TableWalk, EveryMemberHasItsGetterTypeAndDefault) {
       continue;
     }
     if (expected.at("type") != "int" && expected.at("type") != "double" && expected.at("type") != "bool") continue;
-    ASSERT_NE(row, nullptr);
+    ASSERT_NE(row, nullptr) << "no row in the block's table";
     ASSERT_NE(row->field.get, nullptr);
     const FieldType type = expected.at("type") == "int"      ? FieldType::kInt
                            : expected.at("type") == "double" ? FieldType::kDouble
