@@ -2,10 +2,11 @@
 //
 // Why it finds what the search of the whole line finds: no key holds a '=', and those that begin or end with a blank
 // are left out, so that none reaches over the '=' or over the blanks around KEY and NUMBER. In front of the '=' there
-// can only be parts of KEY, and these are known when the table is built (`found`). Behind it there is none, as every
-// key holds a character that no number has. The same goes for the closing tag. All this is checked as the table is
-// built. Where a row asks for more than its number, or more than a number stands behind the '=', the short way is left
-// with the keys that stand in front of it, and the text behind it is searched.
+// can only be parts of KEY, and these are known when the table is built (`found`). In the number there is none, nor
+// does one begin there, as every key's first word holds a character that no number has. The same goes for the closing
+// tag. All this is checked as the table is built. Where a row asks for more than its number, or more than a number
+// stands behind the '=', the short way is left with the keys that stand in front of it, and the text behind it is
+// searched.
 #pragma once
 
 #include <array>
@@ -166,7 +167,10 @@ struct ExactKeysTable {
   static constexpr void check(std::string_view text) {
     if (text.empty() || text.size() > 255) throw "a key has 1 to 255 characters";
     if (text.find('=') != text.npos) throw "a key that holds a '=' is never found";
-    if (isPartOfNumbers(withoutBlanks(text))) throw "a key needs a character that is not part of a number";
+    // The text behind a number is searched from the blank on that ends it.
+    const std::string_view key = withoutBlanks(text);
+    const std::string_view word(key.begin(), std::ranges::find_if(key, isBlank));
+    if (isPartOfNumbers(word)) throw "a key's first word needs a character that is not part of a number";
   }
 
   // False where other keys are a part of this one. A key that ends with a blank is in other lines a part of what
