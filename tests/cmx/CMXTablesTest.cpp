@@ -112,8 +112,9 @@ TEST_F(CMXTables, EveryKeySetsItsMembersAndNothingElse) {
     auto expected = defaults;
     for (const Expected& other : m_keys) {
       if (other.at("tag") != key.at("tag") || line.find(unquoted(other.at("key"))) == line.npos) continue;
-      const zeb::Row* row =
-          zebtest::rowOfGetter(tableOfClass(other.at("class"))->sections.front().rows, other.at("getter"));
+      const zeb::BlockTable* table = tableOfClass(other.at("class"));
+      ASSERT_NE(table, nullptr) << other.at("class");
+      const zeb::Row* row = zebtest::rowOfGetter(table->sections.front().rows, other.at("getter"));
       ASSERT_NE(row, nullptr) << other.at("getter");
       expected[key.at("tag") + "." + std::string(row->field.member)] =
           other.at("lookup") == "word" ? "7" : std::to_string(7.0);

@@ -57,6 +57,7 @@ TEST(MoldingType, EveryMoldingTypeHasItsToolAndItsStartValues) {
   }
   for (const auto& [code, name] : toolClasses) {
     const CZEBKNCMPCompParm set(code, 7);
+    ASSERT_NE(zeb::Inspection::tool(set), nullptr) << "kMoldingTypes lacks " << name << ", code " << code;
     CZEBCMPInternalTool& tool = *zeb::Inspection::tool(set);
     EXPECT_EQ(typeid(tool).name(), std::to_string(name.size()) + name);
     EXPECT_EQ(tool.m_iMoldingType, code);

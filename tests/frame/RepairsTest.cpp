@@ -112,6 +112,7 @@ TEST(Repairs, FollowTheirStepsForEveryMoldingMaterialWaxAndVenting) {
           SCOPED_TRACE(testing::Message() << "molding " << molding << " material " << material << " wax " << wax
                                           << " enhanced venting " << venting);
           CZEBKNCMPCompParm set(molding, material);
+          ASSERT_NE(set.getGeneralParm(), nullptr);
           set.setIsWaxMat(wax);
           if (venting == 1) set.setSolidFillBlock(enhanced.path());
           set.modifyParameters();

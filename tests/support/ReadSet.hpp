@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,7 @@ inline const Values& defaultValues() {
 /// A set that has read this text.
 struct Set : CZEBKNCMPCompParm {
   explicit Set(const std::string& text, int molding = 0, int material = 0) : CZEBKNCMPCompParm(molding, material) {
+    if (getGeneralParm() == nullptr) throw std::invalid_argument("no molding type " + std::to_string(molding));
     read(text);
   }
   void read(const std::string& text) {

@@ -113,7 +113,7 @@ TEST(MoldingTypeTable, IsThatOfTheDefinition) {
   for (int code = 0; code <= static_cast<int>(defined.size()); ++code) {
     const zeb::OutputCapture undefinedIsTold;
     const bool isDefined = CZEBKNCMPCompParm(code, 0).getGeneralParm() != nullptr;
-    EXPECT_EQ(isDefined, code < static_cast<int>(defined.size())) << "code " << code;
+    EXPECT_EQ(isDefined, code < static_cast<int>(defined.size())) << "kMoldingTypes, code " << code;
   }
 }
 
