@@ -16,28 +16,22 @@ namespace {
 
 using Block = std::unique_ptr<void, void (*)(void*)>;
 
-// The section without its short way and without that for plain numbers.
-struct SearchedWhole {
-  explicit SearchedWhole(const zeb::Section& short_) : section(short_), plain(short_.filter.keys.size()) {
-    static constexpr std::uint8_t kNoKeys[2] = {};
-    section.exactKeys = {nullptr, kNoKeys, 0, 63};
-    section.plainNumbers = plain;
-  }
-
-  zeb::Section section;
-  std::vector<zeb::PlainNumber> plain;
-};
+zeb::Section withoutShortWay(zeb::Section section) {
+  static constexpr std::uint8_t kNoKeys[2] = {};
+  section.exactKeys = {nullptr, kNoKeys, 0, 63};
+  return section;
+}
 
 bool holds(std::string_view line, std::string_view text) { return line.find(text) != line.npos; }
 
 class SectionLines {
  public:
   SectionLines(const zeb::BlockTable& table, const zeb::Section& section)
-      : m_table(table), m_section(section), m_whole(section) {}
+      : m_table(table), m_section(section), m_whole(withoutShortWay(section)) {}
 
   // Whether the line reads as defined; says why not.
   testing::AssertionResult readsAsDefined(const std::string& line) const {
-    const Block read = readInto(m_section, line), searched = readInto(m_whole.section, line);
+    const Block read = readInto(m_section, line), searched = readInto(m_whole, line);
     for (const zeb::Row& row : m_section.rows) {
       if (!zebtest::sameContent(row.field, read.get(), searched.get())) return differs(line, row, "the whole search");
     }
@@ -105,7 +99,7 @@ class SectionLines {
 
   const zeb::BlockTable& m_table;
   const zeb::Section& m_section;
-  SearchedWhole m_whole;
+  zeb::Section m_whole;
 };
 
 struct KeyedSection {

@@ -15,7 +15,9 @@
 #include <sstream>
 #include <string>
 
+#include "blocks/CZEBCMPGeneralParm.h"
 #include "engine/ExactLine.hpp"
+#include "engine/ParameterTable.hpp"
 #include "engine/TextOutput.hpp"
 #include "engine/ValueText.hpp"
 
@@ -133,13 +135,14 @@ bool scansAsC(std::string_view text, const char* format) {
   return true;
 }
 
-// Of a text that is a number and blanks, and of no other, the short way takes the number; it need not.
+// Of a text that begins with a number and a blank behind it, and of no other, the short way takes the number; it need
+// not. No key of the section stands in any of the texts.
 template <class Number>
 bool isStoredShort(std::string_view text, const Taken<Number>& expected, bool& isWrong) {
   Number value{-7};
-  const bool isStored = zeb::storeLoneNumber(text.data(), text.data() + text.size(), value);
-  bool isAlone = expected.used != 0;
-  for (const char c : text.substr(expected.used)) isAlone = isAlone && zeb::isBlank(c);
+  static const zeb::KeyFilter& filter = zeb::tableOf<CZEBCMPGeneralParm>().sections.front().filter;
+  const bool isStored = zeb::storeShort(text.data(), text.data() + text.size(), filter, value);
+  const bool isAlone = expected.used != 0 && (expected.used == text.size() || zeb::isBlank(text[expected.used]));
   isWrong = isWrong || !same(value, isStored ? expected.value : Number{-7}) || (isStored && !isAlone);
   return isStored;
 }
