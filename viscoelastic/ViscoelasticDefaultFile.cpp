@@ -13,6 +13,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "engine/FixedText.hpp"
 #include "engine/TextOutput.hpp"
 #include "viscoelastic/ViscoelasticFile.hpp"
 
@@ -22,52 +23,52 @@ namespace {
 
 constexpr double kDynPerCm2InMPa = 1e7;
 
-constexpr std::string_view kDefaultTagBlocks =
-    "<VE_Solver>\n"
-    "VE_Para1 = 0.7 \n"
-    "</VE_Solver>\n"
-    "\n\n"
-    "<WhiteMetzner_Gai>\n"
-    "WM_Switch = 1 \n"
-    "WM_Para1  = 0.1 \n"
-    "WM_Para2  = 0.8 \n"
-    "</WhiteMetzner_Gai>\n"
-    "\n\n"
-    "<PLOT_MATERIAL>\n"
-    "FlagIsPlotShearVis  = 0 \n"
-    "FlagIsPlotElongVis  = 0 \n"
-    "RefTemperature      = 200 \n"
-    "DeltaTemperature    = 20  \n"
-    "DeltaTime           = 0.01 \n"
-    "TargetTime          = 20  \n"
-    "SRateLowerBound     = 0.01 \n"
-    "SRateUpperBound     = 1000 \n"
-    "</PLOT_MATERIAL>\n"
-    "\n\n"
-    "<PLOT_TRANSIENT_SHEAR_MATERIAL>\n"
-    "FlagIsPlotShearVis_Transient  = 0 \n"
+// Of both transient blocks.
+constexpr FixedText kTransientRange(
     "RefTemperature                = 200 \n"
     "DeltaTemperature              = 20  \n"
     "DeltaTime                     = 0.01 \n"
     "TargetTime                    = 200  \n"
     "SRateLowerBound               = 0.01 \n"
     "SRateUpperBound               = 10 \n"
-    "TotalSetofInputSRate          = -1 \n"
-    "ShearRate                     = 0.01 \n"
-    "</PLOT_TRANSIENT_SHEAR_MATERIAL>\n"
-    "\n\n"
-    "<PLOT_TRANSIENT_EXTENSION_MATERIAL>\n"
-    "FlagIsPlotElongVis_Transient  = 0 \n"
-    "RefTemperature                = 200 \n"
-    "DeltaTemperature              = 20  \n"
-    "DeltaTime                     = 0.01 \n"
-    "TargetTime                    = 200  \n"
-    "SRateLowerBound               = 0.01 \n"
-    "SRateUpperBound               = 10 \n"
-    "TotalSetofInputSRate          = -1 \n"
-    "StrainRate                    = 0.01 \n"
-    "</PLOT_TRANSIENT_EXTENSION_MATERIAL>\n"
-    "\n";
+    "TotalSetofInputSRate          = -1 \n");
+
+constexpr auto kDefaultTagBlocks = FixedText(
+                                       "<VE_Solver>\n"
+                                       "VE_Para1 = 0.7 \n"
+                                       "</VE_Solver>\n"
+                                       "\n\n"
+                                       "<WhiteMetzner_Gai>\n"
+                                       "WM_Switch = 1 \n"
+                                       "WM_Para1  = 0.1 \n"
+                                       "WM_Para2  = 0.8 \n"
+                                       "</WhiteMetzner_Gai>\n"
+                                       "\n\n"
+                                       "<PLOT_MATERIAL>\n"
+                                       "FlagIsPlotShearVis  = 0 \n"
+                                       "FlagIsPlotElongVis  = 0 \n"
+                                       "RefTemperature      = 200 \n"
+                                       "DeltaTemperature    = 20  \n"
+                                       "DeltaTime           = 0.01 \n"
+                                       "TargetTime          = 20  \n"
+                                       "SRateLowerBound     = 0.01 \n"
+                                       "SRateUpperBound     = 1000 \n"
+                                       "</PLOT_MATERIAL>\n"
+                                       "\n\n"
+                                       "<PLOT_TRANSIENT_SHEAR_MATERIAL>\n"
+                                       "FlagIsPlotShearVis_Transient  = 0 \n") +
+                                   kTransientRange +
+                                   FixedText(
+                                       "ShearRate                     = 0.01 \n"
+                                       "</PLOT_TRANSIENT_SHEAR_MATERIAL>\n"
+                                       "\n\n"
+                                       "<PLOT_TRANSIENT_EXTENSION_MATERIAL>\n"
+                                       "FlagIsPlotElongVis_Transient  = 0 \n") +
+                                   kTransientRange +
+                                   FixedText(
+                                       "StrainRate                    = 0.01 \n"
+                                       "</PLOT_TRANSIENT_EXTENSION_MATERIAL>\n"
+                                       "\n");
 
 std::string headLine(std::initializer_list<double> values) {
   std::string line;
@@ -94,7 +95,7 @@ std::string defaultText(const CZEBCMPVEParm& block) {
                     block.getCtrlParam_ShrateLowBond2()});
   text += std::to_string(block.getVEModel()) + ' ' + formatFixed(block.getGradientParam_SmoothFactor()) + " 0\n";
   text += "-1\n\n";
-  text += kDefaultTagBlocks;
+  text += kDefaultTagBlocks.view();
   return text;
 }
 
