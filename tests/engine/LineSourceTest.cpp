@@ -1,13 +1,16 @@
 // The collective line source: what arrives on each rank, and which calls that takes.
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <filesystem>
+#include <iostream>
 #include <sstream>
 #include <stdexcept>
 #include <streambuf>
 #include <vector>
 
 #include "engine/LineSource.hpp"
+#include "engine/TextOutput.hpp"
 #include "frame/CZEBKNCMPCompParm.h"
 #include "inspect/set/Inspection.hpp"
 #include "inspect/set/OutputCapture.hpp"
@@ -322,6 +325,36 @@ TEST(LineSourceEnd, ALineThatAReadErrorCutsIsNotDelivered) {
   EXPECT_EQ(source.getLine(shared, line), 1);
   EXPECT_EQ(source.getLine(shared, line), 0);
   EXPECT_EQ(com.log().calls(), (Lines{"Barrier", "Broadi 0", "Broadc \"abc\"", "Barrier", "Broadi -1"}));
+}
+
+// Rank 1 of two; broadcasts fill the whole buffer.
+struct WithoutTerminator final : CZEBCom {
+  int GetCPUId() override { return 1; }
+  int GetNCPU() override { return 2; }
+  void Barrier() override {}
+  void Broadi(int& value) override { value = 0; }
+  void Broadd(double&) override {}
+  void Broadc(char (&buffer)[zeb::ZEBLINE_MAX]) override { std::memset(buffer, 'x', sizeof buffer); }
+};
+
+TEST(LineSource, EndsALineThatFillsTheWholeBuffer) {
+  WithoutTerminator com;
+  std::istringstream nothing;
+  std::string line;
+  EXPECT_EQ(zeb::LineSource{.com = &com}.getLine(nothing, line), 1);
+  EXPECT_EQ(line, std::string(254, 'x'));
+}
+
+TEST(TextOutput, LeavesNothingInTheStreamsBuffer) {
+  struct Counting : std::stringbuf {
+    int sync() override { return ++flushes, 0; }
+    int flushes = 0;
+  } buffer;
+  std::streambuf* const before = std::cout.rdbuf(&buffer);
+  zeb::writeOut("a line\n");
+  std::cout.rdbuf(before);
+  EXPECT_EQ(buffer.str(), "a line\n");
+  EXPECT_EQ(buffer.flushes, 1);
 }
 
 TEST(LineSource, IsTheToolsOwn) {
