@@ -2,7 +2,7 @@
 #include "engine/LineSource.hpp"
 
 #include <algorithm>
-#include <cstring>
+#include <iterator>
 #include <locale>
 #include <string_view>
 
@@ -40,9 +40,8 @@ bool LineSource::share(bool isThere, std::string_view line, char (&shared)[ZEBLI
   int end = 0;
   if (reads()) {
     end = isThere ? 0 : -1;
-    const std::string_view text = line.substr(0, isThere ? ZEBLINE_MAX - 1 : 0);
-    std::memcpy(shared, text.data(), text.size());
-    std::memset(shared + text.size(), 0, ZEBLINE_MAX - text.size());
+    const std::string_view text = line.substr(0, ZEBLINE_MAX - 1);
+    std::fill(std::copy(text.begin(), text.end(), shared), std::end(shared), '\0');
     if (isThere && traces()) trace(alwaysTrace ? line : text);
   }
   if (barrier) com->Barrier();
@@ -70,7 +69,8 @@ bool LineReader::nextShared(std::string_view& line) {
   const bool isThere = m_source.reads() && m_input.next(read, m_equals);
   const bool delivered = m_source.share(isThere, read, m_shared.text);
   line = delivered ? m_shared.text : std::string_view();
-  m_equals = static_cast<const char*>(std::memchr(line.data(), '=', line.size()));
+  const std::size_t equals = line.find('=');
+  m_equals = equals == line.npos ? nullptr : line.data() + equals;
   return delivered;
 }
 
